@@ -1,0 +1,14 @@
+# SPDX-FileCopyrightText: 2026 The Pilotel Developers
+# SPDX-License-Identifier: MIT
+# AddressSanitizer and UndefinedBehaviorSanitizer, and coverage, for the whole tree.
+if(PILOTEL_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    # gcc leaves float-cast-overflow out of "undefined"; it is the check that a device's answer meets.
+    add_compile_options(-fsanitize=float-cast-overflow,float-divide-by-zero)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+
+if(PILOTEL_COVERAGE)
+    add_compile_options(--coverage)
+    add_link_options(--coverage)
+endif()
