@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The process entry: announces itself, brings the device SDK up and runs the main window.
+#include "mainwindow.h"
+#include "veltrix_sdk/sdk.h"
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QString>
+#include <QVersionNumber>
+
+#include <iostream>
+#include <string>
+
+int main(int argc, char *argv[])
+{
+    using namespace veltrix_sdk;
+
+    std::cout << "Start QT veltrix command application" << std::endl;
+    VeltrixSdk::get_instance()->initialize();
+
+    const std::string qtVersion{QLibraryInfo::version().toString().toLocal8Bit().constData()};
+    SDKLogger(severity_trace).GetILogger() << "QT Version " << qtVersion;
+    std::cout << "QT Version " << qtVersion << std::endl;
+
+    const std::string buildKind{QLibraryInfo::isDebugBuild() ? "DEBUG" : "RELEASE"};
+    SDKLogger(severity_trace).GetILogger() << "QT Built in " << buildKind;
+    std::cout << "QT Built in " << buildKind << std::endl;
+
+    const QString testLine{"Test log in debug"};
+    std::cout << testLine.toUtf8().constData() << std::endl;
+
+    const QApplication application{argc, argv};
+    MainWindow window{nullptr};
+    window.show();
+    return QApplication::exec();
+}

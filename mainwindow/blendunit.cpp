@@ -1,0 +1,204 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// Image settings of the Blend Unit: reading, zoom, warp, the visible channel and saving.
+#include "encodings.h"
+#include "logtext.h"
+#include "mainwindow.h"
+#include "ui_mainwindow.h"
+#include "veltrix_sdk/device_control.h"
+#include "widgetvalues.h"
+
+using namespace veltrix_sdk;
+
+namespace
+{
+
+/// The units whose zoom can be shown.
+constexpr int infraredZoom{0};
+constexpr int fusionZoom{2};
+
+} // namespace
+
+bool MainWindow::readBlendUnitParameters()
+{
+    if (!isDeviceOpen()) {
+        appendLog("Could not read Fusion parameters");
+        return false;
+    }
+    appendLog("Start reading Fusion parameters");
+    FirmwareVersions versions{};
+    device->getFirmwareVersions(&versions);
+    if (versions.processor == 0 && versions.fpga == 0) {
+        showNotConnectedBox();
+        appendLog("End Read camera parameters : COM Error");
+        return false;
+    }
+    device->startReading();
+    const auto topDigits = [](std::uint16_t word) {
+        return versionDigit(word, 3) + '.' + versionDigit(word, 2) + '.' + versionDigit(word, 1);
+    };
+    appendLog("RISC-V version = " + topDigits(versions.processor) + " Beta" +
+              versionDigit(versions.processor, 0) + "\nFPGA version = " + topDigits(versions.fpga) + '.' +
+              versionDigit(versions.fpga, 0));
+    appendLog(joinText("Serial number = ", device->getSerialNumber()));
+    readVideoMode();
+    readZoom(fusionZoom);
+    readVisibleAgc();
+    readVisibleClhe();
+    readStartingMode();
+    readTemp(0);
+    appendLog("End reading Fusion parameters");
+    showText(*ui->BitTextEdit, QString::fromStdString("0x" + hexText(device->getBitStatus())));
+    return true;
+}
+
+void MainWindow::readZoom(int selector)
+{
+    if (!isDeviceOpen()) {
+        return;
+    }
+    ZoomConfig zoom{};
+    ZoomResolution resolution{};
+    device->getZoomConfig(&zoom);
+    device->getZoomResolution(&resolution);
+    const auto tell = [&](const std::string &stream) {
+        appendLog(joinText(stream, " ZOOM factor value = ", zoom.factor));
+        appendLog(joinText(stream, " X zoom resolution = ", resolution.x));
+        appendLog(joinText(stream, " Y zoom resolution = ", resolution.y));
+        appendLog(joinText(stream, " X zoom center = ", zoom.xCenter));
+        appendLog(joinText(stream, " Y zoom center = ", zoom.yCenter));
+    };
+    // The method goes to the infrared side's box on both paths.
+    if (selector == infraredZoom) {
+        showNumber(*ui->factorZoomEdit, static_cast<double>(zoom.factor));
+        ui->methodZoomEdit->setCurrentIndex(zoom.method);
+        showNumber(*ui->xCenterZoomEdit, zoom.xCenter);
+        showNumber(*ui->yCenterZoomEdit, zoom.yCenter);
+        showNumber(*ui->xResolutionZoomEdit, resolution.x);
+        showNumber(*ui->yResolutionZoomEdit, resolution.y);
+        tell("IR");
+    } else if (selector == fusionZoom) {
+        showNumber(*ui->FusionZoomFactorSB, static_cast<double>(zoom.factor));
+        ui->methodZoomEdit->setCurrentIndex(zoom.method);
+        tell("Fusion");
+    }
+}
+
+void MainWindow::configureZoomClicked()
+{
+    if (!isDeviceOpen()) {
+        return;
+    }
+    ZoomConfig zoom{};
+    lastCommandOk = device->getZoomConfig(&zoom);
+    if (!lastCommandOk) {
+        appendLog("Could not read zoom config so configure Zoom KO");
+        return;
+    }
+    zoom.factor = static_cast<float>(ui->FusionZoomFactorSB->value());
+    zoom.method = toByte(ui->FusionZoomMethod->currentIndex());
+    reportCommand(device->configureZoom(&zoom), "Configure Zoom");
+}
+
+void MainWindow::readFusionParamsExpert()
+{
+    if (!isDeviceOpen()) {
+        return;
+    }
+    Warp warp{};
+    warp.stream = toByte(ui->FusionWarpCB->currentIndex());
+    lastCommandOk = device->getWarp(&warp);
+    if (lastCommandOk) {
+        showNumber(*ui->WarpA11CoeffSB, warp.a11);
+        showNumber(*ui->WarpA12CoeffSB, warp.a12);
+        showNumber(*ui->WarpA13CoeffSB, warp.a13);
+        showNumber(*ui->WarpA21CoeffSB, warp.a21);
+        showNumber(*ui->WarpA22CoeffSB, warp.a22);
+        showNumber(*ui->WarpA23CoeffSB, warp.a23);
+    }
+}
+
+void MainWindow::fusionWarpClicked()
+{
+    if (!isDeviceOpen()) {
+        return;
+    }
+    // Column by column, whole numbers: the fraction that a box shows never reaches the device.
+    const bool ok{device->setWarp(
+        ui->FusionWarpCB->currentIndex(), truncateToInt32(ui->WarpA11CoeffSB->value()),
+        truncateToInt32(ui->WarpA21CoeffSB->value()), truncateToInt32(ui->WarpA12CoeffSB->value()),
+        truncateToInt32(ui->WarpA22CoeffSB->value()), truncateToInt32(ui->WarpA13CoeffSB->value()),
+        truncateToInt32(ui->WarpA23CoeffSB->value()))};
+    reportOutcome(ok, "Warp configuration applied correctly", "Could not changed warp configuration");
+}
+
+void MainWindow::readVisibleAgc()
+{
+    if (!isDeviceOpen()) {
+        return;
+    }
+    VisibleAgc agc{};
+    lastCommandOk = device->getVisibleAgc(&agc);
+    if (!lastCommandOk) {
+        appendLog("Could not get visible AGC configuration");
+        return;
+    }
+    ui->VisAgcTargetSB->setValue(agc.target);
+    ui->VisAgcTHSB->setValue(agc.threshold);
+    ui->VisAgcCoeffSB->setValue(agc.filterCoefficient);
+    appendLog(joinText("Visible AGC target = ", +agc.target));
+    appendLog(joinText("Visible AGC threshold = ", +agc.threshold));
+    appendLog(joinText("Visible AGC filter coefficient = ", +agc.filterCoefficient));
+}
+
+void MainWindow::visibleAgcChanged()
+{
+    if (isDeviceOpen()) {
+        reportOutcome(device->setVisibleAgc(ui->VisAgcTargetSB->value(), toByte(ui->VisAgcTHSB->value()),
+                                            toByte(ui->VisAgcCoeffSB->value())),
+                      "Visible AGC configuration applied correctly",
+                      "Could not changed visisble AGC configuration");
+    }
+}
+
+void MainWindow::readVisibleClhe()
+{
+    if (!isDeviceOpen()) {
+        return;
+    }
+    VisibleClhe clhe{};
+    lastCommandOk = device->getVisibleClhe(&clhe);
+    if (!lastCommandOk) {
+        appendLog("Could not get visible CLHE configuration");
+        return;
+    }
+    showNumber(*ui->VisClheTHSB, clhe.threshold);
+    ui->VisClheCoeffSB->setValue(clhe.filterCoefficient);
+    appendLog(joinText("Visible CLHE threshold = ", clhe.threshold));
+    appendLog(joinText("Visible filter coefficient = ", +clhe.filterCoefficient));
+}
+
+void MainWindow::visibleClheChanged()
+{
+    if (isDeviceOpen()) {
+        reportOutcome(device->setVisibleClhe(ui->VisClheTHSB->value(), toByte(ui->VisClheCoeffSB->value())),
+                      "Visible CLHE configuration applied correctly",
+                      "Could not changed visisble CLHE configuration");
+    }
+}
+
+void MainWindow::saveBlendUnitExpertClicked()
+{
+    if (isDeviceOpen()) {
+        reportOutcome(device->saveBlendUnitParameters(1), "Blend unit expert parameters have been saved",
+                      "Could not saved blend unit expert parameters");
+    }
+}
+
+void MainWindow::saveBlendUnitUserClicked()
+{
+    if (isDeviceOpen()) {
+        reportOutcome(device->saveBlendUnitParameters(0), "Blend unit parameters have been saved",
+                      "Could not saved blend unit parameters");
+    }
+}

@@ -1,0 +1,202 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// Reading the camera: its whole user-level state into the controls and the log.
+#include "encodings.h"
+#include "logtext.h"
+#include "mainwindow.h"
+#include "region.h"
+#include "togglesetting.h"
+#include "veltrix_sdk/device_control.h"
+#include "widgetvalues.h"
+
+#include <array>
+#include <cstddef>
+
+using namespace veltrix_sdk;
+
+namespace
+{
+
+/// What bits 12 and 13 of the camera's FPGA word say about the build.
+const char *fpgaBuild(std::uint16_t fpga)
+{
+    const bool nineHertz{(fpga & 0x1000U) != 0};
+    const bool mipi{(fpga & 0x2000U) != 0};
+    if (mipi) {
+        return nineHertz ? " MIPI 9Hz" : " MIPI 60Hz";
+    }
+    return nineHertz ? " 9Hz" : " 60Hz";
+}
+
+} // namespace
+
+bool MainWindow::readCameraParameters()
+{
+    if (!isDeviceOpen()) {
+        showNotConnectedBox();
+        return false;
+    }
+    appendLog("Start reading camera parameters");
+    FirmwareVersions versions{};
+    device->getFirmwareVersions(&versions);
+    if (versions.processor == 0 && versions.fpga == 0) {
+        showNotConnectedBox();
+        appendLog("End Read camera parameters : COM Error");
+        return false;
+    }
+    device->startReading();
+    appendLog("RISC-V version = " + versionText(versions.processor) +
+              "\nFPGA version = " + versionText(versions.fpga) + fpgaBuild(versions.fpga));
+    readIdentity();
+    readOutputs();
+    readFlipAndPolarity();
+
+    const double gamma{fromFixedPoint16_16(device->getGamma())};
+    GammaUserValueChanged(gamma);
+    appendLog(joinText("Gamma value = ", gamma));
+
+    readRegions();
+    readLut();
+    readTemp(1);
+    readEdgeCorrection();
+    appendLog("End reading camera parameters");
+    return true;
+}
+
+void MainWindow::readIdentity()
+{
+    appendLog(joinText("Serial number = ", device->getSerialNumber()));
+    appendLog(joinText("Sensor serial number = ", device->getSensorSerialNumber()));
+    OperatingInfo info{};
+    device->getOperatingInfo(&info);
+    appendLog(joinText("Operating time = ", info.operatingMinutes, " min"));
+    appendLog(joinText("Startup number = ", info.startupCount));
+}
+
+bool MainWindow::readToggle(const ToggleSetting &setting)
+{
+    const bool on{(device->*setting.get)()};
+    QPushButton *const button{ui->*setting.button};
+    button->setChecked(on);
+    button->setText(tr(on ? setting.activatedText : setting.deactivatedText));
+    return on;
+}
+
+void MainWindow::readOutputs()
+{
+    const struct
+    {
+        const ToggleSetting &setting;
+        const char *label;
+    } outputs[]{
+        {vignettingCorrection, "Vignetting Correction state = "},
+        {columnCorrection, "Column Correction state = "},
+        {sdiOutput, "BT656/SDI output value = "},
+        {parallelOutput, "Parallel output value = "},
+        {mipiOutput, "MIPI output value = "},
+    };
+    for (const auto &output : outputs) {
+        appendLog(joinText(output.label, enabledWord(readToggle(output.setting))));
+    }
+
+    ui->VideoOutputCB->setCurrentIndex(device->getVideoOutput());
+    appendLog("Video output = " + ui->VideoOutputCB->currentText().toStdString());
+
+    ui->frameRateCB->setCurrentIndex(frameRateIndex(device->getFrameRate(), 0));
+    appendLog("Frame rate = " + ui->frameRateCB->currentText().toStdString());
+}
+
+void MainWindow::readFlipAndPolarity()
+{
+    appendLog(joinText("Horizontal flip value = ", readToggle(horizontalFlip)));
+    appendLog(joinText("Polarity value = ", readToggle(polarity)));
+}
+
+void MainWindow::readRegions()
+{
+    // In the order in which the device's readers number the regions.
+    const struct
+    {
+        Region region;
+        const char *name;
+    } regions[]{
+        {Region::Roi0Inclusive, "ROI0 inclusive"},
+        {Region::Roi0Exclusive, "ROI0 exclusive"},
+        {Region::Roi1Inclusive, "ROI1 inclusive"},
+        {Region::Roi1Exclusive, "ROI1 exclusive"},
+    };
+
+    // All are read before any widget changes: an enable box that changes sends its region back.
+    std::array<std::array<std::uint32_t, 4>, std::size(regions)> pixels{};
+    for (std::uint32_t number{0}; number < pixels.size(); ++number) {
+        pixels[number] = {device->getRoiX1(number), device->getRoiY1(number), device->getRoiX2(number),
+                          device->getRoiY2(number)};
+    }
+
+    for (std::size_t number{0}; number < pixels.size(); ++number) {
+        const RegionWidgets widgets{regionWidgets(*ui, regions[number].region)};
+        const auto &[x1, y1, x2, y2] = pixels[number];
+        if (widgets.enable != nullptr) {
+            widgets.enable->setChecked(x1 != 0);
+        }
+        const struct
+        {
+            QSpinBox *spinBox;
+            const char *name;
+            std::uint32_t value;
+        } coordinates[]{
+            {widgets.x1, "X1", x1},
+            {widgets.y1, "Y1", y1},
+            {widgets.x2, "X2", x2},
+            {widgets.y2, "Y2", y2},
+        };
+        for (const auto &coordinate : coordinates) {
+            showNumber(*coordinate.spinBox, coordinate.value);
+            appendLog(joinText(regions[number].name, ' ', coordinate.name, " value = ", coordinate.value));
+        }
+    }
+}
+
+void MainWindow::readLut()
+{
+    const double clhe{static_cast<double>(device->getClhe())};
+    ClheUserValueChanged(clhe);
+    appendLog(joinText("CLHE value = ", clhe));
+
+    ui->lutColorEdit->setCurrentIndex(device->getColorLut());
+    appendLog("Color Lut = " + ui->lutColorEdit->currentText().toStdString());
+
+    const std::uint8_t contrastType{device->getContrastType()};
+    ui->contrastTypeEdit->setCurrentIndex(contrastType);
+    appendLog(joinText("Contrast type = ", contrastType == 0 ? "CLHE (ROI)" : "CLAHE (LOCAL)"));
+
+    const std::uint8_t temporalFilter{device->getLutTemporalFilter()};
+    ui->TempoFilterSpin->setValue(temporalFilter);
+    appendLog(joinText("LUT temporal filter = ", +temporalFilter));
+
+    AhcGainLimitation limitation{};
+    if (device->getAhcGainLimitation(&limitation) == 1) {
+        ui->AhcBlackGainLimSpin->setValue(limitation.black);
+        ui->AhcWhiteGainLimSpin->setValue(limitation.white);
+        appendLog(joinText("AHC black gain limitation = ", +limitation.black));
+        appendLog(joinText("AHC white gain limitation = ", +limitation.white));
+    } else {
+        appendLog("AHC gain limitation read error");
+    }
+}
+
+void MainWindow::readEdgeCorrection()
+{
+    constexpr std::uint64_t sliderStepsPerUnit{10};
+    constexpr std::int64_t thresholdDistance{40};
+
+    const EdgeCorrection edge{device->getEdgeCorrection()};
+    ui->EdgeCorrectionCB->setCurrentIndex(edge.type);
+    showNumber(*ui->sharpeningGainSlider, edge.gain * sliderStepsPerUnit);
+    showNumber(*ui->SharpeningTHSlider, edge.firstThreshold * sliderStepsPerUnit);
+    // The first threshold is told by its distance from the second one; the device's own first threshold
+    // reaches the slider only.
+    appendLog(joinText("Correction type = ", +edge.type, "\nCorrection gain = ", edge.gain,
+                       "\nFirst threshold = ", edge.secondThreshold - thresholdDistance,
+                       "\nSecond threshold = ", edge.secondThreshold));
+}

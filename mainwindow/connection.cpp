@@ -1,0 +1,236 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// Discovery of ports, connection, device target and disconnection.
+#include "additionalports.h"
+#include "mainwindow.h"
+#include "messageboxes.h"
+#include "ui_mainwindow.h"
+#include "veltrix_sdk/sdk.h"
+
+#include <QAbstractSpinBox>
+#include <QMessageBox>
+
+using namespace veltrix_sdk;
+
+namespace
+{
+
+constexpr int blendUnitTarget{0};
+constexpr int cameraTarget{1};
+/// What a KR camera answers when it is asked who it is.
+constexpr std::uint8_t krIdentity{21};
+
+/// Fetched afresh at each use: the SDK may replace it.
+ISdkConfiguration &sdkConfiguration()
+{
+    return *VeltrixSdk::get_instance()->getConfiguration();
+}
+
+void configureExpertSlider(QSlider &slider, std::int32_t minimum, std::int32_t maximum, std::int32_t value)
+{
+    slider.setRange(minimum, maximum);
+    slider.setEnabled(true);
+    slider.setOrientation(Qt::Horizontal);
+    slider.setTickInterval(1);
+    slider.setSingleStep(1);
+    slider.setPageStep(10);
+    slider.setValue(value);
+}
+
+} // namespace
+
+void MainWindow::scanDevice()
+{
+    serialPorts = QSerialPortInfo::availablePorts();
+    QStringList names;
+    for (const QSerialPortInfo &port : qAsConst(serialPorts)) {
+        names.append(port.portName());
+    }
+    names.append(additionalPorts());
+
+    ui->selectDeviceComboBox->clear();
+    if (names.isEmpty()) {
+        QMessageBox::warning(this, QString{},
+                             tr("No COM port found!\nPlease, plug a COM port ans scan again."),
+                             QMessageBox::Ok);
+        return;
+    }
+    for (const QString &name : qAsConst(names)) {
+        ui->selectDeviceComboBox->addItem(QIcon{}, name, QVariant{});
+    }
+    ui->connectDeviceButton->setEnabled(true);
+    ui->selectDeviceComboBox->setEnabled(true);
+}
+
+void MainWindow::ChangeBaudRate()
+{
+    sdkConfiguration().setBaudRate(ui->BaudRateConnectCB->currentText().toInt());
+}
+
+bool MainWindow::isDeviceOpen() const
+{
+    // The device pointer outlives its device; the manager is held exactly until the device is returned.
+    return device != nullptr && deviceManager != nullptr;
+}
+
+bool MainWindow::openCommunication(std::string port)
+{
+    // A connection whose read failed, or whose port gave no device, is still to be handed back.
+    returnDevice();
+
+    const std::string communicationType{sdkConfiguration().getCommunicationType()};
+    if (communicationType != "UART") {
+        showAboutBox(this, tr("Invalid communication"), tr("Select an other serial port"));
+        return false;
+    }
+    portName = port;
+    appendLog("ALTERNATIVE SERIAL PORT : " + port);
+    deviceManager = VeltrixSdk::get_instance()->getDeviceManager();
+    device = deviceManager != nullptr ? deviceManager->openDevice(portName.c_str()) : nullptr;
+    if (device == nullptr) {
+        showAboutBox(this, tr("Invalid communication"), tr("Select an other serial port"));
+        return false;
+    }
+    return true;
+}
+
+void MainWindow::connectDevice()
+{
+    if (!openCommunication(ui->selectDeviceComboBox->currentText().toStdString())) {
+        return;
+    }
+    targetChanged(blendUnitTarget);
+    *deviceIdentity = 0;
+    if (device->connect(deviceIdentity) != 1 || *deviceIdentity != krIdentity) {
+        appendLog("No camera connected");
+        disconnectDevice();
+        return;
+    }
+    if (readAllParameters()) {
+        setConnectedControls(true);
+    }
+    updateTabAvailability();
+    if (sdkConfiguration().isExpertMode()) {
+        readParamsExpert();
+    }
+}
+
+void MainWindow::disconnectDevice()
+{
+    if (!isDeviceOpen()) {
+        return;
+    }
+    returnDevice();
+    setConnectedControls(false);
+}
+
+void MainWindow::returnDevice()
+{
+    commitPendingEdit();
+    if (isDeviceOpen()) {
+        deviceManager->closeDevice(device);
+    }
+    if (deviceManager != nullptr) {
+        VeltrixSdk::get_instance()->releaseDeviceManager(&deviceManager);
+        deviceManager = nullptr;
+    }
+}
+
+void MainWindow::commitPendingEdit()
+{
+    // Disabling the page takes the focus from the spin box, which reports its edit as finished: too late
+    // for a device that is closed by then.
+    if (auto *const spinBox = qobject_cast<QAbstractSpinBox *>(focusWidget())) {
+        spinBox->clearFocus();
+    }
+}
+
+void MainWindow::setConnectedControls(bool connected)
+{
+    QWidget *const usedWhileDisconnected[]{
+        ui->scanDeviceButton,
+        ui->selectDeviceComboBox,
+        ui->connectDeviceButton,
+    };
+    QWidget *const usedWhileConnected[]{
+        ui->paramSection,        ui->disconnectDeviceButton, ui->resetParamButtonUser,
+        ui->readParamButtonUser, ui->saveParamButtonUser,
+    };
+    for (QWidget *const widget : usedWhileDisconnected) {
+        widget->setEnabled(!connected);
+    }
+    for (QWidget *const widget : usedWhileConnected) {
+        widget->setEnabled(connected);
+    }
+}
+
+void MainWindow::showNotConnectedBox()
+{
+    showAboutBox(this, tr("Camera not connected"),
+                 tr("Unable to connect to %1").arg(QString::fromStdString(portName)));
+}
+
+void MainWindow::targetChanged(int target)
+{
+    if (!isDeviceOpen()) {
+        return;
+    }
+    lastCommandOk = device->setTarget(target);
+    if (lastCommandOk) {
+        readTemp(target);
+        appendLog("target correctly changed");
+    } else {
+        appendLog("Could not changed target");
+    }
+}
+
+bool MainWindow::readAllParameters()
+{
+    const int page{ui->Principal_tab->currentIndex()};
+    targetChanged(blendUnitTarget);
+    if (!readBlendUnitParameters()) {
+        return false;
+    }
+    targetChanged(cameraTarget);
+    const bool cameraRead{readCameraParameters()};
+    targetChanged(page);
+    return cameraRead;
+}
+
+void MainWindow::readParamsExpert()
+{
+    const int page{ui->Principal_tab->currentIndex()};
+    targetChanged(blendUnitTarget);
+    readFusionParamsExpert();
+    targetChanged(cameraTarget);
+    ReadKrParamsExpert();
+    targetChanged(page);
+}
+
+void MainWindow::updateTabAvailability()
+{
+    const ConfigurationWords &words{sdkConfiguration().words};
+    const struct
+    {
+        QSlider *slider;
+        QDoubleSpinBox *spinBox;
+        std::int32_t minimum;
+        std::int32_t maximum;
+        std::int32_t value;
+    } expertValues[]{
+        {ui->gskSlider, ui->gskEdit, words.gskMinimum, words.gskMaximum, words.gskDefault},
+        {ui->gfidSlider, ui->gfidEdit, words.gfidMinimum, words.gfidMaximum, words.gfidDefault},
+        {ui->gmsSlider, ui->gmsEdit, words.gmsMinimum, words.gmsMaximum, words.gmsDefault},
+        {ui->tintSlider, ui->tintEdit, words.tintMinimum, words.tintMaximum, words.tintDefault},
+    };
+    for (const auto &expertValue : expertValues) {
+        configureExpertSlider(*expertValue.slider, expertValue.minimum, expertValue.maximum,
+                              expertValue.value);
+        // The box of GMS keeps the whole 32-bit range whatever the slider covers.
+        if (expertValue.spinBox != ui->gmsEdit) {
+            expertValue.spinBox->setRange(expertValue.minimum, expertValue.maximum);
+        }
+        expertValue.spinBox->setValue(expertValue.value);
+        expertValue.spinBox->setSingleStep(1.0);
+    }
+}

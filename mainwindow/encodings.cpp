@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// How numbers travel between the widgets and the device, defined for every input.
+#include "encodings.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <limits>
+
+namespace
+{
+
+constexpr double fixedPointOne = 65536.0;
+// The first double above the 64-bit range; the range's own limit has no double of its own.
+constexpr double beyondInt64 = 9223372036854775808.0;
+constexpr std::array<std::uint8_t, 5> frameRatesHz{9, 25, 30, 50, 60};
+
+std::int64_t truncateToInt64(double value)
+{
+    if (std::isnan(value)) {
+        return 0;
+    }
+    if (value >= beyondInt64) {
+        return std::numeric_limits<std::int64_t>::max();
+    }
+    if (value < -beyondInt64) {
+        return std::numeric_limits<std::int64_t>::min();
+    }
+    return static_cast<std::int64_t>(value);
+}
+
+} // namespace
+
+std::uint32_t truncateToUint32(double value)
+{
+    return static_cast<std::uint32_t>(truncateToInt64(value));
+}
+
+std::int32_t truncateToInt32(double value)
+{
+    return static_cast<std::int32_t>(truncateToUint32(value));
+}
+
+std::uint32_t toFixedPoint16_16(double value)
+{
+    return truncateToUint32(value * fixedPointOne);
+}
+
+double fromFixedPoint16_16(std::uint32_t fixedPoint)
+{
+    return static_cast<double>(static_cast<float>(fixedPoint)) / fixedPointOne;
+}
+
+int roundToInt(double value)
+{
+    if (std::isnan(value)) {
+        return 0;
+    }
+    const double lowest{std::numeric_limits<int>::min()};
+    const double highest{std::numeric_limits<int>::max()};
+    return static_cast<int>(std::round(std::clamp(value, lowest, highest)));
+}
+
+std::uint8_t toByte(int value)
+{
+    return static_cast<std::uint8_t>(value);
+}
+
+int nearestInt(std::uint64_t value)
+{
+    constexpr std::uint64_t highest{std::numeric_limits<int>::max()};
+    return static_cast<int>(std::min(value, highest));
+}
+
+float toCelsius(float millikelvin)
+{
+    constexpr float freezingPointMillikelvin{273000.0F};
+    return (millikelvin - freezingPointMillikelvin) / 1000.0F;
+}
+
+std::uint8_t frameRateHz(int index)
+{
+    const bool known{index >= 0 && static_cast<std::size_t>(index) < frameRatesHz.size()};
+    return known ? frameRatesHz[static_cast<std::size_t>(index)] : std::uint8_t{0};
+}
+
+int frameRateIndex(std::uint8_t hertz, int otherwise)
+{
+    const auto *const found = std::find(frameRatesHz.begin(), frameRatesHz.end(), hertz);
+    return found != frameRatesHz.end() ? static_cast<int>(found - frameRatesHz.begin()) : otherwise;
+}

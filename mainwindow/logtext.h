@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// Text built from pieces, for the lines of the operation log.
+#pragma once
+
+#include <cstdint>
+#include <sstream>
+#include <string>
+
+/// The pieces one after the other, in the default format of a text stream: doubles with six significant
+/// digits and no trailing zeros. A byte is to be given as a number (`+value`).
+template <typename... Pieces>
+std::string joinText(const Pieces &...pieces)
+{
+    std::ostringstream stream;
+    (stream << ... << pieces);
+    return stream.str();
+}
+
+/// A number in lower-case hexadecimal digits without leading zeros.
+inline std::string hexText(std::uint32_t value)
+{
+    std::ostringstream stream;
+    stream << std::hex << value;
+    return stream.str();
+}
+
+/// One of the four hexadecimal digits of a version word; 3 is the most significant.
+inline std::string versionDigit(std::uint16_t word, unsigned digit)
+{
+    return hexText((static_cast<std::uint32_t>(word) >> (4 * digit)) & 0xFU);
+}
+
+/// The three low digits of a version word with dots between them: major, minor, patch.
+inline std::string versionText(std::uint16_t word)
+{
+    return versionDigit(word, 2) + '.' + versionDigit(word, 1) + '.' + versionDigit(word, 0);
+}
+
+/// The word for an on/off state.
+inline const char *enabledWord(bool enabled)
+{
+    return enabled ? "Enabled" : "Disabled";
+}

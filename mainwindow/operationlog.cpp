@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The operation log and the temperature read-outs.
+#include "encodings.h"
+#include "mainwindow.h"
+#include "ui_mainwindow.h"
+#include "veltrix_sdk/sdk.h"
+#include "widgetvalues.h"
+
+#include <QTextCursor>
+
+using namespace veltrix_sdk;
+
+void MainWindow::appendLog(std::string line)
+{
+    // Inserted at the end, wherever the operator has clicked.
+    ui->logView->moveCursor(QTextCursor::End);
+    ui->logView->insertPlainText(QString::fromStdString(line) + QLatin1Char{'\n'});
+    ui->logView->moveCursor(QTextCursor::End);
+    SDKLogger(severity_info).GetILogger() << line;
+}
+
+void MainWindow::reportOutcome(bool ok, const char *success, const char *failure)
+{
+    lastCommandOk = ok;
+    appendLog(ok ? success : failure);
+}
+
+void MainWindow::reportCommand(bool ok, const char *action)
+{
+    lastCommandOk = ok;
+    appendLog(std::string{action} + (ok ? " OK" : " KO"));
+}
+
+void MainWindow::readTemp(int fpgaType)
+{
+    if (!isDeviceOpen()) {
+        return;
+    }
+    Temperatures temperatures{};
+    device->getTemperatures(&temperatures);
+    const auto celsius = [](float millikelvin) {
+        return QString::number(static_cast<double>(toCelsius(millikelvin)), 'g', 6) + QLatin1Char{'C'};
+    };
+    switch (fpgaType) {
+    case 0:
+        showText(*ui->FusionFpgaTempTextEdit, celsius(temperatures.fpgaMillikelvin));
+        break;
+    case 1:
+        showText(*ui->FpgaTempTextEdit, celsius(temperatures.fpgaMillikelvin));
+        showText(*ui->SensorTempTextEdit, celsius(temperatures.sensorMillikelvin));
+        break;
+    default:
+        break;
+    }
+}

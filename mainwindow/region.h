@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The regions of interest: their numbers and their widgets.
+#pragma once
+
+#include "ui_mainwindow.h"
+
+/// A region of interest, by the number that the device's setters give it. The device's readers number the
+/// optional regions in another order, and neither side translates.
+enum class Region
+{
+    Roi0Inclusive = 0,
+    Roi1Inclusive = 1,
+    Roi0Exclusive = 2,
+    Roi1Exclusive = 3,
+};
+
+/// The widgets of one region; coordinates in pixels.
+struct RegionWidgets
+{
+    QSpinBox *x1;
+    QSpinBox *x2;
+    QSpinBox *y1;
+    QSpinBox *y2;
+    QCheckBox *enable; ///< Null for the region that is always on.
+};
+
+/// The widgets of a region.
+RegionWidgets regionWidgets(const Ui_MainWindow &ui, Region region);

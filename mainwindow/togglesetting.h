@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The camera's on/off settings with a toggle button: one row each.
+#pragma once
+
+#include "ui_mainwindow.h"
+#include "veltrix_sdk/device_control.h"
+
+/// An on/off setting of the camera and the button that shows it.
+struct ToggleSetting
+{
+    QPushButton *Ui_MainWindow::*button;
+    const char *activatedText;   ///< Of the button while the setting is on.
+    const char *deactivatedText; ///< Of the button while the setting is off.
+    bool (veltrix_sdk::IDeviceControl::*get)();
+};
+
+inline constexpr ToggleSetting columnCorrection{
+    &Ui_MainWindow::ColumnCorrectionButton,
+    QT_TRANSLATE_NOOP("MainWindow", "Column Correction: Activated"),
+    QT_TRANSLATE_NOOP("MainWindow", "Column Correction: Deactivated"),
+    &veltrix_sdk::IDeviceControl::getColumnCorrection,
+};
+
+inline constexpr ToggleSetting vignettingCorrection{
+    &Ui_MainWindow::VignettingCorrectionButton,
+    QT_TRANSLATE_NOOP("MainWindow", "Vignetting Correction: Activated"),
+    QT_TRANSLATE_NOOP("MainWindow", "Vignetting Correction: Deactivated"),
+    &veltrix_sdk::IDeviceControl::getVignettingCorrection,
+};
+
+inline constexpr ToggleSetting sdiOutput{
+    &Ui_MainWindow::sdiOutputButton,
+    QT_TRANSLATE_NOOP("MainWindow", "BT656/SDI Output: Activated"),
+    QT_TRANSLATE_NOOP("MainWindow", "BT656/SDI Output: Deactivated"),
+    &veltrix_sdk::IDeviceControl::getSdiOutput,
+};
+
+inline constexpr ToggleSetting parallelOutput{
+    &Ui_MainWindow::parallelOutputButton,
+    QT_TRANSLATE_NOOP("MainWindow", "Parallel Output: Activated"),
+    QT_TRANSLATE_NOOP("MainWindow", "Parallel Output: Deactivated"),
+    &veltrix_sdk::IDeviceControl::getParallelOutput,
+};
+
+inline constexpr ToggleSetting mipiOutput{
+    &Ui_MainWindow::mipiOutputButton,
+    QT_TRANSLATE_NOOP("MainWindow", "MIPI Output: Activated"),
+    QT_TRANSLATE_NOOP("MainWindow", "MIPI Output: Deactivated"),
+    &veltrix_sdk::IDeviceControl::getMipiOutput,
+};
+
+inline constexpr ToggleSetting horizontalFlip{
+    &Ui_MainWindow::horizontalFlipButton,
+    QT_TRANSLATE_NOOP("MainWindow", "Horizontal Flip: Activated"),
+    QT_TRANSLATE_NOOP("MainWindow", "Horizontal Flip: Deactivated"),
+    &veltrix_sdk::IDeviceControl::getHorizontalFlip,
+};
+
+inline constexpr ToggleSetting polarity{
+    &Ui_MainWindow::polarityButton,
+    QT_TRANSLATE_NOOP("MainWindow", "Invert Polarity: Activated"),
+    QT_TRANSLATE_NOOP("MainWindow", "Invert Polarity: Deactivated"),
+    &veltrix_sdk::IDeviceControl::getPolarity,
+};

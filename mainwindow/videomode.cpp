@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// Video mode and starting mode of the Blend Unit.
+#include "mainwindow.h"
+#include "ui_mainwindow.h"
+#include "veltrix_sdk/device_control.h"
+
+#include <array>
+
+/// A stream that the Blend Unit can deliver: the device's number of it, its button and what is told.
+struct VideoMode
+{
+    std::uint8_t number;
+    QPushButton *Ui_MainWindow::*button;
+    const char *success;
+    const char *failure;
+};
+
+namespace
+{
+
+constexpr std::array<VideoMode, 3> videoModes{{
+    {0, &Ui_MainWindow::BU_IR_MODE_PB, "IR mode activated", "Could not configure IR mode"},
+    {1, &Ui_MainWindow::BU_VISIBLE_MODE_PB, "Visible mode activated", "Could not configure visible mode"},
+    {2, &Ui_MainWindow::BU_FUSION_MODE_PB, "Fusion mode activated", "Could not configure fusion mode"},
+}};
+
+} // namespace
+
+void MainWindow::irModeClicked()
+{
+    switchVideoMode(videoModes[0]);
+}
+
+void MainWindow::visibleModeClicked()
+{
+    switchVideoMode(videoModes[1]);
+}
+
+void MainWindow::fusionModeClicked()
+{
+    switchVideoMode(videoModes[2]);
+}
+
+void MainWindow::switchVideoMode(const VideoMode &mode)
+{
+    if (!isDeviceOpen()) {
+        return;
+    }
+    lastCommandOk = device->setVideoMode(mode.number);
+    if (lastCommandOk) {
+        showVideoMode(mode);
+    } else {
+        // The click has toggled the button already; the mode is what it was.
+        if (sender() == ui->*mode.button) {
+            (ui->*mode.button)->toggle();
+        }
+        appendLog(mode.failure);
+    }
+}
+
+void MainWindow::showVideoMode(const VideoMode &mode)
+{
+    for (const VideoMode &other : videoModes) {
+        (ui->*other.button)->setChecked(other.number == mode.number);
+    }
+    appendLog(mode.success);
+}
+
+void MainWindow::readVideoMode()
+{
+    if (!isDeviceOpen()) {
+        return;
+    }
+    std::uint8_t number{0};
+    lastCommandOk = device->getVideoMode(&number);
+    if (lastCommandOk && number < videoModes.size()) {
+        showVideoMode(videoModes[number]);
+    } else {
+        appendLog("Could not get current video mode");
+    }
+}
+
+void MainWindow::startingModeChanged()
+{
+    if (isDeviceOpen()) {
+        const auto index = static_cast<std::uint32_t>(ui->startingModeCB->currentIndex());
+        reportOutcome(device->setStartingMode(index), "Blend unit starting mode set",
+                      "Could not changed blend unit starting mode");
+    }
+}
+
+void MainWindow::readStartingMode()
+{
+    if (!isDeviceOpen()) {
+        return;
+    }
+    std::uint8_t mode{99};
+    lastCommandOk = device->getStartingMode(&mode);
+    if (lastCommandOk) {
+        ui->startingModeCB->setCurrentIndex(mode);
+    }
+}
