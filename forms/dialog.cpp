@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The about dialog's fixed product name and version.
+
+#include "dialog.h"
+
+#include "ui_dialog.h"
+
+Dialog::Dialog(QWidget *parent) : QDialog{parent}, ui{new Ui_Dialog{}}
+{
+    ui->setupUi(this);
+    ui->NomProduit->setText(QStringLiteral("Pilotel Blend Unit"));
+    ui->VersionProduit->setText(QStringLiteral("1.0.0"));
+}
+
+Dialog::~Dialog()
+{
+    delete ui;
+}
