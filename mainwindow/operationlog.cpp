@@ -7,16 +7,26 @@
 #include "veltrix_sdk/sdk.h"
 #include "widgetvalues.h"
 
+#include <QScrollBar>
 #include <QTextCursor>
 
 using namespace veltrix_sdk;
 
 void MainWindow::appendLog(std::string line)
 {
-    // Inserted at the end, wherever the operator has clicked.
-    ui->logView->moveCursor(QTextCursor::End);
-    ui->logView->insertPlainText(QString::fromStdString(line) + QLatin1Char{'\n'});
-    ui->logView->moveCursor(QTextCursor::End);
+    // Inserted at the end, wherever the operator has clicked. The view's own cursor is moved only when it
+    // stands elsewhere: one that stands at the end moves along with the text, and moving it costs the view a
+    // layout of its own.
+    const QTextCursor shown{ui->logView->textCursor()};
+    QTextCursor end{ui->logView->document()};
+    end.movePosition(QTextCursor::End);
+    const bool follows{!shown.hasSelection() && shown.position() == end.position()};
+    end.insertText(QString::fromStdString(line) + QLatin1Char{'\n'});
+    if (!follows) {
+        ui->logView->setTextCursor(end);
+    }
+    QScrollBar *const scrollBar{ui->logView->verticalScrollBar()};
+    scrollBar->setValue(scrollBar->maximum());
     SDKLogger(severity_info).GetILogger() << line;
 }
 
