@@ -10,6 +10,8 @@
 #include <QAbstractSpinBox>
 #include <QMessageBox>
 
+#include <utility>
+
 using namespace veltrix_sdk;
 
 namespace
@@ -83,8 +85,8 @@ bool MainWindow::openCommunication(std::string port)
         showAboutBox(this, tr("Invalid communication"), tr("Select an other serial port"));
         return false;
     }
-    portName = port;
-    appendLog("ALTERNATIVE SERIAL PORT : " + port);
+    portName = std::move(port);
+    appendLog("ALTERNATIVE SERIAL PORT : " + portName);
     deviceManager = VeltrixSdk::get_instance()->getDeviceManager();
     device = deviceManager != nullptr ? deviceManager->openDevice(portName.c_str()) : nullptr;
     if (device == nullptr) {

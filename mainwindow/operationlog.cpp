@@ -12,6 +12,8 @@
 
 using namespace veltrix_sdk;
 
+// By value as the signature of the slot says; callers hand over a temporary.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 void MainWindow::appendLog(std::string line)
 {
     // Inserted at the end, wherever the operator has clicked. The view's own cursor is moved only when it
