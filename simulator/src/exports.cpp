@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The exported entries of the contract.
+#include "simulation.h"
+#include "veltrix_sdk/export.h"
+#include "veltrix_sdk/extensions.h"
+#include "veltrix_sdk/logger.h"
+#include "veltrix_sdk/sdk.h"
+
+#include <memory>
+#include <string>
+
+namespace veltrix_sdk
+{
+namespace
+{
+
+/// The stream of one log record.
+class LogRecord final : public ILogger
+{
+public:
+    explicit LogRecord(severity_level itsSeverity) : severity{itsSeverity} {}
+
+    ILogger &operator<<(const std::string &added) override
+    {
+        text += added;
+        return *this;
+    }
+
+    ILogger &operator<<(const char *added) override
+    {
+        text += added != nullptr ? added : "";
+        return *this;
+    }
+
+    const severity_level severity;
+    std::string text;
+};
+
+LogRecord *recordIn(void *const *storage)
+{
+    return static_cast<LogRecord *>(storage[0]);
+}
+
+} // namespace
+
+IVeltrixSdk *VeltrixSdk::get_instance()
+{
+    return veltrix_simulator::simulation().root();
+}
+
+SDKLogger::SDKLogger(severity_level severity) : storage{std::make_unique<LogRecord>(severity).release()} {}
+
+SDKLogger::~SDKLogger()
+{
+    const std::unique_ptr<LogRecord> record{recordIn(storage)};
+    veltrix_simulator::simulation().completeRecord(record->severity, record->text);
+}
+
+ILogger &SDKLogger::GetILogger()
+{
+    return *recordIn(storage);
+}
+
+} // namespace veltrix_sdk
+
+extern "C" VELTRIX_SDK_EXPORT const char *const *veltrix_sdk_additional_ports()
+{
+    return veltrix_simulator::simulation().portNames();
+}

@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The simulated SDK as a whole: its root object and everything behind it.
+#pragma once
+
+#include "configuration.h"
+#include "core.h"
+#include "device.h"
+#include "devicemanager.h"
+#include "logoutput.h"
+#include "state.h"
+#include "veltrix_sdk/sdk.h"
+
+#include <string_view>
+#include <vector>
+
+namespace veltrix_simulator
+{
+
+class SimulatedSdk final : public veltrix_sdk::IVeltrixSdk
+{
+public:
+    SimulatedSdk(Core &itsCore, LogOutput &itsLog, veltrix_sdk::ISdkConfiguration &itsConfiguration,
+                 veltrix_sdk::IDeviceManager &itsManager)
+        : core{itsCore}, log{itsLog}, configuration{itsConfiguration}, manager{itsManager}
+    {}
+
+    bool initialize() override;
+    veltrix_sdk::ISdkConfiguration *getConfiguration() override;
+    veltrix_sdk::IDeviceManager *getDeviceManager() override;
+    void releaseDeviceManager(veltrix_sdk::IDeviceManager **released) override;
+
+private:
+    Core &core;
+    LogOutput &log;
+    veltrix_sdk::ISdkConfiguration &configuration;
+    veltrix_sdk::IDeviceManager &manager;
+};
+
+/// All objects of the simulation; there is one set in a process. The objects of the contract refer to the
+/// state and the core, which stand behind them because they need the objects' words and addresses.
+struct Simulation
+{
+    Simulation();
+    Simulation(const Simulation &) = delete;
+    Simulation &operator=(const Simulation &) = delete;
+
+    void reset();
+    veltrix_sdk::IVeltrixSdk *root();
+    void completeRecord(veltrix_sdk::severity_level severity, std::string_view text);
+    /// The names of the ports, null-terminated; valid until the next call.
+    const char *const *portNames();
+
+    LogOutput log;
+    SimulatedConfiguration configuration{core, state};
+    SimulatedDevice device{core, state, log};
+    SimulatedDeviceManager manager{core, state, log, device};
+    SimulatedSdk sdk{core, log, configuration, manager};
+    State state{configuration.words};
+    Core core{state, {&sdk, &configuration, &manager, &device}};
+    std::vector<const char *> names; ///< What portNames() returned last.
+};
+
+/// The simulation of this process. It is never destroyed: objects that outlive main() may still log.
+Simulation &simulation();
+
+} // namespace veltrix_simulator

@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The simulator's own interface, on top of the simulation.
+#include "veltrix_simulator/simulator.h"
+
+#include "simulation.h"
+
+#include <utility>
+
+namespace veltrix_simulator
+{
+
+class Simulator::Impl
+{
+public:
+    Simulation &simulation;
+};
+
+Simulator::Simulator() : impl{new Impl{simulation()}} {}
+
+Simulator::~Simulator()
+{
+    delete impl;
+}
+
+Simulator &Simulator::instance()
+{
+    static auto *const simulator = new Simulator;
+    return *simulator;
+}
+
+void Simulator::reset()
+{
+    impl->simulation.reset();
+}
+
+const std::vector<Call> &Simulator::journal() const
+{
+    return impl->simulation.core.journal;
+}
+
+void Simulator::clearJournal()
+{
+    impl->simulation.core.journal.clear();
+}
+
+void Simulator::setJournalEnabled(bool enabled)
+{
+    impl->simulation.core.journalEnabled = enabled;
+}
+
+std::size_t Simulator::callsWhileNotOpen() const
+{
+    return impl->simulation.core.callsWhileNotOpen;
+}
+
+bool Simulator::isDeviceOpen() const
+{
+    return impl->simulation.state.deviceOpen;
+}
+
+void Simulator::set(std::string_view key, const Value &value)
+{
+    impl->simulation.state.set(key, value);
+}
+
+Value Simulator::get(std::string_view key) const
+{
+    return impl->simulation.state.get(key);
+}
+
+std::vector<std::string> Simulator::keys() const
+{
+    return State::keys();
+}
+
+void Simulator::setPorts(std::vector<std::string> ports)
+{
+    impl->simulation.state.ports = std::move(ports);
+}
+
+void Simulator::addFault(Fault fault)
+{
+    impl->simulation.core.faults.add(std::move(fault));
+}
+
+void Simulator::clearFaults()
+{
+    impl->simulation.core.faults.clear();
+}
+
+} // namespace veltrix_simulator

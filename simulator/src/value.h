@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The kinds of value that cross the contract, and how a Value becomes one of them.
+#pragma once
+
+#include "veltrix_simulator/simulator.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <tuple>
+#include <type_traits>
+#include <utility>
+
+namespace veltrix_simulator
+{
+
+/// What a value of the contract is. The numeric kinds stand in the order of NumericTypes.
+enum class Kind
+{
+    Boolean,
+    Unsigned8,
+    Unsigned16,
+    Unsigned32,
+    Signed32,
+    Float,
+    Double,
+    Text,
+    Object, ///< A pointer to an object of the contract: as a Value true for the object, false for null.
+};
+
+using NumericTypes =
+    std::tuple<bool, std::uint8_t, std::uint16_t, std::uint32_t, std::int32_t, float, double>;
+
+/// The type of a numeric kind.
+template <Kind kind>
+using TypeOf = std::tuple_element_t<static_cast<std::size_t>(kind), NumericTypes>;
+
+namespace detail
+{
+
+template <typename T, std::size_t... index>
+constexpr Kind numericKind(std::index_sequence<index...> /*indices*/)
+{
+    constexpr std::size_t place =
+        ((std::is_same_v<T, std::tuple_element_t<index, NumericTypes>> ? index + 1 : 0) + ...);
+    static_assert(place != 0, "no kind stands for this type");
+    return static_cast<Kind>(place - 1);
+}
+
+} // namespace detail
+
+/// The kind of a type.
+template <typename T>
+constexpr Kind kindOf()
+{
+    if constexpr (std::is_same_v<T, const char *>) {
+        return Kind::Text;
+    } else if constexpr (std::is_pointer_v<T>) {
+        return Kind::Object;
+    } else {
+        return detail::numericKind<T>(std::make_index_sequence<std::tuple_size_v<NumericTypes>>{});
+    }
+}
+
+/// Name of a kind for messages, such as "an integer from 0 to 255".
+std::string_view describe(Kind kind);
+
+/// The value as the kind holds it: bool for Boolean and Object, std::int64_t for integers, double for
+/// Float and Double, std::string for Text. Nothing when the kind cannot hold it. Integers pass for
+/// Boolean, Float and Double when nothing is lost; Float rounds to its precision; NaN and infinities pass.
+std::optional<Value> convert(const Value &value, Kind kind);
+
+/// A number of the state (exact in a double, whatever its kind) as a Value, and back.
+Value toValue(double number, Kind kind);
+double toNumber(const Value &value);
+
+} // namespace veltrix_simulator
