@@ -49,7 +49,11 @@ IVeltrixSdk *VeltrixSdk::get_instance()
     return veltrix_simulator::simulation().root();
 }
 
-SDKLogger::SDKLogger(severity_level severity) : storage{std::make_unique<LogRecord>(severity).release()} {}
+// Of the storage only the first pointer is used.
+SDKLogger::SDKLogger(severity_level severity)
+{
+    storage[0] = new LogRecord{severity};
+}
 
 SDKLogger::~SDKLogger()
 {
