@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The program as a process of its own.
+#pragma once
+
+#include <QProcess>
+#include <QString>
+#include <QStringList>
+
+/// What a process said and how it ended.
+struct Outcome
+{
+    bool exited;
+    int status;
+    QString output;
+    QString errors;
+};
+
+/// Environment of the program: off screen, with the tests' plugins within reach, and with nothing that
+/// decides which SDK library is loaded.
+QProcessEnvironment programEnvironment();
+
+/// Runs a program to its end; gives up after half a minute.
+Outcome run(const QString &program, const QStringList &arguments, const QProcessEnvironment &environment);
+
+/// The lines of a text file; none when there is no such file.
+QStringList linesOf(const QString &fileName);

@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The program's ELF file: which libraries it asks for, where they are found, and what it takes from them.
+#include "program.h"
+
+#include <QRegularExpression>
+#include <QTest>
+
+namespace
+{
+
+/// What follows a pattern in the lines of the dynamic section.
+QStringList dynamicEntries(const QString &kind)
+{
+    const Outcome outcome{run(READELF, {"-d", "-W", PROGRAM}, QProcessEnvironment::systemEnvironment())};
+    QStringList entries;
+    const QRegularExpression pattern{R"(\()" + kind + R"(\).*\[(.*)\])"};
+    for (auto match = pattern.globalMatch(outcome.output); match.hasNext();) {
+        entries.append(match.next().captured(1));
+    }
+    return entries;
+}
+
+QStringList symbols(const QStringList &options)
+{
+    const Outcome outcome{
+        run(NM, options + QStringList{"-C", PROGRAM}, QProcessEnvironment::systemEnvironment())};
+    return outcome.output.split('\n', Qt::SkipEmptyParts);
+}
+
+} // namespace
+
+class ExecutableTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void asksForTheSdkByName();
+    void findsLibrariesBesideItself();
+    void takesTheContractsFourFunctions();
+    void knowsNothingOfTheSimulator();
+};
+
+void ExecutableTest::asksForTheSdkByName()
+{
+    const QStringList needed{dynamicEntries("NEEDED")};
+    QCOMPARE(needed.filter("veltrix"), QStringList{"libveltrix.sdk.so"});
+    QCOMPARE(needed.filter("simulator"), QStringList{});
+}
+
+void ExecutableTest::findsLibrariesBesideItself()
+{
+    // A RUNPATH comes after LD_LIBRARY_PATH, so that another library can take the simulated one's place.
+    QCOMPARE(dynamicEntries("RPATH"), QStringList{});
+    const QStringList runPath{dynamicEntries("RUNPATH")};
+    QCOMPARE(runPath.size(), 1);
+    for (const QString &directory : runPath.first().split(':', Qt::SkipEmptyParts)) {
+        QVERIFY2(directory.startsWith("$ORIGIN"), qPrintable(directory));
+    }
+}
+
+void ExecutableTest::takesTheContractsFourFunctions()
+{
+    QStringList taken;
+    for (const QString &symbol : symbols({"-D", "-u"}).filter("veltrix_sdk::")) {
+        taken.append(symbol.trimmed().section(' ', 1));
+    }
+    taken.sort();
+    const QStringList contract{
+        "veltrix_sdk::SDKLogger::GetILogger()",
+        "veltrix_sdk::SDKLogger::SDKLogger(veltrix_sdk::severity_level)",
+        "veltrix_sdk::SDKLogger::~SDKLogger()",
+        "veltrix_sdk::VeltrixSdk::get_instance()",
+    };
+    QCOMPARE(taken, contract);
+}
+
+void ExecutableTest::knowsNothingOfTheSimulator()
+{
+    QVERIFY(!symbols({}).isEmpty());
+    QCOMPARE(symbols({}).filter("veltrix_simulator"), QStringList{});
+    QCOMPARE(symbols({"-D"}).filter("veltrix_simulator"), QStringList{});
+    QCOMPARE(symbols({"-D", "-u"}).filter("additional_ports"), QStringList{});
+}
+
+QTEST_GUILESS_MAIN(ExecutableTest)
+#include "tst_executable.moc"

@@ -1,0 +1,256 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// Start-up of the program: what it writes, what it asks the SDK for, and with which SDK it starts.
+#include "program.h"
+
+#include <QFile>
+#include <QLibraryInfo>
+#include <QRegularExpression>
+#include <QSerialPortInfo>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QVersionNumber>
+
+namespace
+{
+
+QString buildKind()
+{
+    return QLibraryInfo::isDebugBuild() ? "DEBUG" : "RELEASE";
+}
+
+QString banner()
+{
+    return "Start QT veltrix command application\n"
+           "QT Version " +
+           QLibraryInfo::version().toString() +
+           "\n"
+           "QT Built in " +
+           buildKind() +
+           "\n"
+           "Test log in debug\n";
+}
+
+/// The program with a window that closes itself; the plugins write to files of a directory that goes away.
+class Session
+{
+public:
+    Outcome run(const QStringList &arguments = {}) const
+    {
+        return ::run(PROGRAM, QStringList{"-plugin", "closewhenshown"} + arguments, environment);
+    }
+
+    Outcome runTellingTheJournal() const { return run({"-plugin", "tellthejournal"}); }
+
+    QString fileName(const QString &name) const { return directory.filePath(name); }
+    QStringList report() const { return linesOf(fileName("report")); }
+    QStringList journal() const { return linesOf(fileName("journal")); }
+
+    QProcessEnvironment environment{programEnvironment()};
+
+    Session()
+    {
+        environment.insert("PILOTEL_TEST_REPORT", fileName("report"));
+        environment.insert("PILOTEL_TEST_JOURNAL", fileName("journal"));
+    }
+
+private:
+    QTemporaryDir directory;
+};
+
+QStringList scannedPorts(const QStringList &sdkPorts)
+{
+    QStringList lines;
+    for (const QSerialPortInfo &port : QSerialPortInfo::availablePorts()) {
+        lines.append("port " + port.portName());
+    }
+    for (const QString &port : sdkPorts) {
+        lines.append("port " + port);
+    }
+    return lines.isEmpty() ? QStringList{"box No COM port found!"} : lines;
+}
+
+} // namespace
+
+class StartupTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void writesItsBanner();
+    void writesEveryLineAtOnce();
+    void showsOneMainWindow();
+    void registersItsPictures();
+    void callsTheSdkInOrder();
+    void logsToTheSdk_data();
+    void logsToTheSdk();
+    void leavesUnknownArgumentsToQt();
+    void scansThePortsOfTheHostThenThoseOfTheSimulator();
+    void worksWithAnotherLibraryOfTheSameContract();
+    void endsWithTheLoadersMessageWithoutALibrary();
+    void endsWithTheLoadersMessageWithAnIncompleteLibrary();
+};
+
+void StartupTest::writesItsBanner()
+{
+    Session session;
+    const Outcome outcome{session.run()};
+
+    QVERIFY2(outcome.exited, qPrintable(outcome.errors));
+    QCOMPARE(outcome.status, 0);
+    QCOMPARE(outcome.output, banner());
+}
+
+void StartupTest::writesEveryLineAtOnce()
+{
+    // A pipe is not a terminal: what is not flushed arrives when the program ends, and this one does not.
+    QProcess process;
+    process.setProcessEnvironment(programEnvironment());
+    process.start(PROGRAM, QStringList{});
+    QString output;
+    while (output != banner() && process.waitForReadyRead(30000)) {
+        output += QString::fromLocal8Bit(process.readAllStandardOutput());
+    }
+    QCOMPARE(output, banner());
+    QCOMPARE(process.state(), QProcess::Running);
+    process.kill();
+    QVERIFY(process.waitForFinished());
+}
+
+void StartupTest::showsOneMainWindow()
+{
+    Session session;
+    QCOMPARE(session.run().status, 0);
+    QCOMPARE(session.report().filter(QRegularExpression{"^window "}),
+             QStringList{"window MainWindow Veltrix BU Pilotel"});
+}
+
+void StartupTest::registersItsPictures()
+{
+    Session session;
+    QCOMPARE(session.run().status, 0);
+    const QStringList resources{
+        "resource :/picture/Norvane Tech.png",
+        "resource :/picture/VeltrixBU.png",
+        "resource :/picture/assets/icons/material/add_material.svg",
+        "resource :/picture/assets/icons/material/download_material.svg",
+        "resource :/picture/assets/icons/material/remove_material.svg",
+        "resource :/picture/assets/icons/material/reset_wrench_material.svg",
+        "resource :/picture/assets/icons/material/upload_material.svg",
+        "resource :/picture/camera.ico",
+        "resource :/picture/connect.png",
+        "resource :/picture/disconnect.png",
+        "resource :/picture/read.png",
+        "resource :/picture/reset.png",
+        "resource :/picture/save.png",
+        "resource :/picture/search.png",
+        "resource :/picture/tool.png",
+        "resource :/picture/write.png",
+    };
+    QCOMPARE(session.report().filter(QRegularExpression{"^resource "}), resources);
+}
+
+void StartupTest::callsTheSdkInOrder()
+{
+    Session session;
+    QCOMPARE(session.runTellingTheJournal().status, 0);
+    const QStringList journal{
+        "get_instance() -> sdk",
+        "initialize() -> true",
+        "log(0, \"QT Version " + QLibraryInfo::version().toString() + "\")",
+        "log(0, \"QT Built in " + buildKind() + "\")",
+        "get_instance() -> sdk",
+        "initialize() -> true",
+        "getConfiguration() -> configuration",
+        "isExpertMode() -> true",
+        "getDefaultBaudRate() -> 115200",
+    };
+    QCOMPARE(session.journal(), journal);
+}
+
+void StartupTest::logsToTheSdk_data()
+{
+    QTest::addColumn<bool>("toFile");
+    QTest::newRow("to a file") << true;
+    QTest::newRow("to standard error") << false;
+}
+
+void StartupTest::logsToTheSdk()
+{
+    QFETCH(bool, toFile);
+    Session session;
+    session.environment.insert("VELTRIX_SIMULATOR_LOG", toFile ? session.fileName("log") : QString{"-"});
+    const Outcome outcome{session.run()};
+    QCOMPARE(outcome.status, 0);
+    QCOMPARE(outcome.output, banner());
+
+    const QStringList written{toFile ? linesOf(session.fileName("log")) : outcome.errors.split('\n')};
+    const QString time{R"(^\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d\.\d{3}Z )"};
+    // The simulator has words of its own to say.
+    const QStringList records{written.filter(QRegularExpression{time + ".*: QT "})};
+    QCOMPARE(records.size(), 2);
+    const QString version{QRegularExpression::escape(QLibraryInfo::version().toString())};
+    QVERIFY(records.at(0).contains(QRegularExpression{time + "trace: QT Version " + version + "$"}));
+    QVERIFY(records.at(1).contains(QRegularExpression{time + "trace: QT Built in " + buildKind() + "$"}));
+}
+
+void StartupTest::leavesUnknownArgumentsToQt()
+{
+    Session session;
+    const Outcome outcome{session.run({"-style", "windows", "--nothing-of-ours", "file"})};
+    QVERIFY(outcome.exited);
+    QCOMPARE(outcome.status, 0);
+    QCOMPARE(outcome.output, banner());
+}
+
+void StartupTest::scansThePortsOfTheHostThenThoseOfTheSimulator()
+{
+    Session session;
+    session.environment.insert("PILOTEL_TEST_SCAN", "1");
+    QCOMPARE(session.run().status, 0);
+    QCOMPARE(session.report().filter(QRegularExpression{"^(port|box) "}), scannedPorts({"SIM1"}));
+}
+
+void StartupTest::worksWithAnotherLibraryOfTheSameContract()
+{
+    Session session;
+    session.environment.insert("LD_LIBRARY_PATH", SDK_VARIANTS_DIRECTORY "/contract-only");
+    session.environment.insert("PILOTEL_TEST_SCAN", "1");
+    const Outcome outcome{session.run()};
+
+    QVERIFY2(outcome.exited, qPrintable(outcome.errors));
+    QCOMPARE(outcome.status, 0);
+    QCOMPARE(outcome.output, banner());
+    // It knows of no ports of its own.
+    QCOMPARE(session.report().filter(QRegularExpression{"^(port|box) "}), scannedPorts({}));
+}
+
+void StartupTest::endsWithTheLoadersMessageWithoutALibrary()
+{
+    QTemporaryDir directory;
+    const QString alone{directory.filePath("pilotel")};
+    QVERIFY(QFile::copy(PROGRAM, alone));
+    const Outcome outcome{run(alone, {}, programEnvironment())};
+
+    QVERIFY(outcome.exited);
+    QVERIFY(outcome.status != 0);
+    QCOMPARE(outcome.output, QString{});
+    QVERIFY2(outcome.errors.contains("libveltrix.sdk.so"), qPrintable(outcome.errors));
+    QVERIFY2(outcome.errors.contains("No such file or directory"), qPrintable(outcome.errors));
+}
+
+void StartupTest::endsWithTheLoadersMessageWithAnIncompleteLibrary()
+{
+    Session session;
+    session.environment.insert("LD_LIBRARY_PATH", SDK_VARIANTS_DIRECTORY "/incomplete");
+    const Outcome outcome{session.run()};
+
+    QVERIFY(outcome.exited);
+    QVERIFY(outcome.status != 0);
+    QVERIFY2(outcome.errors.contains("undefined symbol"), qPrintable(outcome.errors));
+    QVERIFY2(outcome.errors.contains("GetILogger"), qPrintable(outcome.errors));
+    QCOMPARE(session.report(), QStringList{});
+}
+
+QTEST_GUILESS_MAIN(StartupTest)
+#include "tst_startup.moc"

@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The mouse where it cannot be known whether a click gets through.
+#pragma once
+
+#include "testwindow.h"
+
+#include <QTest>
+#include <QWindow>
+
+/// Presses and releases the mouse in the middle of a widget, by way of the window system: a widget that is
+/// disabled, or a window behind a modal box, does not get it.
+inline void pressMouseOn(TestWindow &test, const QString &name)
+{
+    const auto &widget = test.child<QWidget>(name);
+    QTest::mouseClick(test.window().windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                      widget.mapTo(&test.window(), widget.rect().center()));
+}

@@ -1,0 +1,159 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// Tests of saving the Blend Unit's parameters, and of its handlers without a device.
+#include "filledblendunit.h"
+
+#include <QAbstractButton>
+#include <QTest>
+
+namespace
+{
+
+using Save = void (*)(TestWindow &);
+
+void saveUserParameters(TestWindow &test)
+{
+    test.click("saveParamButtonUser");
+}
+
+// The administrator's group is hidden in every installation; its button is wired all the same.
+void saveExpertParameters(TestWindow &test)
+{
+    test.child<QAbstractButton>("saveParamFactoryPB").click();
+}
+
+void addHandlers()
+{
+    QTest::addColumn<QByteArray>("handler");
+
+    for (const char *const handler :
+         {"configureZoomClicked", "readFusionParamsExpert", "fusionWarpClicked", "readVisibleAgc",
+          "visibleAgcChanged", "readVisibleClhe", "visibleClheChanged", "saveBlendUnitExpertClicked",
+          "saveBlendUnitUserClicked"}) {
+        QTest::newRow(handler) << QByteArray{handler};
+    }
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Save)
+
+class TestBlendUnitSettings : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void savingIsReported_data();
+    void savingIsReported();
+    void saveButtonNeedsAConnection();
+
+    void beforeConnectingNothingHappens_data() { addHandlers(); }
+    void beforeConnectingNothingHappens();
+    void afterDisconnectingNothingHappens_data() { addHandlers(); }
+    void afterDisconnectingNothingHappens();
+    void zoomReadWithoutADeviceDoesNothing();
+};
+
+void TestBlendUnitSettings::savingIsReported_data()
+{
+    QTest::addColumn<Save>("save");
+    QTest::addColumn<bool>("refused");
+    QTest::addColumn<QString>("call");
+    QTest::addColumn<QString>("line");
+
+    const auto row = [](const char *name, Save save, bool refused, const char *call, const char *line) {
+        QTest::newRow(name) << save << refused << QString{call} << QString{line};
+    };
+    row("user parameters saved", saveUserParameters, false, "saveBlendUnitParameters(0) -> true",
+        "Blend unit parameters have been saved");
+    row("user parameters refused", saveUserParameters, true, "saveBlendUnitParameters(0) -> false",
+        "Could not saved blend unit parameters");
+    row("expert parameters saved", saveExpertParameters, false, "saveBlendUnitParameters(1) -> true",
+        "Blend unit expert parameters have been saved");
+    row("expert parameters refused", saveExpertParameters, true, "saveBlendUnitParameters(1) -> false",
+        "Could not saved blend unit expert parameters");
+}
+
+void TestBlendUnitSettings::savingIsReported()
+{
+    QFETCH(const Save, save);
+    QFETCH(const bool, refused);
+    QFETCH(const QString, call);
+    QFETCH(const QString, line);
+    TestWindow test;
+    test.beConnected();
+    if (refused) {
+        test.simulator.addFault({"saveBlendUnitParameters"});
+    }
+
+    save(test);
+
+    QCOMPARE(test.takeCalls(), QStringList{call});
+    QCOMPARE(test.takeLog(), QStringList{line});
+    QCOMPARE(test.lastCommandOk(), !refused);
+}
+
+void TestBlendUnitSettings::saveButtonNeedsAConnection()
+{
+    TestWindow test;
+    auto &button = test.child<QAbstractButton>("saveParamButtonUser");
+    QVERIFY(!button.isEnabled());
+
+    test.beConnected();
+    QVERIFY(button.isEnabled());
+
+    test.click("disconnectDeviceButton");
+    QVERIFY(!button.isEnabled());
+    test.takeCalls();
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QCOMPARE(test.takeCallsAndRecords(), QStringList{});
+    QCOMPARE(test.takeLog(), QStringList{});
+}
+
+void TestBlendUnitSettings::beforeConnectingNothingHappens()
+{
+    QFETCH(const QByteArray, handler);
+    TestWindow test;
+    test.takeCalls();
+
+    test.invoke(handler.constData());
+
+    QCOMPARE(test.takeCallsAndRecords(), QStringList{});
+    QCOMPARE(test.takeLog(), QStringList{});
+}
+
+void TestBlendUnitSettings::afterDisconnectingNothingHappens()
+{
+    QFETCH(const QByteArray, handler);
+    TestWindow test;
+    test.beConnected();
+    test.click("disconnectDeviceButton");
+    test.takeCalls();
+
+    test.invoke(handler.constData());
+
+    QCOMPARE(test.takeCallsAndRecords(), QStringList{});
+    QCOMPARE(test.takeLog(), QStringList{});
+}
+
+void TestBlendUnitSettings::zoomReadWithoutADeviceDoesNothing()
+{
+    TestWindow test;
+    test.takeCalls();
+    for (const int selector : {0, 2}) {
+        readZoom(test, selector);
+    }
+    QCOMPARE(test.takeCallsAndRecords(), QStringList{});
+
+    test.beConnected();
+    test.click("disconnectDeviceButton");
+    test.takeCalls();
+    for (const int selector : {0, 2}) {
+        readZoom(test, selector);
+    }
+    QCOMPARE(test.takeCallsAndRecords(), QStringList{});
+    QCOMPARE(test.takeLog(), QStringList{});
+}
+
+QTEST_MAIN(TestBlendUnitSettings)
+#include "tst_blend_unit_settings.moc"

@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// Scanning on a host without serial ports.
+#include "connectioncontrols.h"
+#include "testwindow.h"
+
+#include <QComboBox>
+#include <QSerialPortInfo>
+#include <QTest>
+
+/// Stands in for the host's own: here there is none.
+QList<QSerialPortInfo> QSerialPortInfo::availablePorts()
+{
+    return {};
+}
+
+namespace
+{
+
+const char *const noPortBox{
+    "warning \"\" \"No COM port found!\nPlease, plug a COM port ans scan again.\" [OK]",
+};
+
+} // namespace
+
+class NoPortsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void warnsWhenThereIsNoPort();
+    void emptiesTheListAndLeavesTheButtonsAsTheyWere();
+    void offersThePortsOfTheSdkAlone();
+    void warnsAtEveryScan();
+};
+
+void NoPortsTest::warnsWhenThereIsNoPort()
+{
+    TestWindow test;
+    test.simulator.setPorts({});
+    test.takeCalls();
+    const QWidget *parent{nullptr};
+    test.boxes.expect([&](QDialog &box) {
+        parent = box.parentWidget();
+        BoxWatcher::pressOk(box);
+    });
+
+    test.click("scanDeviceButton");
+
+    QCOMPARE(parent, &test.window());
+    QCOMPARE(test.boxes.takeShown(), QStringList{noPortBox});
+    QCOMPARE(test.takeLog(), QStringList{});
+    QCOMPARE(test.takeCallsAndRecords(), QStringList{});
+    QCOMPARE(test.child<QComboBox>("selectDeviceComboBox").count(), 0);
+    QCOMPARE(test.enabledOf(connectionControls()), enabledAtStart());
+}
+
+void NoPortsTest::emptiesTheListAndLeavesTheButtonsAsTheyWere()
+{
+    TestWindow test;
+    test.click("scanDeviceButton");
+    QCOMPARE(test.enabledOf(connectionControls()), enabledWithPorts());
+    test.simulator.setPorts({});
+    test.boxes.expect();
+
+    test.click("scanDeviceButton");
+
+    QCOMPARE(test.boxes.takeShown(), QStringList{noPortBox});
+    QCOMPARE(test.child<QComboBox>("selectDeviceComboBox").count(), 0);
+    QCOMPARE(test.enabledOf(connectionControls()), enabledWithPorts());
+}
+
+void NoPortsTest::offersThePortsOfTheSdkAlone()
+{
+    TestWindow test;
+    test.simulator.setPorts({"SIM1", "SIM2"});
+
+    test.click("scanDeviceButton");
+
+    const auto &box = test.child<QComboBox>("selectDeviceComboBox");
+    QCOMPARE(box.count(), 2);
+    QCOMPARE(box.itemText(0), QStringLiteral("SIM1"));
+    QCOMPARE(box.itemText(1), QStringLiteral("SIM2"));
+    QCOMPARE(test.boxes.takeShown(), QStringList{});
+}
+
+void NoPortsTest::warnsAtEveryScan()
+{
+    TestWindow test;
+    test.simulator.setPorts({});
+    test.boxes.expect();
+    test.click("scanDeviceButton");
+    test.boxes.expect();
+    test.click("scanDeviceButton");
+    QCOMPARE(test.boxes.takeShown(), (QStringList{noPortBox, noPortBox}));
+
+    test.simulator.setPorts({"SIM1"});
+    test.click("scanDeviceButton");
+    QCOMPARE(test.enabledOf(connectionControls()), enabledWithPorts());
+}
+
+QTEST_MAIN(NoPortsTest)
+#include "tst_no_ports.moc"
