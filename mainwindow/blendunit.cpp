@@ -8,6 +8,8 @@
 #include "veltrix_sdk/device_control.h"
 #include "widgetvalues.h"
 
+#include <optional>
+
 using namespace veltrix_sdk;
 
 namespace
@@ -26,20 +28,16 @@ bool MainWindow::readBlendUnitParameters()
         return false;
     }
     appendLog("Start reading Fusion parameters");
-    FirmwareVersions versions{};
-    device->getFirmwareVersions(&versions);
-    if (versions.processor == 0 && versions.fpga == 0) {
-        showNotConnectedBox();
-        appendLog("End Read camera parameters : COM Error");
+    const std::optional<FirmwareVersions> versions{startReadingUnit()};
+    if (!versions) {
         return false;
     }
-    device->startReading();
     const auto topDigits = [](std::uint16_t word) {
         return versionDigit(word, 3) + '.' + versionDigit(word, 2) + '.' + versionDigit(word, 1);
     };
-    appendLog("RISC-V version = " + topDigits(versions.processor) + " Beta" +
-              versionDigit(versions.processor, 0) + "\nFPGA version = " + topDigits(versions.fpga) + '.' +
-              versionDigit(versions.fpga, 0));
+    appendLog("RISC-V version = " + topDigits(versions->processor) + " Beta" +
+              versionDigit(versions->processor, 0) + "\nFPGA version = " + topDigits(versions->fpga) + '.' +
+              versionDigit(versions->fpga, 0));
     appendLog(joinText("Serial number = ", device->getSerialNumber()));
     readVideoMode();
     readZoom(fusionZoom);

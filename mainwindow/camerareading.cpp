@@ -11,6 +11,7 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 
 using namespace veltrix_sdk;
 
@@ -37,16 +38,12 @@ bool MainWindow::readCameraParameters()
         return false;
     }
     appendLog("Start reading camera parameters");
-    FirmwareVersions versions{};
-    device->getFirmwareVersions(&versions);
-    if (versions.processor == 0 && versions.fpga == 0) {
-        showNotConnectedBox();
-        appendLog("End Read camera parameters : COM Error");
+    const std::optional<FirmwareVersions> versions{startReadingUnit()};
+    if (!versions) {
         return false;
     }
-    device->startReading();
-    appendLog("RISC-V version = " + versionText(versions.processor) +
-              "\nFPGA version = " + versionText(versions.fpga) + fpgaBuild(versions.fpga));
+    appendLog("RISC-V version = " + versionText(versions->processor) +
+              "\nFPGA version = " + versionText(versions->fpga) + fpgaBuild(versions->fpga));
     readIdentity();
     readOutputs();
     readFlipAndPolarity();
@@ -61,6 +58,19 @@ bool MainWindow::readCameraParameters()
     readEdgeCorrection();
     appendLog("End reading camera parameters");
     return true;
+}
+
+std::optional<FirmwareVersions> MainWindow::startReadingUnit()
+{
+    FirmwareVersions versions{};
+    device->getFirmwareVersions(&versions);
+    if (versions.processor == 0 && versions.fpga == 0) {
+        showNotConnectedBox();
+        appendLog("End Read camera parameters : COM Error");
+        return std::nullopt;
+    }
+    device->startReading();
+    return versions;
 }
 
 void MainWindow::readIdentity()

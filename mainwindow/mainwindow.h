@@ -9,6 +9,7 @@
 #include <QSerialPortInfo>
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 class Ui_MainWindow;
@@ -18,6 +19,7 @@ namespace veltrix_sdk
 class IDeviceControl;
 class IDeviceManager;
 class ISdkConfiguration;
+struct FirmwareVersions;
 } // namespace veltrix_sdk
 
 enum class Region;
@@ -145,6 +147,8 @@ private:
     void showNotConnectedBox();
 
     // Camera parameters
+    /// Asks the unit for its versions and starts its reading; a unit that does not answer is told about.
+    std::optional<veltrix_sdk::FirmwareVersions> startReadingUnit();
     void readIdentity();
     bool readToggle(const ToggleSetting &setting);
     void readOutputs();

@@ -69,7 +69,7 @@ void CloseWhenShown::answerBox()
     }
 }
 
-QObject *CloseWhenShownPlugin::create(const QString & /*name*/, const QString & /*specification*/)
+QObject *CloseWhenShownPlugin::create(const QString & /*name*/, const QString & /*arguments*/)
 {
     return new CloseWhenShown;
 }

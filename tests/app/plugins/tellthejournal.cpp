@@ -28,7 +28,7 @@ bool TellTheJournal::eventFilter(QObject *watched, QEvent *event)
     return false;
 }
 
-QObject *TellTheJournalPlugin::create(const QString & /*name*/, const QString & /*specification*/)
+QObject *TellTheJournalPlugin::create(const QString & /*name*/, const QString & /*arguments*/)
 {
     return new TellTheJournal;
 }
