@@ -33,8 +33,7 @@ const char *fpgaBuild(std::uint16_t fpga)
 
 bool MainWindow::readCameraParameters()
 {
-    if (!isDeviceOpen()) {
-        showNotConnectedBox();
+    if (tellNotConnected()) {
         return false;
     }
     appendLog("Start reading camera parameters");

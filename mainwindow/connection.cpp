@@ -10,6 +10,7 @@
 #include <QAbstractSpinBox>
 #include <QMessageBox>
 
+#include <string_view>
 #include <utility>
 
 using namespace veltrix_sdk;
@@ -21,12 +22,6 @@ constexpr int blendUnitTarget{0};
 constexpr int cameraTarget{1};
 /// What a KR camera answers when it is asked who it is.
 constexpr std::uint8_t krIdentity{21};
-
-/// Fetched afresh at each use: the SDK may replace it.
-ISdkConfiguration &sdkConfiguration()
-{
-    return *VeltrixSdk::get_instance()->getConfiguration();
-}
 
 void configureExpertSlider(QSlider &slider, std::int32_t minimum, std::int32_t maximum, std::int32_t value)
 {
@@ -40,6 +35,16 @@ void configureExpertSlider(QSlider &slider, std::int32_t minimum, std::int32_t m
 }
 
 } // namespace
+
+ISdkConfiguration &MainWindow::sdkConfiguration()
+{
+    return *VeltrixSdk::get_instance()->getConfiguration();
+}
+
+void MainWindow::closeApply()
+{
+    VeltrixSdk::get_instance()->getConfiguration();
+}
 
 void MainWindow::scanDevice()
 {
@@ -78,10 +83,11 @@ bool MainWindow::isDeviceOpen() const
 bool MainWindow::openCommunication(std::string port)
 {
     // A connection whose read failed, or whose port gave no device, is still to be handed back.
+    disconnectDevice();
     returnDevice();
 
-    const std::string communicationType{sdkConfiguration().getCommunicationType()};
-    if (communicationType != "UART") {
+    const char *const communicationType{sdkConfiguration().getCommunicationType()};
+    if (communicationType == nullptr || communicationType != std::string_view{"UART"}) {
         showAboutBox(this, tr("Invalid communication"), tr("Select an other serial port"));
         return false;
     }
@@ -141,7 +147,8 @@ void MainWindow::returnDevice()
 void MainWindow::commitPendingEdit()
 {
     // Disabling the page takes the focus from the spin box, which reports its edit as finished: too late
-    // for a device that is closed by then.
+    // for a device that is closed by then. What was stepped with the arrow keys counts as an edit as well,
+    // so every box with the focus is asked, as any other change of the focus would.
     if (auto *const spinBox = qobject_cast<QAbstractSpinBox *>(focusWidget())) {
         spinBox->clearFocus();
     }
@@ -170,6 +177,15 @@ void MainWindow::showNotConnectedBox()
 {
     showAboutBox(this, tr("Camera not connected"),
                  tr("Unable to connect to %1").arg(QString::fromStdString(portName)));
+}
+
+bool MainWindow::tellNotConnected()
+{
+    if (isDeviceOpen()) {
+        return false;
+    }
+    showNotConnectedBox();
+    return true;
 }
 
 void MainWindow::targetChanged(int target)

@@ -88,6 +88,10 @@ std::uint8_t frameRateHz(int index)
 
 int frameRateIndex(std::uint8_t hertz, int otherwise)
 {
-    const auto *const found = std::find(frameRatesHz.begin(), frameRatesHz.end(), hertz);
-    return found != frameRatesHz.end() ? static_cast<int>(found - frameRatesHz.begin()) : otherwise;
+    for (std::size_t index{0}; index < frameRatesHz.size(); ++index) {
+        if (frameRatesHz[index] == hertz) {
+            return static_cast<int>(index);
+        }
+    }
+    return otherwise;
 }

@@ -1,11 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// Expert parameters of the camera: reading them and the correction boxes.
+// Expert parameters of the camera: reading, sending and applying them.
+#include "encodings.h"
 #include "logtext.h"
 #include "mainwindow.h"
 #include "ui_mainwindow.h"
-#include "veltrix_sdk/device_control.h"
+#include "veltrix_sdk/sdk.h"
 #include "widgetvalues.h"
+
+#include <QMessageBox>
 
 using namespace veltrix_sdk;
 
@@ -73,5 +76,82 @@ void MainWindow::gainControlChanged()
 {
     if (isDeviceOpen()) {
         device->setGainCorrection(ui->gainCheckBox->isChecked());
+    }
+}
+
+void MainWindow::ApplyParamsExpert()
+{
+    appendLog("Start applying camera expert parameters");
+    if (isDeviceOpen()) {
+        reportCommand(device->setVerticalFlip(ui->verticalFlipCheckBox->isChecked()), "Set Flip vertically");
+        reportCommand(device->setBprEnable(ui->BPRCheckBox->isChecked()), "Set BPR value");
+        reportCommand(device->setOffsetCorrection(ui->offsetCheckBox->isChecked()),
+                      "Set Offset correction value");
+        reportCommand(device->setGainCorrection(ui->gainCheckBox->isChecked()), "Set Gain correction value");
+        krBaudRateChanged();
+    } else {
+        // Without a device they become the defaults of the next connection.
+        ConfigurationWords &words{sdkConfiguration().words};
+        words.gskDefault = ui->gskSlider->value();
+        words.gmsDefault = truncateToInt32(ui->gmsEdit->value());
+        words.gfidDefault = ui->gfidSlider->value();
+        words.tintDefault = ui->tintSlider->value();
+    }
+    appendLog("End applying camera expert parameters");
+}
+
+void MainWindow::gskSendCommand()
+{
+    if (isDeviceOpen()) {
+        reportCommand(device->setGsk(truncateToUint32(ui->gskEdit->value())), "Set GSK value");
+    }
+}
+
+void MainWindow::gfiSendCommand()
+{
+    if (isDeviceOpen()) {
+        reportCommand(device->setGfid(truncateToUint32(ui->gfidEdit->value())), "Set GFID value");
+    }
+}
+
+void MainWindow::gmsSendCommand()
+{
+    if (isDeviceOpen()) {
+        reportCommand(device->setGms(truncateToUint32(ui->gmsEdit->value())), "Set GMS value");
+    }
+}
+
+void MainWindow::tintSendCommand()
+{
+    if (isDeviceOpen()) {
+        reportCommand(device->setTint(truncateToUint32(ui->tintEdit->value())), "Set TINT value");
+    }
+}
+
+void MainWindow::krBaudRateChanged()
+{
+    if (!isDeviceOpen()) {
+        return;
+    }
+    const bool ok{
+        device->setMavlinkBaudRate(ui->BaudRateCB->currentText().toInt(), ui->PermanentButton->isChecked())};
+    reportCommand(ok, "Set Mavlink baud rate value");
+    if (ok) {
+        closeApply();
+    } else {
+        QMessageBox::warning(this, QString{}, tr("Problem transmitting expert parameters values\n"),
+                             QMessageBox::Ok);
+    }
+}
+
+void MainWindow::changePermanentButtonText()
+{
+    ui->PermanentButton->setText(ui->PermanentButton->isChecked() ? tr("Permanent") : tr("Not Permanent"));
+}
+
+void MainWindow::ApplyNucRequest()
+{
+    if (isDeviceOpen() && !device->processNucRequest()) {
+        QMessageBox::warning(this, QString{}, tr("Error on processing the NUC request"), QMessageBox::Ok);
     }
 }

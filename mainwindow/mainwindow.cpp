@@ -33,7 +33,9 @@ MainWindow::MainWindow(QWidget *parent)
 
     wireTargetSelection();
     wireSlidersAndSpinBoxes();
+    wireRegions();
     wireZoomFactor();
+    wireFinishedEdits();
     wireButtons();
     wireCheckBoxes();
     wireComboBoxes();

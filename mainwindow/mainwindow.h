@@ -23,6 +23,9 @@ struct FirmwareVersions;
 } // namespace veltrix_sdk
 
 enum class Region;
+struct BprTransfer;
+struct PixelDeclaration;
+struct RegionCoordinate;
 struct ToggleSetting;
 struct VideoMode;
 
@@ -91,17 +94,53 @@ private slots:
     void contrastTypeChanged();
     void colorLutChanged();
     void edgeCorrectionChanged();
+    void columnCorrectionClicked();
+    void vignettingCorrectionClicked();
+    void sdiOutputClicked();
+    void parallelOutputClicked();
+    void mipiOutputClicked();
+    void polarityClicked();
+    void horizontalFlipClicked();
+    void gammaUserSendCommand();
+    void clheSendCommand();
+    void sharpeningSendCommand();
+    void ahcGainSendCommand();
+    void tempoFilterSendCommand();
+    void ApplyParamsUser();
+    void ResetParamsUser();
 
     // Expert parameters
     void ReadKrParamsExpert();
+    void ApplyParamsExpert();
+    void gskSendCommand();
+    void gfiSendCommand();
+    void gmsSendCommand();
+    void tintSendCommand();
     void bprControlChanged();
     void offsetControlChanged();
     void gainControlChanged();
+    void krBaudRateChanged();
+    void changePermanentButtonText();
+    void ApplyNucRequest();
 
     // Regions of interest
+    void x1RoiUserValueChanged(int roiNumber);
+    void x2RoiUserValueChanged(int roiNumber);
+    void y1RoiUserValueChanged(int roiNumber);
+    void y2RoiUserValueChanged(int roiNumber);
     void roi1IncCheck();
     void roi0ExcCheck();
     void roi1ExcCheck();
+
+    // Bad pixels
+    void readBprTableClicked();
+    void writeBprTableClicked();
+    void addBadPixelClicked();
+    void addBadPixelLineClicked();
+    void addBadPixelColumnClicked();
+    void removeBadPixelClicked();
+    void removeBadPixelLineClicked();
+    void removeBadPixelColumnClicked();
 
     // Video mode and starting mode of the Blend Unit
     void irModeClicked();
@@ -128,7 +167,9 @@ private:
     // Construction
     void wireTargetSelection();
     void wireSlidersAndSpinBoxes();
+    void wireRegions();
     void wireZoomFactor();
+    void wireFinishedEdits();
     void wireButtons();
     void wireCheckBoxes();
     void wireComboBoxes();
@@ -140,11 +181,17 @@ private:
     void reportOutcome(bool ok, const char *success, const char *failure);
 
     // Connection
+    /// Fetched afresh at each use: the SDK may replace it.
+    static veltrix_sdk::ISdkConfiguration &sdkConfiguration();
+    /// The call without arguments on the SDK root that ends an apply.
+    static void closeApply();
     bool isDeviceOpen() const;
     void returnDevice();
     void commitPendingEdit();
     void setConnectedControls(bool connected);
     void showNotConnectedBox();
+    /// Shows the not-connected box when no device is open, and says so.
+    bool tellNotConnected();
 
     // Camera parameters
     /// Asks the unit for its versions and starts its reading; a unit that does not answer is told about.
@@ -157,8 +204,20 @@ private:
     void readLut();
     void readEdgeCorrection();
 
+    void sendToggle(const ToggleSetting &setting);
+    void resetRegions(veltrix_sdk::ISdkConfiguration &defaults);
+
     // Regions of interest
     void enableRegion(Region region);
+    void finishRegionEdit(int roiNumber, const RegionCoordinate &coordinate);
+    bool sendRegionCoordinate(const RegionCoordinate &coordinate, int pixels, int roiNumber);
+
+    // Bad pixels
+    void transferBprTable(const BprTransfer &transfer);
+    void declareSingle(const PixelDeclaration &declaration);
+    void declareLine(const PixelDeclaration &declaration);
+    void declareColumn(const PixelDeclaration &declaration);
+    void declarePixel(const PixelDeclaration &declaration, int column, int row);
 
     // Blend Unit
     void showVideoMode(const VideoMode &mode);
@@ -173,4 +232,5 @@ private:
     QSerialPortInfo *selectedPortInfo; ///< Lives until the process ends.
     QList<QSerialPortInfo> serialPorts;
     std::uint8_t *deviceIdentity; ///< Lives until the process ends: the SDK is given its address.
+    bool regionBoxOpen{false};    ///< While the box about the order of a region's coordinates is shown.
 };

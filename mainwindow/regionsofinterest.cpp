@@ -1,12 +1,46 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// Regions of interest: the enable boxes and what they send.
-#include "encodings.h"
+// Regions of interest: the enable boxes, the coordinates and what they send.
+#include "logtext.h"
 #include "mainwindow.h"
+#include "messageboxes.h"
 #include "region.h"
 #include "veltrix_sdk/device_control.h"
 
+#include <QScopedValueRollback>
+#include <QSignalBlocker>
+
+#include <array>
+
 using namespace veltrix_sdk;
+
+/// One coordinate of a region, and the pair that is checked when it is edited.
+struct RegionCoordinate
+{
+    QSpinBox *RegionWidgets::*spinBox;
+    QSpinBox *RegionWidgets::*first;
+    QSpinBox *RegionWidgets::*second;
+    bool (IDeviceControl::*set)(std::uint32_t, std::int32_t, bool, bool, bool);
+    const char *name;
+    const char *orderText; ///< What the box says behind the number when the pair is in the wrong order.
+};
+
+namespace
+{
+
+constexpr int regionCount{4};
+constexpr const char *xOrderText{QT_TRANSLATE_NOOP("MainWindow", " X1 must be lower than ROI X2")};
+constexpr const char *yOrderText{QT_TRANSLATE_NOOP("MainWindow", " Y1 must be lower than ROI Y2")};
+
+/// In the order in which a region that is switched on or off sends them.
+constexpr std::array<RegionCoordinate, 4> coordinates{{
+    {&RegionWidgets::x1, &RegionWidgets::x1, &RegionWidgets::x2, &IDeviceControl::setRoiX1, "X1", xOrderText},
+    {&RegionWidgets::x2, &RegionWidgets::x1, &RegionWidgets::x2, &IDeviceControl::setRoiX2, "X2", xOrderText},
+    {&RegionWidgets::y1, &RegionWidgets::y1, &RegionWidgets::y2, &IDeviceControl::setRoiY1, "Y1", yOrderText},
+    {&RegionWidgets::y2, &RegionWidgets::y1, &RegionWidgets::y2, &IDeviceControl::setRoiY2, "Y2", yOrderText},
+}};
+
+} // namespace
 
 RegionWidgets regionWidgets(const Ui_MainWindow &ui, Region region)
 {
@@ -46,28 +80,73 @@ void MainWindow::enableRegion(Region region)
     const RegionWidgets widgets{regionWidgets(*ui, region)};
     const bool enabled{widgets.enable->isChecked()};
     for (QSpinBox *const spinBox : {widgets.x1, widgets.x2, widgets.y1, widgets.y2}) {
+        // A box that is disabled passes the focus on and would report an edit that nobody made.
+        const QSignalBlocker silence{spinBox};
         spinBox->setEnabled(enabled);
     }
 
-    using RegionSetter = bool (IDeviceControl::*)(std::uint32_t, std::int32_t, bool, bool, bool);
-    const struct
-    {
-        RegionSetter set;
-        const QSpinBox *spinBox;
-    } coordinates[]{
-        {&IDeviceControl::setRoiX1, widgets.x1},
-        {&IDeviceControl::setRoiX2, widgets.x2},
-        {&IDeviceControl::setRoiY1, widgets.y1},
-        {&IDeviceControl::setRoiY2, widgets.y2},
-    };
     bool allOk{true};
-    for (const auto &coordinate : coordinates) {
+    for (const RegionCoordinate &coordinate : coordinates) {
         // A region that is off keeps its coordinates in the window; the camera gets zeros for it.
-        const std::uint32_t pixels{enabled ? truncateToUint32(coordinate.spinBox->value()) : 0U};
-        const bool ok{(device->*coordinate.set)(
-            pixels, static_cast<std::int32_t>(region), ui->roi1IncEnable->isChecked(),
-            ui->roi0ExcEnable->isChecked(), ui->roi1ExcEnable->isChecked())};
+        const int pixels{enabled ? (widgets.*coordinate.spinBox)->value() : 0};
+        const bool ok{sendRegionCoordinate(coordinate, pixels, static_cast<int>(region))};
         allOk = allOk && ok;
         lastCommandOk = allOk;
     }
+}
+
+void MainWindow::x1RoiUserValueChanged(int roiNumber)
+{
+    finishRegionEdit(roiNumber, coordinates[0]);
+}
+
+void MainWindow::x2RoiUserValueChanged(int roiNumber)
+{
+    finishRegionEdit(roiNumber, coordinates[1]);
+}
+
+void MainWindow::y1RoiUserValueChanged(int roiNumber)
+{
+    finishRegionEdit(roiNumber, coordinates[2]);
+}
+
+void MainWindow::y2RoiUserValueChanged(int roiNumber)
+{
+    finishRegionEdit(roiNumber, coordinates[3]);
+}
+
+void MainWindow::finishRegionEdit(int roiNumber, const RegionCoordinate &coordinate)
+{
+    // The box below takes the focus from the spin box, which then reports its edit a second time.
+    if (regionBoxOpen) {
+        return;
+    }
+    int pixels{0};
+    if (roiNumber >= 0 && roiNumber < regionCount) {
+        const RegionWidgets widgets{regionWidgets(*ui, static_cast<Region>(roiNumber))};
+        QSpinBox *const first{widgets.*coordinate.first};
+        const int last{(widgets.*coordinate.second)->value()};
+        // What is sent is the value as the operator left it, also when the check moves the first one.
+        pixels = (widgets.*coordinate.spinBox)->value();
+        if (first->value() > last) {
+            first->setValue(last);
+            const QScopedValueRollback<bool> whileShown{regionBoxOpen, true};
+            // Leaving this spin box may have brought the focus to another one, which the box takes it from.
+            const QSignalBlocker silence{focusWidget()};
+            showAboutBox(this, tr("ROI"), tr("ROI ") + QString::number(roiNumber) + tr(coordinate.orderText));
+        }
+    }
+    if (isDeviceOpen()) {
+        lastCommandOk = sendRegionCoordinate(coordinate, pixels, roiNumber);
+        const std::string name{coordinate.name};
+        appendLog(lastCommandOk ? joinText("Set ROI ", roiNumber, ' ', name, " value OK")
+                                : "Set ROI " + name + " value KO");
+    }
+}
+
+bool MainWindow::sendRegionCoordinate(const RegionCoordinate &coordinate, int pixels, int roiNumber)
+{
+    return (device->*coordinate.set)(static_cast<std::uint32_t>(pixels), roiNumber,
+                                     ui->roi1IncEnable->isChecked(), ui->roi0ExcEnable->isChecked(),
+                                     ui->roi1ExcEnable->isChecked());
 }

@@ -13,6 +13,8 @@ struct ToggleSetting
     const char *activatedText;   ///< Of the button while the setting is on.
     const char *deactivatedText; ///< Of the button while the setting is off.
     bool (veltrix_sdk::IDeviceControl::*get)();
+    bool (veltrix_sdk::IDeviceControl::*set)(bool);
+    const char *action; ///< What the log says was set, before OK or KO.
 };
 
 inline constexpr ToggleSetting columnCorrection{
@@ -20,6 +22,8 @@ inline constexpr ToggleSetting columnCorrection{
     QT_TRANSLATE_NOOP("MainWindow", "Column Correction: Activated"),
     QT_TRANSLATE_NOOP("MainWindow", "Column Correction: Deactivated"),
     &veltrix_sdk::IDeviceControl::getColumnCorrection,
+    &veltrix_sdk::IDeviceControl::setColumnCorrection,
+    "Set column correction value",
 };
 
 inline constexpr ToggleSetting vignettingCorrection{
@@ -27,6 +31,8 @@ inline constexpr ToggleSetting vignettingCorrection{
     QT_TRANSLATE_NOOP("MainWindow", "Vignetting Correction: Activated"),
     QT_TRANSLATE_NOOP("MainWindow", "Vignetting Correction: Deactivated"),
     &veltrix_sdk::IDeviceControl::getVignettingCorrection,
+    &veltrix_sdk::IDeviceControl::setVignettingCorrection,
+    "Set vignetting correction value",
 };
 
 inline constexpr ToggleSetting sdiOutput{
@@ -34,6 +40,8 @@ inline constexpr ToggleSetting sdiOutput{
     QT_TRANSLATE_NOOP("MainWindow", "BT656/SDI Output: Activated"),
     QT_TRANSLATE_NOOP("MainWindow", "BT656/SDI Output: Deactivated"),
     &veltrix_sdk::IDeviceControl::getSdiOutput,
+    &veltrix_sdk::IDeviceControl::setSdiOutput,
+    "Set BT656/SDI OUTPUT value",
 };
 
 inline constexpr ToggleSetting parallelOutput{
@@ -41,6 +49,8 @@ inline constexpr ToggleSetting parallelOutput{
     QT_TRANSLATE_NOOP("MainWindow", "Parallel Output: Activated"),
     QT_TRANSLATE_NOOP("MainWindow", "Parallel Output: Deactivated"),
     &veltrix_sdk::IDeviceControl::getParallelOutput,
+    &veltrix_sdk::IDeviceControl::setParallelOutput,
+    "Set PARALLEL OUTPUT value",
 };
 
 inline constexpr ToggleSetting mipiOutput{
@@ -48,6 +58,8 @@ inline constexpr ToggleSetting mipiOutput{
     QT_TRANSLATE_NOOP("MainWindow", "MIPI Output: Activated"),
     QT_TRANSLATE_NOOP("MainWindow", "MIPI Output: Deactivated"),
     &veltrix_sdk::IDeviceControl::getMipiOutput,
+    &veltrix_sdk::IDeviceControl::setMipiOutput,
+    "Set MIPI OUTPUT value",
 };
 
 inline constexpr ToggleSetting horizontalFlip{
@@ -55,6 +67,8 @@ inline constexpr ToggleSetting horizontalFlip{
     QT_TRANSLATE_NOOP("MainWindow", "Horizontal Flip: Activated"),
     QT_TRANSLATE_NOOP("MainWindow", "Horizontal Flip: Deactivated"),
     &veltrix_sdk::IDeviceControl::getHorizontalFlip,
+    &veltrix_sdk::IDeviceControl::setHorizontalFlip,
+    "Set HORIZONTAL FLIP value",
 };
 
 inline constexpr ToggleSetting polarity{
@@ -62,4 +76,6 @@ inline constexpr ToggleSetting polarity{
     QT_TRANSLATE_NOOP("MainWindow", "Invert Polarity: Activated"),
     QT_TRANSLATE_NOOP("MainWindow", "Invert Polarity: Deactivated"),
     &veltrix_sdk::IDeviceControl::getPolarity,
+    &veltrix_sdk::IDeviceControl::setPolarity,
+    "Set POLARITY value",
 };

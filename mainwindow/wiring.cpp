@@ -2,7 +2,19 @@
 // SPDX-License-Identifier: MIT
 // Every connection between the controls and their handlers, in one order.
 #include "mainwindow.h"
-#include "ui_mainwindow.h"
+#include "region.h"
+
+namespace
+{
+
+/// A sender and the slot, by its signature text, that a signal of it is connected to.
+struct Row
+{
+    const QObject *sender;
+    const char *slot;
+};
+
+} // namespace
 
 void MainWindow::wireTargetSelection()
 {
@@ -11,12 +23,6 @@ void MainWindow::wireTargetSelection()
 
 void MainWindow::wireSlidersAndSpinBoxes()
 {
-    struct Row
-    {
-        const QObject *sender;
-        const char *slot;
-    };
-
     const Row sliders[]{
         {ui->gammaSlider, SLOT(GammaUserSliderChanged(int))},
         {ui->clheSlider, SLOT(ClheUserSliderChanged(int))},
@@ -32,6 +38,23 @@ void MainWindow::wireSlidersAndSpinBoxes()
     };
     for (const Row &row : sliders) {
         connect(row.sender, SIGNAL(valueChanged(int)), this, row.slot);
+    }
+
+    const Row releases[]{
+        {ui->gammaSlider, SLOT(gammaUserSendCommand())},
+        {ui->clheSlider, SLOT(clheSendCommand())},
+        {ui->sharpeningGainSlider, SLOT(sharpeningSendCommand())},
+        {ui->SharpeningTHSlider, SLOT(sharpeningSendCommand())},
+        {ui->AhcBlackGainLimSlider, SLOT(ahcGainSendCommand())},
+        {ui->AhcWhiteGainLimSlider, SLOT(ahcGainSendCommand())},
+        {ui->TempoFilterSlider, SLOT(tempoFilterSendCommand())},
+        {ui->gskSlider, SLOT(gskSendCommand())},
+        {ui->gfidSlider, SLOT(gfiSendCommand())},
+        {ui->gmsSlider, SLOT(gmsSendCommand())},
+        {ui->tintSlider, SLOT(tintSendCommand())},
+    };
+    for (const Row &row : releases) {
+        connect(row.sender, SIGNAL(sliderReleased()), this, row.slot);
     }
 
     const Row userDoubleSpinBoxes[]{
@@ -64,6 +87,19 @@ void MainWindow::wireSlidersAndSpinBoxes()
     }
 }
 
+void MainWindow::wireRegions()
+{
+    for (const Region region :
+         {Region::Roi0Inclusive, Region::Roi1Inclusive, Region::Roi0Exclusive, Region::Roi1Exclusive}) {
+        const RegionWidgets widgets{regionWidgets(*ui, region)};
+        const int number{static_cast<int>(region)};
+        connect(widgets.x1, &QSpinBox::editingFinished, this, [=] { x1RoiUserValueChanged(number); });
+        connect(widgets.x2, &QSpinBox::editingFinished, this, [=] { x2RoiUserValueChanged(number); });
+        connect(widgets.y1, &QSpinBox::editingFinished, this, [=] { y1RoiUserValueChanged(number); });
+        connect(widgets.y2, &QSpinBox::editingFinished, this, [=] { y2RoiUserValueChanged(number); });
+    }
+}
+
 void MainWindow::wireZoomFactor()
 {
     // Neither the signal nor the slot exists: Qt warns and the factor stays without a handler of its own.
@@ -71,18 +107,58 @@ void MainWindow::wireZoomFactor()
     connect(ui->factorZoomEdit, SIGNAL(valueChanged(int)), this, SLOT(zoomChanged()));
 }
 
+void MainWindow::wireFinishedEdits()
+{
+    const Row spinBoxes[]{
+        {ui->gammaEdit, SLOT(gammaUserSendCommand())},
+        {ui->clheEdit, SLOT(clheSendCommand())},
+        {ui->sharpeningGainEdit, SLOT(sharpeningSendCommand())},
+        {ui->SharpeningTHEdit, SLOT(sharpeningSendCommand())},
+        {ui->AhcBlackGainLimSpin, SLOT(ahcGainSendCommand())},
+        {ui->AhcWhiteGainLimSpin, SLOT(ahcGainSendCommand())},
+        {ui->TempoFilterSpin, SLOT(tempoFilterSendCommand())},
+        {ui->gskEdit, SLOT(gskSendCommand())},
+        {ui->gfidEdit, SLOT(gfiSendCommand())},
+        {ui->gmsEdit, SLOT(gmsSendCommand())},
+        {ui->tintEdit, SLOT(tintSendCommand())},
+    };
+    for (const Row &row : spinBoxes) {
+        connect(row.sender, SIGNAL(editingFinished()), this, row.slot);
+    }
+}
+
 void MainWindow::wireButtons()
 {
+    connect(ui->resetParamButtonUser, &QPushButton::clicked, this, &MainWindow::ResetParamsUser);
     connect(ui->readParamButtonUser, &QPushButton::clicked, this, &MainWindow::readAllParameters);
     connect(ui->readParamButtonExpert, &QPushButton::clicked, this, &MainWindow::readParamsExpert);
     connect(ui->scanDeviceButton, &QPushButton::clicked, this, &MainWindow::scanDevice);
     connect(ui->connectDeviceButton, &QPushButton::clicked, this, &MainWindow::connectDevice);
     connect(ui->disconnectDeviceButton, &QPushButton::clicked, this, &MainWindow::disconnectDevice);
+    connect(ui->PermanentButton, &QPushButton::clicked, this, &MainWindow::changePermanentButtonText);
     connect(ui->AboutButton, &QPushButton::clicked, this, &MainWindow::createAboutWindow);
     connect(ui->clearLogButton, &QPushButton::clicked, ui->logView, &QPlainTextEdit::clear);
     connect(ui->saveParamButtonUser, &QPushButton::clicked, this, &MainWindow::saveBlendUnitUserClicked);
+    connect(ui->ColumnCorrectionButton, &QPushButton::clicked, this, &MainWindow::columnCorrectionClicked);
+    connect(ui->VignettingCorrectionButton, &QPushButton::clicked, this,
+            &MainWindow::vignettingCorrectionClicked);
+    connect(ui->sdiOutputButton, &QPushButton::clicked, this, &MainWindow::sdiOutputClicked);
+    connect(ui->parallelOutputButton, &QPushButton::clicked, this, &MainWindow::parallelOutputClicked);
+    connect(ui->mipiOutputButton, &QPushButton::clicked, this, &MainWindow::mipiOutputClicked);
+    connect(ui->polarityButton, &QPushButton::clicked, this, &MainWindow::polarityClicked);
+    connect(ui->horizontalFlipButton, &QPushButton::clicked, this, &MainWindow::horizontalFlipClicked);
     connect(ui->configureZoomButton, &QPushButton::clicked, this, &MainWindow::configureZoomClicked);
     connect(ui->FusionConfigureZoomPB, &QPushButton::clicked, this, &MainWindow::configureZoomClicked);
+    connect(ui->readBPRTableButton, &QPushButton::clicked, this, &MainWindow::readBprTableClicked);
+    connect(ui->writeBPRTableButton, &QPushButton::clicked, this, &MainWindow::writeBprTableClicked);
+    connect(ui->addBadPixelButton, &QPushButton::clicked, this, &MainWindow::addBadPixelClicked);
+    connect(ui->addBadPixelLineButton, &QPushButton::clicked, this, &MainWindow::addBadPixelLineClicked);
+    connect(ui->addBadPixelColumnButton, &QPushButton::clicked, this, &MainWindow::addBadPixelColumnClicked);
+    connect(ui->removeBadPixelButton, &QPushButton::clicked, this, &MainWindow::removeBadPixelClicked);
+    connect(ui->removeBadPixelLineButton, &QPushButton::clicked, this,
+            &MainWindow::removeBadPixelLineClicked);
+    connect(ui->removeBadPixelColumnButton, &QPushButton::clicked, this,
+            &MainWindow::removeBadPixelColumnClicked);
     connect(ui->BU_IR_MODE_PB, &QPushButton::clicked, this, &MainWindow::irModeClicked);
     connect(ui->BU_VISIBLE_MODE_PB, &QPushButton::clicked, this, &MainWindow::visibleModeClicked);
     connect(ui->BU_FUSION_MODE_PB, &QPushButton::clicked, this, &MainWindow::fusionModeClicked);
@@ -112,6 +188,7 @@ void MainWindow::wireComboBoxes()
     connect(ui->methodZoomEdit, indexChanged, this, &MainWindow::configureZoomClicked);
     connect(ui->FusionWarpCB, indexChanged, this, &MainWindow::readFusionParamsExpert);
     connect(ui->startingModeCB, indexChanged, this, &MainWindow::startingModeChanged);
+    connect(ui->BaudRateCB, indexChanged, this, &MainWindow::krBaudRateChanged);
 }
 
 void MainWindow::wireVisibleChannel()

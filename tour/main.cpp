@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSpinBox>
@@ -13,7 +14,9 @@
 #include <QTabWidget>
 #include <QTest>
 #include <QTextStream>
+#include <QTimer>
 
+#include <cstdlib>
 #include <functional>
 #include <vector>
 
@@ -162,6 +165,19 @@ int main(int argc, char *argv[])
                << "; name one that can be written\n";
         return 2;
     }
+
+    // Nobody is there to answer a box, and none is part of the tour.
+    QTimer boxes;
+    QObject::connect(&boxes, &QTimer::timeout, [&errors] {
+        if (const QWidget *const box = QApplication::activeModalWidget()) {
+            const auto *const messageBox = qobject_cast<const QMessageBox *>(box);
+            errors << "pilotel-tour: a box ended the tour: "
+                   << (messageBox != nullptr ? messageBox->text() : box->windowTitle()) << '\n';
+            errors.flush();
+            std::exit(1);
+        }
+    });
+    boxes.start(100);
 
     MainWindow window;
     window.show();

@@ -3,8 +3,17 @@
 // The one place that every call of the contract passes.
 #include "core.h"
 
+#include <cstddef>
+
 namespace veltrix_simulator
 {
+
+namespace
+{
+
+constexpr std::ptrdiff_t journalCapacity{200'000};
+
+} // namespace
 
 void Core::reset()
 {
@@ -12,6 +21,13 @@ void Core::reset()
     journalEnabled = true;
     callsWhileNotOpen = 0;
     faults.clear();
+}
+
+void Core::forgetOldest()
+{
+    if (static_cast<std::ptrdiff_t>(journal.size()) >= journalCapacity) {
+        journal.erase(journal.begin(), journal.begin() + journalCapacity / 2);
+    }
 }
 
 } // namespace veltrix_simulator

@@ -60,6 +60,7 @@ public:
         }
 
         if (journalEnabled) {
+            forgetOldest();
             CallText text{line, objects};
             text.begin(reachable, operation);
             (text.argument(parameters), ...);
@@ -78,6 +79,9 @@ public:
     Faults faults;
 
 private:
+    /// A program that runs for days never takes its journal.
+    void forgetOldest();
+
     /// A refused text is empty, not null: its callers read it without asking.
     template <typename Result>
     static Result zero()

@@ -55,8 +55,8 @@ inline constexpr std::array<Pair, 11> pairs{{
 /// The pair of that slider.
 inline const Pair &pairOf(const char *slider)
 {
-    const auto *const found = std::find_if(
-        pairs.begin(), pairs.end(), [slider](const Pair &pair) { return qstrcmp(pair.slider, slider) == 0; });
+    const auto found = std::find_if(pairs.begin(), pairs.end(),
+                                    [slider](const Pair &pair) { return qstrcmp(pair.slider, slider) == 0; });
     Q_ASSERT(found != pairs.end());
     return *found;
 }

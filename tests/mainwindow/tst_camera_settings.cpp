@@ -35,7 +35,7 @@ constexpr std::array<Setting, 5> settings{{
 
 const Setting &settingOf(const QString &comboBox)
 {
-    const auto *const found = std::find_if(settings.begin(), settings.end(), [&](const Setting &setting) {
+    const auto found = std::find_if(settings.begin(), settings.end(), [&](const Setting &setting) {
         return comboBox == QString{setting.comboBox};
     });
     Q_ASSERT(found != settings.end());

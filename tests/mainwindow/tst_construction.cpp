@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// The window as it is built, the about dialog, and what happens when the window goes away.
+// The window as it is built.
 #include "connectioncontrols.h"
 #include "mouse.h"
 #include "testwindow.h"

@@ -107,6 +107,30 @@ void NoDeviceTest::handlersWithoutADeviceDoNothing_data()
         "visibleClheChanged",
         "saveBlendUnitUserClicked",
         "saveBlendUnitExpertClicked",
+        "columnCorrectionClicked",
+        "vignettingCorrectionClicked",
+        "sdiOutputClicked",
+        "parallelOutputClicked",
+        "mipiOutputClicked",
+        "polarityClicked",
+        "horizontalFlipClicked",
+        "gammaUserSendCommand",
+        "clheSendCommand",
+        "sharpeningSendCommand",
+        "ahcGainSendCommand",
+        "tempoFilterSendCommand",
+        "ApplyParamsUser",
+        "ResetParamsUser",
+        "gskSendCommand",
+        "gfiSendCommand",
+        "gmsSendCommand",
+        "tintSendCommand",
+        "krBaudRateChanged",
+        "ApplyNucRequest",
+        "x1RoiUserValueChanged",
+        "x2RoiUserValueChanged",
+        "y1RoiUserValueChanged",
+        "y2RoiUserValueChanged",
         // Those that take a number are invoked with each of a few.
         "targetChanged",
         "readTemp",
@@ -201,6 +225,10 @@ void NoDeviceTest::controlsWithoutADeviceSendNothing()
 
     // The operator cannot reach them.
     test.child<QWidget>("paramSection").setEnabled(true);
+    constexpr int badPixelButtons{8};
+    for (int shown{0}; shown < badPixelButtons; ++shown) {
+        test.boxes.expect();
+    }
     for (auto *const comboBox : test.child<QWidget>("paramSection").findChildren<QComboBox *>()) {
         comboBox->setCurrentIndex((comboBox->currentIndex() + 1) % comboBox->count());
     }
@@ -214,6 +242,9 @@ void NoDeviceTest::controlsWithoutADeviceSendNothing()
 
     QCOMPARE(test.takeCallsAndRecords(), QStringList{});
     QCOMPARE(test.takeLog(), QStringList{});
+    const QStringList boxes{test.boxes.takeShown()};
+    QCOMPARE(boxes.size(), badPixelButtons);
+    QCOMPARE(boxes.filter("Camera not connected"), boxes);
 }
 
 QTEST_MAIN(NoDeviceTest)

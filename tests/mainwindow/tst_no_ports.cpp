@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// Scanning on a host without serial ports.
+// Scanning on a host whose serial ports are told by the test.
 #include "connectioncontrols.h"
 #include "testwindow.h"
 
@@ -8,10 +8,17 @@
 #include <QSerialPortInfo>
 #include <QTest>
 
-/// Stands in for the host's own: here there is none.
+/// Stands in for the host's own: as many as the test says, none at first. Without the host's own data a port
+/// has no name, which is enough to tell where in a list it stands.
+static int hostPorts{0};
+
 QList<QSerialPortInfo> QSerialPortInfo::availablePorts()
 {
-    return {};
+    QList<QSerialPortInfo> ports;
+    for (int port{0}; port < hostPorts; ++port) {
+        ports.append(QSerialPortInfo{});
+    }
+    return ports;
 }
 
 namespace
@@ -32,7 +39,25 @@ private slots:
     void emptiesTheListAndLeavesTheButtonsAsTheyWere();
     void offersThePortsOfTheSdkAlone();
     void warnsAtEveryScan();
+    void offersTheHostsPortsBeforeThoseOfTheSdk();
 };
+
+void NoPortsTest::offersTheHostsPortsBeforeThoseOfTheSdk()
+{
+    TestWindow test;
+    hostPorts = 2;
+
+    test.click("scanDeviceButton");
+
+    hostPorts = 0;
+    const auto &ports = test.child<QComboBox>("selectDeviceComboBox");
+    QStringList names;
+    for (int item{0}; item < ports.count(); ++item) {
+        names.append(ports.itemText(item));
+    }
+    const QStringList expected{QString{}, QString{}, "SIM1"};
+    QCOMPARE(names, expected);
+}
 
 void NoPortsTest::warnsWhenThereIsNoPort()
 {

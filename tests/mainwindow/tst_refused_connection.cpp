@@ -56,6 +56,9 @@ private slots:
     void tellsThatNoDeviceCouldBeOpened();
     void releasesAStuckManagerAtTheNextConnect();
     void releasesAStuckManagerBeforeRefusingTheCommunicationType();
+    void tellsThatThereIsNoManager();
+    void locksTheControlsWhenAConnectedWindowFailsToConnectAgain_data();
+    void locksTheControlsWhenAConnectedWindowFailsToConnectAgain();
     void refusesAnotherIdentity_data();
     void refusesAnotherIdentity();
     void staysLockedWhenTheBlendUnitDoesNotAnswer_data();
@@ -165,6 +168,46 @@ void RefusedConnectionTest::releasesAStuckManagerBeforeRefusingTheCommunicationT
     QCOMPARE(test.takeCallsAndRecords(), calls);
     QCOMPARE(test.boxes.takeShown(), (QStringList{invalidCommunicationBox, invalidCommunicationBox}));
     QCOMPARE(test.takeLog(), QStringList{});
+}
+
+void RefusedConnectionTest::tellsThatThereIsNoManager()
+{
+    TestWindow test;
+    test.simulator.addFault({"getDeviceManager"});
+    test.boxes.expect();
+
+    test.scanAndConnect();
+
+    QCOMPARE(test.boxes.takeShown(), QStringList{invalidCommunicationBox});
+    QCOMPARE(test.takeLog(), QStringList{"ALTERNATIVE SERIAL PORT : SIM1"});
+    const QStringList calls{test.takeCalls()};
+    QCOMPARE(calls.last(), QStringLiteral("getDeviceManager() -> null"));
+    QCOMPARE(test.enabledOf(connectionControls()), enabledWithPorts());
+}
+
+void RefusedConnectionTest::locksTheControlsWhenAConnectedWindowFailsToConnectAgain_data()
+{
+    QTest::addColumn<QString>("refused");
+    QTest::newRow("the port does not open") << "openDevice";
+    QTest::newRow("the communication type is another") << "getCommunicationType";
+}
+
+void RefusedConnectionTest::locksTheControlsWhenAConnectedWindowFailsToConnectAgain()
+{
+    QFETCH(QString, refused);
+    TestWindow test;
+    test.beConnected();
+    test.simulator.addFault({refused.toStdString()});
+    test.boxes.expect();
+
+    test.invoke("connectDevice");
+
+    QCOMPARE(test.boxes.takeShown(), QStringList{invalidCommunicationBox});
+    QVERIFY(!test.simulator.isDeviceOpen());
+    QCOMPARE(test.enabledOf(connectionControls()), enabledWithPorts());
+    test.simulator.clearFaults();
+    test.click("connectDeviceButton");
+    QCOMPARE(test.enabledOf(connectionControls()), enabledWhileConnected());
 }
 
 void RefusedConnectionTest::refusesAnotherIdentity_data()

@@ -95,6 +95,7 @@ private slots:
     void uncheckingSendsZerosAndKeepsTheValues();
     void everyCommandCarriesAllFlags_data();
     void everyCommandCarriesAllFlags();
+    void uncheckingSendsNothingForTheBoxInFocus();
     void theSpaceKeyTogglesToo();
     void coordinatesInTheWrongOrderAreSentUnchecked();
     void oneRefusalIsRememberedAndTheOthersAreSent_data();
@@ -239,6 +240,24 @@ void TestRegionsOfInterest::everyCommandCarriesAllFlags()
     QCOMPARE(test.takeCallsAndRecords(), commands(region, values, flags));
 }
 
+void TestRegionsOfInterest::uncheckingSendsNothingForTheBoxInFocus()
+{
+    TestWindow test;
+    openCameraPage(test, "LutSection");
+    showCoordinates(test, regionOf(1));
+    auto &enableBox = test.child<QCheckBox>("roi1IncEnable");
+    enableBox.setChecked(true);
+    test.child<QSpinBox>("Roi1IncX1").setFocus();
+    test.takeCallsAndRecords();
+    test.takeLog();
+
+    // As a reset does, which leaves the focus where it is.
+    enableBox.setChecked(false);
+
+    QCOMPARE(test.takeCallsAndRecords(), commands(regionOf(1), zeros(), "false, false, false"));
+    QCOMPARE(test.takeLog(), QStringList{});
+}
+
 void TestRegionsOfInterest::theSpaceKeyTogglesToo()
 {
     TestWindow test;
@@ -326,10 +345,14 @@ void TestRegionsOfInterest::withoutADeviceNothingHappens()
     QFETCH(const int, number);
     const OptionalRegion &region{regionOf(number)};
     TestWindow test;
+    // The operator cannot reach the page.
+    test.child<QWidget>("paramSection").setEnabled(true);
+    test.child<QCheckBox>(region.enableBox).setChecked(true);
     test.takeCallsAndRecords();
     test.invoke(region.handler);
     QCOMPARE(test.takeCallsAndRecords(), QStringList{});
-    QCOMPARE(test.enabledOf({region.enableBox}), QStringList{});
+    QCOMPARE(test.enabledOf(boxesOf(region)), QStringList{});
+    test.child<QCheckBox>(region.enableBox).setChecked(false);
 
     test.beConnected();
     test.click("disconnectDeviceButton");

@@ -66,7 +66,7 @@ public:
     /// Power-on state: default state and configuration, nothing open, no faults, an empty journal.
     void reset();
 
-    /// Every call since the last clearJournal() or reset(), in order.
+    /// Every call since the last clearJournal() or reset(), in order; of more than 200000 calls the latest.
     const std::vector<Call> &journal() const;
     void clearJournal();
     /// Turns the journal on (the state at start) or off.

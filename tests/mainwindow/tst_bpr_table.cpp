@@ -1,0 +1,296 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// Tests of the table of bad pixels: its transfer from and to the camera.
+#include "camerapage.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <array>
+#include <optional>
+
+namespace
+{
+
+struct Transfer
+{
+    const char *button;
+    const char *handler;
+    const char *operation;
+    const char *arguments;
+    const char *failureBox;
+    const char *lineBegin;
+    const char *lineEnd;
+};
+
+constexpr std::array<Transfer, 2> transfers{{
+    {"readBPRTableButton", "readBprTableClicked", "readBprTable", "(4096, 16384, 9)",
+     R"(window icon "BPR table" "BPR table not read correctly" [OK])", "BPR table correctly saved to ", "."},
+    {"writeBPRTableButton", "writeBprTableClicked", "writeBprTable", "(4096, 16384, 8)",
+     R"(window icon "BPR table" "BPR table not write correctly" [OK])", "BPR table ", " correctly written."},
+}};
+
+void addTransfers()
+{
+    QTest::addColumn<std::size_t>("place");
+    for (std::size_t place{0}; place < transfers.size(); ++place) {
+        QTest::newRow(transfers.at(place).operation) << place;
+    }
+}
+
+QString call(const Transfer &transfer, bool accepted)
+{
+    return QString{transfer.operation} + transfer.arguments + (accepted ? " -> true" : " -> false");
+}
+
+QString line(const Transfer &transfer, const char *fileName)
+{
+    return QString{transfer.lineBegin} + fileName + transfer.lineEnd;
+}
+
+/// Presses a button of the page that no installation shows.
+void press(TestWindow &test, const QString &button)
+{
+    auto &itsButton = test.child<QAbstractButton>(button);
+    QVERIFY(itsButton.isEnabled());
+    itsButton.click();
+}
+
+/// Lets the last command be a refused one.
+void letACommandFail(TestWindow &test)
+{
+    test.simulator.addFault({"setGamma"});
+    test.invoke("gammaUserSendCommand");
+    test.simulator.clearFaults();
+    test.takeLog();
+    test.simulator.clearJournal();
+}
+
+} // namespace
+
+class TestBprTable : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void readingSavesTheTable();
+    void writingSendsTheFile();
+    void writingWithoutAFileIsToldInABox();
+    void aFailureIsToldInABoxBeforeTheLine_data() { addTransfers(); }
+    void aFailureIsToldInABoxBeforeTheLine();
+    void theFileIsNamedAfterTheSerialNumber_data();
+    void theFileIsNamedAfterTheSerialNumber();
+    void theSerialNumberIsAskedEachTime();
+    void theUnitInViewIsTheOneTransferred();
+    void theLastResultIsLeft_data() { addTransfers(); }
+    void theLastResultIsLeft();
+    void withoutADeviceOnlyTheBoxIsShown_data() { addTransfers(); }
+    void withoutADeviceOnlyTheBoxIsShown();
+    void otherButtonsDoNothing_data();
+    void otherButtonsDoNothing();
+
+private:
+    QString directoryBefore;
+    std::optional<QTemporaryDir> directory;
+};
+
+void TestBprTable::init()
+{
+    directoryBefore = QDir::currentPath();
+    directory.emplace();
+    QVERIFY(QDir::setCurrent(directory->path()));
+}
+
+void TestBprTable::cleanup()
+{
+    QVERIFY(QDir::setCurrent(directoryBefore));
+    directory.reset();
+}
+
+void TestBprTable::readingSavesTheTable()
+{
+    TestWindow test;
+    openCameraPage(test, "LutSection");
+    press(test, "readBPRTableButton");
+    QCOMPARE(test.takeCallsAndRecords(),
+             (QStringList{"readBprTable(4096, 16384, 9) -> true", "getSerialNumber() -> 10417",
+                          "log(2, \"BPR table correctly saved to bpr_SN10417.bin.\")"}));
+    QCOMPARE(test.takeLog(), QStringList{"BPR table correctly saved to bpr_SN10417.bin."});
+    QCOMPARE(QDir{}.entryList(QDir::Files), QStringList{"bpr_SN10417.bin"});
+    QVERIFY(QFileInfo{"bpr_SN10417.bin"}.size() > 640 * 480 / 8);
+}
+
+void TestBprTable::writingSendsTheFile()
+{
+    TestWindow test;
+    openCameraPage(test, "LutSection");
+    press(test, "readBPRTableButton");
+    test.takeLog();
+    test.takeCalls();
+
+    press(test, "writeBPRTableButton");
+    QCOMPARE(test.takeCallsAndRecords(),
+             (QStringList{"writeBprTable(4096, 16384, 8) -> true", "getSerialNumber() -> 10417",
+                          "log(2, \"BPR table bpr_SN10417.bin correctly written.\")"}));
+    QCOMPARE(test.takeLog(), QStringList{"BPR table bpr_SN10417.bin correctly written."});
+}
+
+void TestBprTable::writingWithoutAFileIsToldInABox()
+{
+    TestWindow test;
+    openCameraPage(test, "LutSection");
+    test.boxes.expect();
+    press(test, "writeBPRTableButton");
+    QCOMPARE(test.boxes.takeShown(),
+             QStringList{R"(window icon "BPR table" "BPR table not write correctly" [OK])"});
+    QCOMPARE(test.takeLog(), QStringList{"BPR table bpr_SN10417.bin correctly written."});
+}
+
+void TestBprTable::aFailureIsToldInABoxBeforeTheLine()
+{
+    QFETCH(const std::size_t, place);
+    const Transfer &transfer{transfers.at(place)};
+    TestWindow test;
+    openCameraPage(test, "LutSection");
+    test.simulator.addFault({transfer.operation});
+
+    QStringList callsBefore;
+    QStringList linesBefore;
+    test.boxes.expect([&](QDialog &box) {
+        callsBefore = test.takeCallsAndRecords();
+        linesBefore = test.takeLog();
+        BoxWatcher::pressOk(box);
+    });
+    press(test, transfer.button);
+    QCOMPARE(test.boxes.takeShown(), QStringList{transfer.failureBox});
+    QCOMPARE(callsBefore, QStringList{call(transfer, false)});
+    QCOMPARE(linesBefore, QStringList{});
+    QCOMPARE(test.takeCalls(), QStringList{"getSerialNumber() -> 10417"});
+    QCOMPARE(test.takeLog(), QStringList{line(transfer, "bpr_SN10417.bin")});
+}
+
+void TestBprTable::theFileIsNamedAfterTheSerialNumber_data()
+{
+    QTest::addColumn<std::size_t>("place");
+    QTest::addColumn<qlonglong>("serialNumber");
+    QTest::addColumn<QByteArray>("fileName");
+    for (std::size_t place{0}; place < transfers.size(); ++place) {
+        const auto row = [place](qlonglong serialNumber, const char *fileName) {
+            QTest::addRow("%s: %s", transfers.at(place).operation, fileName)
+                << place << serialNumber << QByteArray{fileName};
+        };
+        row(0, "bpr_SN0.bin");
+        row(1234, "bpr_SN1234.bin");
+        row(2147483648, "bpr_SN2147483648.bin");
+        row(4294967295, "bpr_SN4294967295.bin");
+    }
+}
+
+void TestBprTable::theFileIsNamedAfterTheSerialNumber()
+{
+    QFETCH(const std::size_t, place);
+    QFETCH(const qlonglong, serialNumber);
+    QFETCH(const QByteArray, fileName);
+    TestWindow test;
+    openCameraPage(test, "LutSection");
+    test.simulator.set("camera.serialNumber", std::int64_t{serialNumber});
+    press(test, "readBPRTableButton");
+    test.takeLog();
+
+    press(test, transfers.at(place).button);
+    QCOMPARE(test.takeLog(), QStringList{line(transfers.at(place), fileName)});
+    QCOMPARE(QDir{}.entryList(QDir::Files), QStringList{QString{fileName}});
+}
+
+void TestBprTable::theSerialNumberIsAskedEachTime()
+{
+    TestWindow test;
+    openCameraPage(test, "LutSection");
+    for (const int serialNumber : {1, 22, 333}) {
+        test.simulator.set("camera.serialNumber", std::int64_t{serialNumber});
+        press(test, "readBPRTableButton");
+        QCOMPARE(test.takeLog(),
+                 QStringList{QStringLiteral("BPR table correctly saved to bpr_SN%1.bin.").arg(serialNumber)});
+    }
+}
+
+void TestBprTable::theUnitInViewIsTheOneTransferred()
+{
+    TestWindow test;
+    test.beConnected();
+    press(test, "readBPRTableButton");
+    QCOMPARE(test.takeCalls(),
+             (QStringList{"readBprTable(4096, 16384, 9) -> true", "getSerialNumber() -> 2063"}));
+    QCOMPARE(test.takeLog(), QStringList{"BPR table correctly saved to bpr_SN2063.bin."});
+}
+
+void TestBprTable::theLastResultIsLeft()
+{
+    QFETCH(const std::size_t, place);
+    const Transfer &transfer{transfers.at(place)};
+    TestWindow test;
+    openCameraPage(test, "LutSection");
+    press(test, "readBPRTableButton");
+    QVERIFY(test.lastCommandOk());
+    test.simulator.addFault({transfer.operation});
+    test.boxes.expect();
+    press(test, transfer.button);
+    QVERIFY(test.lastCommandOk());
+    test.simulator.clearFaults();
+    test.boxes.takeShown();
+
+    letACommandFail(test);
+    press(test, transfer.button);
+    QCOMPARE(test.takeCalls().first(), call(transfer, true));
+    QVERIFY(!test.lastCommandOk());
+}
+
+void TestBprTable::withoutADeviceOnlyTheBoxIsShown()
+{
+    QFETCH(const std::size_t, place);
+    const Transfer &transfer{transfers.at(place)};
+    TestWindow test;
+    for (const bool connectedBefore : {false, true}) {
+        if (connectedBefore) {
+            test.beConnected();
+            test.click("disconnectDeviceButton");
+        }
+        test.simulator.clearJournal();
+        test.boxes.expect();
+        test.invoke(transfer.handler);
+        QCOMPARE(
+            test.boxes.takeShown(),
+            QStringList{QStringLiteral(R"(window icon "Camera not connected" "Unable to connect to %1" [OK])")
+                            .arg(connectedBefore ? "SIM1" : "")});
+        QCOMPARE(test.takeCallsAndRecords(), QStringList{});
+        QCOMPARE(test.takeLog(), QStringList{});
+    }
+    QCOMPARE(QDir{}.entryList(QDir::Files), QStringList{});
+}
+
+void TestBprTable::otherButtonsDoNothing_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::newRow("reset of the table") << "resetBPRTableButton";
+    QTest::newRow("graphic editor") << "bpGraphicEditorButton";
+}
+
+void TestBprTable::otherButtonsDoNothing()
+{
+    QFETCH(const QString, button);
+    TestWindow test;
+    openCameraPage(test, "LutSection");
+    press(test, button);
+    QCOMPARE(test.takeCallsAndRecords(), QStringList{});
+    QCOMPARE(test.takeLog(), QStringList{});
+    QCOMPARE(QDir{}.entryList(QDir::Files), QStringList{});
+    QVERIFY(test.child<QAbstractButton>(button).isEnabled());
+}
+
+QTEST_MAIN(TestBprTable)
+
+#include "tst_bpr_table.moc"
