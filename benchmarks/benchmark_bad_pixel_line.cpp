@@ -60,11 +60,15 @@ int main(int argc, char *argv[])
     button("disconnectDeviceButton")->click();
 
     auto *const device = veltrix_sdk::VeltrixSdk::get_instance()->getDeviceManager()->openDevice("SIM1");
+    int accepted{0};
     const double calls{milliseconds([&] {
         for (std::uint32_t column{0}; column < linePixels; ++column) {
-            device->addBadPixel(column, 0);
+            accepted += device->addBadPixel(column, 0) ? 1 : 0;
         }
     })};
+    if (accepted != repetitions * linePixels) {
+        qFatal("the device refused pixels; the figures would mean nothing");
+    }
 
     const auto &logView = *window.findChild<QPlainTextEdit *>(QStringLiteral("logView"));
     QPlainTextEdit plainView;

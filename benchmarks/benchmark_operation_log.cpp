@@ -10,13 +10,16 @@
 #include <QPlainTextEdit>
 #include <QTextStream>
 
+#include <algorithm>
 #include <functional>
+#include <limits>
 #include <string>
 
 namespace
 {
 
-constexpr int measuredLines{1000};
+constexpr int measuredLines{200};
+constexpr int batches{20};
 
 /// Microseconds per line over measuredLines lines.
 double microsecondsPerLine(const std::function<void()> &append)
@@ -49,14 +52,17 @@ int main(int argc, char *argv[])
 
     const std::string line{"Set GAMMA value OK"};
     const QString plainLine{QString::fromStdString(line)};
-    // Looked up once, so that the look-up by name is not measured.
-    const QMetaMethod appendLogSlot{
-        window.metaObject()->method(window.metaObject()->indexOfSlot("appendLog(std::string)"))};
+    // Both through their slots, looked up once: what a slot costs to invoke is not what is measured.
+    const auto slot = [](const QObject &object, const char *signature) {
+        return object.metaObject()->method(object.metaObject()->indexOfSlot(signature));
+    };
+    const QMetaMethod appendLogSlot{slot(window, "appendLog(std::string)")};
+    const QMetaMethod appendPlainTextSlot{slot(plainView, "appendPlainText(QString)")};
     const auto appendLog = [&] {
         appendLogSlot.invoke(&window, Qt::DirectConnection, Q_ARG(std::string, line));
     };
     const auto appendPlainText = [&] {
-        plainView.appendPlainText(plainLine);
+        appendPlainTextSlot.invoke(&plainView, Qt::DirectConnection, Q_ARG(QString, plainLine));
     };
 
     QTextStream out{stdout};
@@ -69,11 +75,16 @@ int main(int argc, char *argv[])
             appendLog();
             appendPlainText();
         }
-        const double ours{microsecondsPerLine(appendLog)};
-        const double plain{microsecondsPerLine(appendPlainText)};
-        filled += measuredLines;
-        out << qSetFieldWidth(17) << logView.blockCount() - 1 - measuredLines << qSetFieldWidth(22) << ours
-            << qSetFieldWidth(28) << plain << qSetFieldWidth(8) << ours / plain << qSetFieldWidth(0)
+        // In turn, and the quickest batch of each: what else the machine does hits both alike.
+        double ours{std::numeric_limits<double>::max()};
+        double plain{ours};
+        for (int batch{0}; batch < batches; ++batch) {
+            ours = std::min(ours, microsecondsPerLine(appendLog));
+            plain = std::min(plain, microsecondsPerLine(appendPlainText));
+        }
+        filled += batches * measuredLines;
+        out << qSetFieldWidth(17) << logView.blockCount() - 1 - batches * measuredLines << qSetFieldWidth(22)
+            << ours << qSetFieldWidth(28) << plain << qSetFieldWidth(8) << ours / plain << qSetFieldWidth(0)
             << Qt::endl;
     }
     return 0;

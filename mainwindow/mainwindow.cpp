@@ -30,6 +30,8 @@ MainWindow::MainWindow(QWidget *parent)
     ISdkConfiguration *const configuration{sdk->getConfiguration()};
 
     ui->setupUi(this);
+    // Nobody undoes a log; remembering every line for it would only cost time and memory.
+    ui->logView->setUndoRedoEnabled(false);
 
     wireTargetSelection();
     wireSlidersAndSpinBoxes();
