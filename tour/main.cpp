@@ -3,13 +3,13 @@
 // The guided tour: a whole session in the real window, with a picture of each stage.
 #include "mainwindow.h"
 
+#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QSpinBox>
 #include <QStyleFactory>
 #include <QTabWidget>
 #include <QTest>
@@ -66,7 +66,7 @@ void showPage(const MainWindow &window, const char *tabWidget, const char *page)
 /// Replaces the text of a spin box and finishes the edit.
 void type(const MainWindow &window, const char *spinBox, const QString &text)
 {
-    auto &widget = child<QSpinBox>(window, spinBox);
+    auto &widget = child<QAbstractSpinBox>(window, spinBox);
     widget.setFocus();
     widget.selectAll();
     QTest::keyClicks(&widget, text);
@@ -88,6 +88,11 @@ std::vector<Stage> stages(const MainWindow &window)
     const auto choosing = [&window](const char *comboBox) {
         return [&window, comboBox] {
             chooseAnother(window, comboBox);
+        };
+    };
+    const auto typing = [&window](const char *spinBox, const char *text) {
+        return [&window, spinBox, text] {
+            type(window, spinBox, QLatin1String{text});
         };
     };
     // The last port of the scan is the simulator's own where the host has others.
@@ -113,7 +118,11 @@ std::vector<Stage> stages(const MainWindow &window)
         {"video-output", "another video output", "Set VIDEO OUTPUT value OK", choosing("VideoOutputCB")},
         {"lut", "the LUT page", {}, showing("KR_tab", "LutSection")},
         {"colour", "another colour table", "Set COLOR LUT value OK", choosing("lutColorEdit")},
+        {"gamma", "a gamma typed in", "Set GAMMA value OK", typing("gammaEdit", "2.2")},
+        {"region", "a region's left edge typed in", "Set ROI 0 X1 value OK", typing("Roi0IncX1", "100")},
         {"edge", "the edge page", {}, showing("KR_tab", "EdgeSection")},
+        {"reset", "Reset brings the camera's defaults back", "End applying camera parameters",
+         clicking("resetParamButtonUser")},
         {"expert", "the expert page", {}, showing("KR_tab", "ExpertMode")},
         {"expert-read", "the expert parameters read again", targetLine, clicking("readParamButtonExpert")},
         {"blend-unit", "back to the Blend Unit", targetLine, showing("Principal_tab", "Fusion_tab")},

@@ -43,7 +43,10 @@ public:
         const Fault *const fault{reachable ? faults.match(interface, operation) : nullptr};
         callsWhileNotOpen += reachable ? 0 : 1;
 
-        (clear(parameters), ...);
+        const bool leavesOutputs{fault != nullptr && fault->leavesOutputs};
+        if (!leavesOutputs) {
+            (clear(parameters), ...);
+        }
         Result result{zero<Result>()};
         if (reachable && (isPresent(parameters) && ...)) {
             if (fault == nullptr) {
@@ -55,7 +58,9 @@ public:
             } else if (fault->answer) {
                 AnswerReader reader{*fault->answer, objects, heldText};
                 reader.takeResult(result);
-                (reader.take(parameters), ...);
+                if (!leavesOutputs) {
+                    (reader.take(parameters), ...);
+                }
             }
         }
 

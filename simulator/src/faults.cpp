@@ -17,13 +17,15 @@ namespace
 {
 
 /// The answer as the operation holds it.
-std::vector<Value> convertAnswer(const Operation &operation, const std::vector<Value> &answer)
+std::vector<Value> convertAnswer(const Operation &operation, const std::vector<Value> &answer,
+                                 bool resultAlone)
 {
     const std::string name{operation.name};
-    if (answer.size() != operation.answer.size()) {
-        throw std::invalid_argument{"an answer of \"" + name + "\" has " +
-                                    std::to_string(operation.answer.size()) + " values, not " +
-                                    std::to_string(answer.size())};
+    const std::size_t expected{resultAlone ? std::min<std::size_t>(operation.answer.size(), 1)
+                                           : operation.answer.size()};
+    if (answer.size() != expected) {
+        throw std::invalid_argument{"an answer of \"" + name + "\" has " + std::to_string(expected) +
+                                    " values, not " + std::to_string(answer.size())};
     }
     std::vector<Value> converted;
     for (std::size_t place{0}; place < answer.size(); ++place) {
@@ -50,7 +52,7 @@ void Faults::add(Fault fault)
             "an answer belongs to one operation; every operation can only be refused"};
     }
     if (fault.answer) {
-        fault.answer = convertAnswer(*operation, *fault.answer);
+        fault.answer = convertAnswer(*operation, *fault.answer, fault.leavesOutputs);
     }
     fault.from = std::max<std::size_t>(fault.from, 1);
     active.push_back({std::move(fault)});

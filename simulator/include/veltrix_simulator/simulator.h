@@ -51,6 +51,8 @@ struct Fault
     /// record in order. Without it the operation refuses: it does nothing and its result and
     /// out-parameters are zero.
     std::optional<std::vector<Value>> answer{};
+    /// The answer is the result alone, and the out-parameters stay as the caller left them.
+    bool leavesOutputs{false};
 };
 
 /// The simulated SDK behind the contract. There is one in a process, as there is one VeltrixSdk.
