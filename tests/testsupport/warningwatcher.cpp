@@ -13,11 +13,11 @@ QStringList *collected{nullptr};
 QtMessageHandler passOn{nullptr};
 
 /// What the off-screen platform says of itself when a window is shown; it is not about the program.
-constexpr QLatin1String platformRemark{"This plugin does not support propagateSizeHints()"};
+constexpr const char *platformRemark{"This plugin does not support propagateSizeHints()"};
 
 void collect(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
-    if (message == platformRemark) {
+    if (message == QLatin1String{platformRemark}) {
         return;
     }
     if (type == QtWarningMsg || type == QtCriticalMsg) {
