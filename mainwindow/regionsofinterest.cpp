@@ -46,7 +46,7 @@ RegionWidgets regionWidgets(const Ui_MainWindow &ui, Region region)
 {
     switch (region) {
     case Region::Roi0Inclusive:
-        return {ui.Roi0IncX1, ui.Roi0IncX2, ui.Roi0IncY1, ui.Roi0IncY2, nullptr};
+        break;
     case Region::Roi1Inclusive:
         return {ui.Roi1IncX1, ui.Roi1IncX2, ui.Roi1IncY1, ui.Roi1IncY2, ui.roi1IncEnable};
     case Region::Roi0Exclusive:
@@ -54,7 +54,7 @@ RegionWidgets regionWidgets(const Ui_MainWindow &ui, Region region)
     case Region::Roi1Exclusive:
         return {ui.Roi1ExcX1, ui.Roi1ExcX2, ui.Roi1ExcY1, ui.Roi1ExcY2, ui.roi1ExcEnable};
     }
-    return {};
+    return {ui.Roi0IncX1, ui.Roi0IncX2, ui.Roi0IncY1, ui.Roi0IncY2, nullptr};
 }
 
 void MainWindow::roi1IncCheck()

@@ -73,7 +73,7 @@ void TestWindow::failToFind(const QString &name, const std::vector<QObject *> &e
     throw std::runtime_error{message.toStdString()};
 }
 
-void TestWindow::click(const QString &button)
+void TestWindow::click(const QString &button) const
 {
     auto &widget = child<QAbstractButton>(button);
     if (!widget.isVisible() || !widget.isEnabled()) {
@@ -100,7 +100,7 @@ void TestWindow::beConnected()
     simulator.clearJournal();
 }
 
-void TestWindow::showPage(const QString &page)
+void TestWindow::showPage(const QString &page) const
 {
     auto &widget = child<QWidget>(page);
     for (QWidget *parent = widget.parentWidget(); parent != nullptr; parent = parent->parentWidget()) {
@@ -129,7 +129,7 @@ QStringList TestWindow::takeLog()
     QStringList lines{
         child<QPlainTextEdit>(QStringLiteral("logView")).toPlainText().split(QLatin1Char{'\n'})};
     lines.removeLast();
-    const QStringList added{lines.mid(logLinesTaken)};
+    QStringList added{lines.mid(logLinesTaken)};
     logLinesTaken = lines.size();
     return added;
 }

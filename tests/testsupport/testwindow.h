@@ -47,13 +47,13 @@ public:
     }
 
     /// Clicks a button in its middle as the mouse does; fails the test when it is hidden or disabled.
-    void click(const QString &button);
+    void click(const QString &button) const;
     /// Scans, picks SIM1 and presses Connect.
     void scanAndConnect();
     /// As scanAndConnect(), and forgets the journal and the log of it.
     void beConnected();
     /// Shows the page with the given object name, as a click on its tab would.
-    void showPage(const QString &page);
+    void showPage(const QString &page) const;
     /// Runs a handler by its name, as a signal would.
     void invoke(const char *handler);
     bool lastCommandOk() const { return mainWindow->wasLastCommandOk(); }
