@@ -78,13 +78,13 @@ void MainWindow::resetRegions(ISdkConfiguration &defaults)
     };
     for (const auto &row : regions) {
         const RegionWidgets widgets{regionWidgets(*ui, row.region)};
-        const auto show = [&defaults](QSpinBox &spinBox, Coordinate coordinate) {
-            spinBox.setValue(roundToInt(std::trunc((defaults.*coordinate)())));
+        const auto show = [&defaults](QSpinBox *spinBox, Coordinate coordinate) {
+            spinBox->setValue(roundToInt(std::trunc((defaults.*coordinate)())));
         };
-        show(*widgets.x1, row.x1);
-        show(*widgets.y1, row.y1);
-        show(*widgets.x2, row.x2);
-        show(*widgets.y2, row.y2);
+        show(widgets.x1, row.x1);
+        show(widgets.y1, row.y1);
+        show(widgets.x2, row.x2);
+        show(widgets.y2, row.y2);
         // After the coordinates, so that what the box sends are the defaults.
         if (row.enabled != nullptr) {
             widgets.enable->setChecked((defaults.*row.enabled)());

@@ -83,7 +83,7 @@ void TestWindow::click(const QString &button) const
     QTest::mouseClick(&widget, Qt::LeftButton);
 }
 
-void TestWindow::scanAndConnect()
+void TestWindow::scanAndConnect() const
 {
     click(QStringLiteral("scanDeviceButton"));
     child<QComboBox>(QStringLiteral("selectDeviceComboBox")).setCurrentText(QStringLiteral("SIM1"));

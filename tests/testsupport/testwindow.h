@@ -49,7 +49,7 @@ public:
     /// Clicks a button in its middle as the mouse does; fails the test when it is hidden or disabled.
     void click(const QString &button) const;
     /// Scans, picks SIM1 and presses Connect.
-    void scanAndConnect();
+    void scanAndConnect() const;
     /// As scanAndConnect(), and forgets the journal and the log of it.
     void beConnected();
     /// Shows the page with the given object name, as a click on its tab would.
