@@ -77,7 +77,7 @@ void MainWindow::resetRegions(ISdkConfiguration &defaults)
          &ISdkConfiguration::getDefaultRoi1ExcY2, &ISdkConfiguration::getDefaultRoi1ExcEnable},
     };
     for (const auto &row : regions) {
-        const RegionWidgets widgets{regionWidgets(*ui, row.region)};
+        const auto widgets = regionWidgets(*ui, row.region);
         const auto show = [&defaults](QSpinBox *spinBox, Coordinate coordinate) {
             spinBox->setValue(roundToInt(std::trunc((defaults.*coordinate)())));
         };
