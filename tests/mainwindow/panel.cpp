@@ -1,0 +1,160 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// What the window shows and lets the operator use, and how its controls follow one another.
+#include "panel.h"
+
+#include <QComboBox>
+#include <QMetaProperty>
+
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+
+/// A slider and its box: the box shows position * step + start, the slider stands at
+/// (value - start) * perUnit, rounded half away from zero.
+struct Pair
+{
+    const char *slider;
+    const char *spinBox;
+    double step{1};
+    double start{0};
+    double perUnit{1};
+};
+
+constexpr Pair pairs[]{
+    {"gammaSlider", "gammaEdit", 0.1, 0.5, 10},
+    {"clheSlider", "clheEdit"},
+    {"sharpeningGainSlider", "sharpeningGainEdit", 0.1, 0, 10},
+    {"SharpeningTHSlider", "SharpeningTHEdit", 0.1, 0, 10},
+    {"AhcBlackGainLimSlider", "AhcBlackGainLimSpin"},
+    {"AhcWhiteGainLimSlider", "AhcWhiteGainLimSpin"},
+    {"TempoFilterSlider", "TempoFilterSpin"},
+    {"gskSlider", "gskEdit"},
+    {"gfidSlider", "gfidEdit"},
+    {"gmsSlider", "gmsEdit"},
+    {"tintSlider", "tintEdit"},
+};
+
+/// What is looked at, where a widget has it.
+constexpr const char *watchedProperties[]{
+    "checked", "currentIndex", "value", "minimum", "maximum", "decimals", "singleStep", "plainText",
+};
+
+} // namespace
+
+Panel panelOf(const QWidget &window)
+{
+    Panel panel;
+    for (const QWidget *const widget : window.findChildren<QWidget *>()) {
+        const QString name{widget->objectName()};
+        if (name.isEmpty() || name.startsWith(QStringLiteral("qt_"))) {
+            continue;
+        }
+        panel[name + QStringLiteral(".enabled")] = widget->isEnabledTo(widget->parentWidget());
+        for (const char *const property : watchedProperties) {
+            if (name != QStringLiteral("logView") && widget->metaObject()->indexOfProperty(property) >= 0) {
+                panel[name + QLatin1Char{'.'} + QLatin1String{property}] = widget->property(property);
+            }
+        }
+        if (widget->inherits("QAbstractButton")) {
+            panel[name + QStringLiteral(".text")] = widget->property("text");
+        } else if (const auto *const comboBox = qobject_cast<const QComboBox *>(widget)) {
+            QStringList items;
+            for (int index{0}; index < comboBox->count(); ++index) {
+                items.append(comboBox->itemText(index));
+            }
+            panel[name + QStringLiteral(".items")] = items;
+        }
+    }
+    return panel;
+}
+
+QStringList differences(const Panel &expected, const Panel &found)
+{
+    QStringList lines;
+    QStringList keys{expected.keys() + found.keys()};
+    keys.removeDuplicates();
+    for (const QString &key : qAsConst(keys)) {
+        if (expected.value(key) != found.value(key)) {
+            lines.append(QStringLiteral("%1 is %2 instead of %3")
+                             .arg(key, found.value(key).toString(), expected.value(key).toString()));
+        }
+    }
+    return lines;
+}
+
+QString Controls::itemText(const QString &name) const
+{
+    return state.value(name + QStringLiteral(".items")).toStringList().value(index(name));
+}
+
+bool Controls::choose(const QString &comboBox, double index)
+{
+    const int count{state.value(comboBox + QStringLiteral(".items")).toStringList().size()};
+    const int chosen{index < count ? static_cast<int>(index) : -1};
+    const bool changed{chosen != this->index(comboBox)};
+    state[comboBox + QStringLiteral(".currentIndex")] = chosen;
+    return changed;
+}
+
+bool Controls::check(const QString &button, bool checked)
+{
+    const bool changed{checked != isChecked(button)};
+    state[button + QStringLiteral(".checked")] = checked;
+    return changed;
+}
+
+void Controls::setRange(const QString &name, double minimum, double maximum)
+{
+    QVariant &lower = state[name + QStringLiteral(".minimum")];
+    QVariant &upper = state[name + QStringLiteral(".maximum")];
+    const int type{lower.userType()};
+    lower = minimum;
+    upper = maximum;
+    lower.convert(type);
+    upper.convert(type);
+    set(name, value(name));
+}
+
+void Controls::setSingleStep(const QString &name, double step)
+{
+    QVariant &singleStep = state[name + QStringLiteral(".singleStep")];
+    const int type{singleStep.userType()};
+    singleStep = step;
+    singleStep.convert(type);
+}
+
+QVariant Controls::fitting(const QString &name, double value) const
+{
+    const QVariant decimals{state.value(name + QStringLiteral(".decimals"))};
+    const double rounded{decimals.isValid() ? QString::number(value, 'f', decimals.toInt()).toDouble()
+                                            : value};
+    const double bounded{std::clamp(rounded, state.value(name + QStringLiteral(".minimum")).toDouble(),
+                                    state.value(name + QStringLiteral(".maximum")).toDouble())};
+    return decimals.isValid() ? QVariant{bounded} : QVariant{static_cast<int>(bounded)};
+}
+
+void Controls::set(const QString &name, double value)
+{
+    const QVariant fitted{fitting(name, value)};
+    QVariant &current = state[name + QStringLiteral(".value")];
+    if (current != fitted) {
+        current = fitted;
+        follow(name);
+    }
+}
+
+void Controls::follow(const QString &name)
+{
+    for (const Pair &pair : pairs) {
+        const QString slider{QLatin1String{pair.slider}};
+        const QString spinBox{QLatin1String{pair.spinBox}};
+        if (name == slider) {
+            set(spinBox, value(slider) * pair.step + pair.start);
+        } else if (name == spinBox) {
+            set(slider, std::round((value(spinBox) - pair.start) * pair.perUnit));
+        }
+    }
+}

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// Every path that an operator can take through the window.
+#pragma once
+
+#include "oracle.h"
+#include "testwindow.h"
+
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+/// One path: where it starts, what the operator does, and what the window promises to do then.
+struct Path
+{
+    QString name;
+    std::function<void(TestWindow &)> act;
+    std::function<void(Oracle &)> promise;
+    /// Brings the connected window to where the path starts; nothing goes wrong meanwhile.
+    std::function<void(TestWindow &)> prepare{[](TestWindow & /*test*/) {
+    }};
+    bool expertMode{true};
+    bool startsConnected{true};
+    /// Hundreds of calls that are all alike and change nothing in the window: the runs share one window.
+    bool isRepeatable{false};
+};
+
+const std::vector<Path> &operatorPaths();
