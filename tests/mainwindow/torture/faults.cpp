@@ -147,7 +147,7 @@ bool canFail(const Call &call)
            std::find(std::begin(certain), std::end(certain), call.operation) == std::end(certain);
 }
 
-std::vector<Strike> strikesOn(const std::vector<Call> &journal, std::size_t cableStride)
+std::vector<Strike> strikesOn(const std::vector<Call> &journal)
 {
     std::vector<Strike> strikes;
     QMap<std::string, std::size_t> seen;
@@ -166,8 +166,8 @@ std::vector<Strike> strikesOn(const std::vector<Call> &journal, std::size_t cabl
         };
         ++number;
         strike(QStringLiteral("refused"), {call.operation, occurrence, 1});
-        if (call.interface == Interface::Device && deviceCalls++ % cableStride == 0) {
-            strike(QStringLiteral("cable out"), {{}, deviceCalls});
+        if (call.interface == Interface::Device) {
+            strike(QStringLiteral("cable out"), {{}, ++deviceCalls});
         }
         for (const OddAnswer &odd : oddAnswers()) {
             if (call.operation == odd.operation) {

@@ -21,6 +21,5 @@ struct Strike
 /// what gives nothing back.
 bool canFail(const veltrix_simulator::Call &call);
 
-/// Everything that can go wrong with a path that makes these calls, call by call; the cable comes out at
-/// every so many calls of the device.
-std::vector<Strike> strikesOn(const std::vector<veltrix_simulator::Call> &journal, std::size_t cableStride);
+/// Everything that can go wrong with a path that makes these calls, call by call.
+std::vector<Strike> strikesOn(const std::vector<veltrix_simulator::Call> &journal);
