@@ -62,8 +62,8 @@ public:
     void readWarp();
 
     // Commands
-    void command(const QString &call, const QString &action);
-    void outcome(const QString &call, const QString &success, const QString &failure);
+    void command(const QString &text, const QString &action);
+    void outcome(const QString &text, const QString &success, const QString &failure);
     void send(const QString &control);
     void clickToggle(const QString &button);
     void chooseAndSend(const QString &comboBox, double index);

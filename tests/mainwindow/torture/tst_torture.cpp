@@ -46,7 +46,7 @@ Outcome observe(TestWindow &test, const std::function<void(TestWindow &)> &act)
 /// What differs between what was promised and what came; empty when nothing does.
 QString compare(Oracle &oracle, const Outcome &outcome)
 {
-    const QString divergence{oracle.divergence()};
+    QString divergence{oracle.divergence()};
     if (!divergence.isEmpty()) {
         return divergence;
     }
