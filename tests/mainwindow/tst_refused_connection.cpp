@@ -64,6 +64,7 @@ private slots:
     void staysLockedWhenTheBlendUnitDoesNotAnswer_data();
     void staysLockedWhenTheBlendUnitDoesNotAnswer();
     void staysLockedWhenTheCameraDoesNotAnswer();
+    void asksForTheBoxBeforeTheErrorLine_data();
     void asksForTheBoxBeforeTheErrorLine();
     void returnsTheDeviceBeforeConnectingAgain_data();
     void returnsTheDeviceBeforeConnectingAgain();
@@ -296,10 +297,20 @@ void RefusedConnectionTest::staysLockedWhenTheCameraDoesNotAnswer()
     QVERIFY(test.simulator.isDeviceOpen());
 }
 
+void RefusedConnectionTest::asksForTheBoxBeforeTheErrorLine_data()
+{
+    QTest::addColumn<int>("failingRead");
+    QTest::addColumn<QString>("start");
+    QTest::newRow("Blend Unit") << 1 << "Start reading Fusion parameters";
+    QTest::newRow("camera") << 2 << "Start reading camera parameters";
+}
+
 void RefusedConnectionTest::asksForTheBoxBeforeTheErrorLine()
 {
+    QFETCH(int, failingRead);
+    QFETCH(QString, start);
     TestWindow test{withoutExpertMode};
-    test.simulator.addFault(noVersions(1));
+    test.simulator.addFault(noVersions(static_cast<std::size_t>(failingRead)));
     QStringList whileTheBoxIsOpen;
     test.boxes.expect([&](QDialog &box) {
         whileTheBoxIsOpen = test.takeLog();
@@ -308,8 +319,8 @@ void RefusedConnectionTest::asksForTheBoxBeforeTheErrorLine()
 
     test.scanAndConnect();
 
-    QCOMPARE(whileTheBoxIsOpen.last(), QStringLiteral("Start reading Fusion parameters"));
-    QCOMPARE(test.takeLog(), QStringList{"End Read camera parameters : COM Error"});
+    QCOMPARE(whileTheBoxIsOpen.last(), start);
+    QCOMPARE(test.takeLog().first(), QStringLiteral("End Read camera parameters : COM Error"));
     test.boxes.takeShown();
 }
 
