@@ -31,7 +31,7 @@ void MainWindow::ResetParamsUser()
     ui->polarityButton->setChecked(defaults.getDefaultPolarity());
     ui->contrastTypeEdit->setCurrentIndex(defaults.getDefaultContrastType());
     // Whatever the default index says, a reset ends on the region-based algorithm.
-    ui->contrastTypeEdit->setCurrentText(QStringLiteral("CLHE (ROI)"));
+    ui->contrastTypeEdit->setCurrentText(tr("CLHE (ROI)"));
     ui->lutColorEdit->setCurrentIndex(defaults.getDefaultColorLut());
     ui->horizontalFlipButton->setChecked(defaults.getDefaultHorizontalFlip());
     ui->verticalFlipCheckBox->setChecked(defaults.getDefaultVerticalFlip());

@@ -6,6 +6,8 @@
 #include "togglesetting.h"
 #include "veltrix_sdk/device_control.h"
 
+using veltrix_sdk::IDeviceControl;
+
 void MainWindow::columnCorrectionClicked()
 {
     sendToggle(columnCorrection);
@@ -58,10 +60,8 @@ void MainWindow::sendToggle(const ToggleSetting &setting)
 
 void MainWindow::videoOutputChanged()
 {
-    if (isDeviceOpen()) {
-        reportCommand(device->setVideoOutput(toByte(ui->VideoOutputCB->currentIndex())),
-                      "Set VIDEO OUTPUT value");
-    }
+    sendCommand("Set VIDEO OUTPUT value", &IDeviceControl::setVideoOutput,
+                toByte(ui->VideoOutputCB->currentIndex()));
 }
 
 void MainWindow::frameRateChanged()
@@ -77,41 +77,32 @@ void MainWindow::frameRateChanged()
 
 void MainWindow::contrastTypeChanged()
 {
-    if (isDeviceOpen()) {
-        reportCommand(device->configureContrastType(toByte(ui->contrastTypeEdit->currentIndex())),
-                      "Configure contrast type");
-    }
+    sendCommand("Configure contrast type", &IDeviceControl::configureContrastType,
+                toByte(ui->contrastTypeEdit->currentIndex()));
 }
 
 void MainWindow::colorLutChanged()
 {
-    if (isDeviceOpen()) {
-        reportCommand(device->setColorLut(toByte(ui->lutColorEdit->currentIndex())), "Set COLOR LUT value");
-    }
+    sendCommand("Set COLOR LUT value", &IDeviceControl::setColorLut,
+                toByte(ui->lutColorEdit->currentIndex()));
 }
 
 void MainWindow::edgeCorrectionChanged()
 {
-    if (isDeviceOpen()) {
-        reportCommand(device->configureEdgeCorrection(toByte(ui->EdgeCorrectionCB->currentIndex()),
-                                                      truncateToUint32(ui->sharpeningGainEdit->value()),
-                                                      truncateToUint32(ui->SharpeningTHEdit->value())),
-                      "Configure EDGE CORRECTION");
-    }
+    sendCommand("Configure EDGE CORRECTION", &IDeviceControl::configureEdgeCorrection,
+                toByte(ui->EdgeCorrectionCB->currentIndex()),
+                truncateToUint32(ui->sharpeningGainEdit->value()),
+                truncateToUint32(ui->SharpeningTHEdit->value()));
 }
 
 void MainWindow::gammaUserSendCommand()
 {
-    if (isDeviceOpen()) {
-        reportCommand(device->setGamma(toFixedPoint16_16(ui->gammaEdit->value())), "Set GAMMA value");
-    }
+    sendCommand("Set GAMMA value", &IDeviceControl::setGamma, toFixedPoint16_16(ui->gammaEdit->value()));
 }
 
 void MainWindow::clheSendCommand()
 {
-    if (isDeviceOpen()) {
-        reportCommand(device->setClhe(truncateToUint32(ui->clheEdit->value())), "Set CLHE value");
-    }
+    sendCommand("Set CLHE value", &IDeviceControl::setClhe, truncateToUint32(ui->clheEdit->value()));
 }
 
 void MainWindow::sharpeningSendCommand()
@@ -121,19 +112,14 @@ void MainWindow::sharpeningSendCommand()
 
 void MainWindow::ahcGainSendCommand()
 {
-    if (isDeviceOpen()) {
-        reportCommand(device->setAhcGainLimitation(toByte(ui->AhcBlackGainLimSpin->value()),
-                                                   toByte(ui->AhcWhiteGainLimSpin->value())),
-                      "Set AHC GAINS LIMITATION values");
-    }
+    sendCommand("Set AHC GAINS LIMITATION values", &IDeviceControl::setAhcGainLimitation,
+                toByte(ui->AhcBlackGainLimSpin->value()), toByte(ui->AhcWhiteGainLimSpin->value()));
 }
 
 void MainWindow::tempoFilterSendCommand()
 {
-    if (isDeviceOpen()) {
-        reportCommand(device->setLutTemporalFilter(toByte(ui->TempoFilterSpin->value())),
-                      "Set LUT TEMPORAL FILTER value");
-    }
+    sendCommand("Set LUT TEMPORAL FILTER value", &IDeviceControl::setLutTemporalFilter,
+                toByte(ui->TempoFilterSpin->value()));
 }
 
 void MainWindow::ApplyParamsUser()

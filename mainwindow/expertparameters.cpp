@@ -102,30 +102,22 @@ void MainWindow::ApplyParamsExpert()
 
 void MainWindow::gskSendCommand()
 {
-    if (isDeviceOpen()) {
-        reportCommand(device->setGsk(truncateToUint32(ui->gskEdit->value())), "Set GSK value");
-    }
+    sendCommand("Set GSK value", &IDeviceControl::setGsk, truncateToUint32(ui->gskEdit->value()));
 }
 
 void MainWindow::gfiSendCommand()
 {
-    if (isDeviceOpen()) {
-        reportCommand(device->setGfid(truncateToUint32(ui->gfidEdit->value())), "Set GFID value");
-    }
+    sendCommand("Set GFID value", &IDeviceControl::setGfid, truncateToUint32(ui->gfidEdit->value()));
 }
 
 void MainWindow::gmsSendCommand()
 {
-    if (isDeviceOpen()) {
-        reportCommand(device->setGms(truncateToUint32(ui->gmsEdit->value())), "Set GMS value");
-    }
+    sendCommand("Set GMS value", &IDeviceControl::setGms, truncateToUint32(ui->gmsEdit->value()));
 }
 
 void MainWindow::tintSendCommand()
 {
-    if (isDeviceOpen()) {
-        reportCommand(device->setTint(truncateToUint32(ui->tintEdit->value())), "Set TINT value");
-    }
+    sendCommand("Set TINT value", &IDeviceControl::setTint, truncateToUint32(ui->tintEdit->value()));
 }
 
 void MainWindow::krBaudRateChanged()

@@ -178,6 +178,15 @@ private:
 
     // Operation log
     void reportCommand(bool ok, const char *action);
+    /// Gives the open device a command and reports it; does nothing while no device is open.
+    template <typename... Parameters, typename... Arguments>
+    void sendCommand(const char *action, bool (veltrix_sdk::IDeviceControl::*command)(Parameters...),
+                     Arguments... arguments)
+    {
+        if (isDeviceOpen()) {
+            reportCommand((device->*command)(arguments...), action);
+        }
+    }
     void reportOutcome(bool ok, const char *success, const char *failure);
 
     // Connection

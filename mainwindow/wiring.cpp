@@ -4,15 +4,43 @@
 #include "mainwindow.h"
 #include "region.h"
 
+#include <array>
+#include <initializer_list>
+
 namespace
 {
 
 /// A sender and the slot, by its signature text, that a signal of it is connected to.
-struct Row
+struct SenderAndSlot
 {
     const QObject *sender;
     const char *slot;
 };
+
+/// A slider, its spin box and the slot that sends what they show.
+struct SentPair
+{
+    const QSlider *slider;
+    const QAbstractSpinBox *spinBox;
+    const char *slot;
+};
+
+std::array<SentPair, 11> sentPairs(const Ui_MainWindow &ui)
+{
+    return {{
+        {ui.gammaSlider, ui.gammaEdit, SLOT(gammaUserSendCommand())},
+        {ui.clheSlider, ui.clheEdit, SLOT(clheSendCommand())},
+        {ui.sharpeningGainSlider, ui.sharpeningGainEdit, SLOT(sharpeningSendCommand())},
+        {ui.SharpeningTHSlider, ui.SharpeningTHEdit, SLOT(sharpeningSendCommand())},
+        {ui.AhcBlackGainLimSlider, ui.AhcBlackGainLimSpin, SLOT(ahcGainSendCommand())},
+        {ui.AhcWhiteGainLimSlider, ui.AhcWhiteGainLimSpin, SLOT(ahcGainSendCommand())},
+        {ui.TempoFilterSlider, ui.TempoFilterSpin, SLOT(tempoFilterSendCommand())},
+        {ui.gskSlider, ui.gskEdit, SLOT(gskSendCommand())},
+        {ui.gfidSlider, ui.gfidEdit, SLOT(gfiSendCommand())},
+        {ui.gmsSlider, ui.gmsEdit, SLOT(gmsSendCommand())},
+        {ui.tintSlider, ui.tintEdit, SLOT(tintSendCommand())},
+    }};
+}
 
 } // namespace
 
@@ -23,68 +51,47 @@ void MainWindow::wireTargetSelection()
 
 void MainWindow::wireSlidersAndSpinBoxes()
 {
-    const Row sliders[]{
-        {ui->gammaSlider, SLOT(GammaUserSliderChanged(int))},
-        {ui->clheSlider, SLOT(ClheUserSliderChanged(int))},
-        {ui->sharpeningGainSlider, SLOT(SharpeningUserSliderChanged(int))},
-        {ui->SharpeningTHSlider, SLOT(SharpeningTHSliderChanged(int))},
-        {ui->AhcBlackGainLimSlider, SLOT(AhcBlackGainlimSliderChanged(int))},
-        {ui->AhcWhiteGainLimSlider, SLOT(AhcWhiteGainlimSliderChanged(int))},
-        {ui->TempoFilterSlider, SLOT(TempoFilterSliderChanged(int))},
-        {ui->gskSlider, SLOT(GSKExpertSliderChanged(int))},
-        {ui->gfidSlider, SLOT(GFIDExpertSliderChanged(int))},
-        {ui->gmsSlider, SLOT(GMSExpertSliderChanged(int))},
-        {ui->tintSlider, SLOT(TINTExpertSliderChanged(int))},
+    const auto connectRows = [this](const char *signal, std::initializer_list<SenderAndSlot> rows) {
+        for (const SenderAndSlot &row : rows) {
+            connect(row.sender, signal, this, row.slot);
+        }
     };
-    for (const Row &row : sliders) {
-        connect(row.sender, SIGNAL(valueChanged(int)), this, row.slot);
+    connectRows(SIGNAL(valueChanged(int)),
+                {
+                    {ui->gammaSlider, SLOT(GammaUserSliderChanged(int))},
+                    {ui->clheSlider, SLOT(ClheUserSliderChanged(int))},
+                    {ui->sharpeningGainSlider, SLOT(SharpeningUserSliderChanged(int))},
+                    {ui->SharpeningTHSlider, SLOT(SharpeningTHSliderChanged(int))},
+                    {ui->AhcBlackGainLimSlider, SLOT(AhcBlackGainlimSliderChanged(int))},
+                    {ui->AhcWhiteGainLimSlider, SLOT(AhcWhiteGainlimSliderChanged(int))},
+                    {ui->TempoFilterSlider, SLOT(TempoFilterSliderChanged(int))},
+                    {ui->gskSlider, SLOT(GSKExpertSliderChanged(int))},
+                    {ui->gfidSlider, SLOT(GFIDExpertSliderChanged(int))},
+                    {ui->gmsSlider, SLOT(GMSExpertSliderChanged(int))},
+                    {ui->tintSlider, SLOT(TINTExpertSliderChanged(int))},
+                });
+    for (const SentPair &pair : sentPairs(*ui)) {
+        connect(pair.slider, SIGNAL(sliderReleased()), this, pair.slot);
     }
-
-    const Row releases[]{
-        {ui->gammaSlider, SLOT(gammaUserSendCommand())},
-        {ui->clheSlider, SLOT(clheSendCommand())},
-        {ui->sharpeningGainSlider, SLOT(sharpeningSendCommand())},
-        {ui->SharpeningTHSlider, SLOT(sharpeningSendCommand())},
-        {ui->AhcBlackGainLimSlider, SLOT(ahcGainSendCommand())},
-        {ui->AhcWhiteGainLimSlider, SLOT(ahcGainSendCommand())},
-        {ui->TempoFilterSlider, SLOT(tempoFilterSendCommand())},
-        {ui->gskSlider, SLOT(gskSendCommand())},
-        {ui->gfidSlider, SLOT(gfiSendCommand())},
-        {ui->gmsSlider, SLOT(gmsSendCommand())},
-        {ui->tintSlider, SLOT(tintSendCommand())},
-    };
-    for (const Row &row : releases) {
-        connect(row.sender, SIGNAL(sliderReleased()), this, row.slot);
-    }
-
-    const Row userDoubleSpinBoxes[]{
-        {ui->gammaEdit, SLOT(GammaUserValueChanged(double))},
-        {ui->clheEdit, SLOT(ClheUserValueChanged(double))},
-        {ui->sharpeningGainEdit, SLOT(SharpeningUserValueChanged(double))},
-        {ui->SharpeningTHEdit, SLOT(SharpeningTHValueChanged(double))},
-    };
-    for (const Row &row : userDoubleSpinBoxes) {
-        connect(row.sender, SIGNAL(valueChanged(double)), this, row.slot);
-    }
-
-    const Row spinBoxes[]{
-        {ui->AhcBlackGainLimSpin, SLOT(AhcBlackGainLimSpinValueChanged(int))},
-        {ui->AhcWhiteGainLimSpin, SLOT(AhcWhiteGainLimSpinValueChanged(int))},
-        {ui->TempoFilterSpin, SLOT(TempoFiltSpinValueChanged(int))},
-    };
-    for (const Row &row : spinBoxes) {
-        connect(row.sender, SIGNAL(valueChanged(int)), this, row.slot);
-    }
-
-    const Row expertDoubleSpinBoxes[]{
-        {ui->gskEdit, SLOT(GSKExpertValueChanged(double))},
-        {ui->gfidEdit, SLOT(GFIDExpertValueChanged(double))},
-        {ui->gmsEdit, SLOT(GMSExpertValueChanged(double))},
-        {ui->tintEdit, SLOT(TINTExpertValueChanged(double))},
-    };
-    for (const Row &row : expertDoubleSpinBoxes) {
-        connect(row.sender, SIGNAL(valueChanged(double)), this, row.slot);
-    }
+    connectRows(SIGNAL(valueChanged(double)),
+                {
+                    {ui->gammaEdit, SLOT(GammaUserValueChanged(double))},
+                    {ui->clheEdit, SLOT(ClheUserValueChanged(double))},
+                    {ui->sharpeningGainEdit, SLOT(SharpeningUserValueChanged(double))},
+                    {ui->SharpeningTHEdit, SLOT(SharpeningTHValueChanged(double))},
+                });
+    connectRows(SIGNAL(valueChanged(int)),
+                {
+                    {ui->AhcBlackGainLimSpin, SLOT(AhcBlackGainLimSpinValueChanged(int))},
+                    {ui->AhcWhiteGainLimSpin, SLOT(AhcWhiteGainLimSpinValueChanged(int))},
+                    {ui->TempoFilterSpin, SLOT(TempoFiltSpinValueChanged(int))},
+                });
+    connectRows(SIGNAL(valueChanged(double)), {
+                                                  {ui->gskEdit, SLOT(GSKExpertValueChanged(double))},
+                                                  {ui->gfidEdit, SLOT(GFIDExpertValueChanged(double))},
+                                                  {ui->gmsEdit, SLOT(GMSExpertValueChanged(double))},
+                                                  {ui->tintEdit, SLOT(TINTExpertValueChanged(double))},
+                                              });
 }
 
 void MainWindow::wireRegions()
@@ -109,21 +116,8 @@ void MainWindow::wireZoomFactor()
 
 void MainWindow::wireFinishedEdits()
 {
-    const Row spinBoxes[]{
-        {ui->gammaEdit, SLOT(gammaUserSendCommand())},
-        {ui->clheEdit, SLOT(clheSendCommand())},
-        {ui->sharpeningGainEdit, SLOT(sharpeningSendCommand())},
-        {ui->SharpeningTHEdit, SLOT(sharpeningSendCommand())},
-        {ui->AhcBlackGainLimSpin, SLOT(ahcGainSendCommand())},
-        {ui->AhcWhiteGainLimSpin, SLOT(ahcGainSendCommand())},
-        {ui->TempoFilterSpin, SLOT(tempoFilterSendCommand())},
-        {ui->gskEdit, SLOT(gskSendCommand())},
-        {ui->gfidEdit, SLOT(gfiSendCommand())},
-        {ui->gmsEdit, SLOT(gmsSendCommand())},
-        {ui->tintEdit, SLOT(tintSendCommand())},
-    };
-    for (const Row &row : spinBoxes) {
-        connect(row.sender, SIGNAL(editingFinished()), this, row.slot);
+    for (const SentPair &pair : sentPairs(*ui)) {
+        connect(pair.spinBox, SIGNAL(editingFinished()), this, pair.slot);
     }
 }
 

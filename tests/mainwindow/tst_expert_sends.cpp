@@ -309,12 +309,17 @@ void TestExpertSends::aRefusedBaudRateIsToldInABox()
     QVERIFY(test.lastCommandOk());
     test.simulator.addFault({"setMavlinkBaudRate"});
 
-    test.boxes.expect();
+    bool okWhileTheBoxIsOpen{true};
+    test.boxes.expect([&](QDialog &box) {
+        okWhileTheBoxIsOpen = test.lastCommandOk();
+        BoxWatcher::pressOk(box);
+    });
     test.child<QComboBox>("BaudRateCB").setCurrentIndex(4);
     QCOMPARE(test.boxes.takeShown(), QStringList{baudRateBox});
     QCOMPARE(test.takeCallsAndRecords(), (QStringList{"setMavlinkBaudRate(921600, false) -> false",
                                                       "log(2, \"Set Mavlink baud rate value KO\")"}));
     QCOMPARE(test.takeLog(), QStringList{"Set Mavlink baud rate value KO"});
+    QVERIFY(!okWhileTheBoxIsOpen);
     QVERIFY(!test.lastCommandOk());
     QCOMPARE(test.child<QComboBox>("BaudRateCB").currentIndex(), 4);
 }

@@ -4,7 +4,10 @@
 #include "camerapage.h"
 
 #include <QComboBox>
+#include <QDoubleSpinBox>
 #include <QPushButton>
+#include <QRegularExpression>
+#include <QSlider>
 #include <QTest>
 #include <QVariant>
 
@@ -74,6 +77,9 @@ private slots:
     void choicesAreShown() { isShown(); }
     void switchesAreShown_data();
     void switchesAreShown() { isShown(); }
+    void defaultsAreTakenInTheirOrder();
+    void slidersThatStandRightLeaveTheirBoxes_data();
+    void slidersThatStandRightLeaveTheirBoxes();
     void contrastTypeIsShownAsTheRegions_data();
     void contrastTypeIsShownAsTheRegions();
     void sharpeningGainIsRoundedBeforeItIsSent_data();
@@ -230,6 +236,100 @@ void TestResetDefaults::contrastTypeIsShownAsTheRegions()
     test.click("resetParamButtonUser");
     QCOMPARE(test.child<QComboBox>("contrastTypeEdit").currentText(), "CLHE (ROI)");
     QCOMPARE(test.takeCalls().filter("configureContrastType"), commands);
+}
+
+void TestResetDefaults::defaultsAreTakenInTheirOrder()
+{
+    TestWindow test;
+    openCameraPage(test, "LutSection");
+
+    test.click("resetParamButtonUser");
+
+    QStringList taken;
+    for (const QString &call : test.takeCalls().filter(QRegularExpression{"^getDefault"})) {
+        taken.append(call.mid(10).section('(', 0, 0));
+    }
+    const QStringList expected{
+        "FrameRate",
+        "Gamma",
+        "Clhe",
+        "SharpeningGain",
+        "Gfid",
+        "Gsk",
+        "Tint",
+        "Gms",
+        "Roi0IncX1",
+        "Roi0IncY1",
+        "Roi0IncX2",
+        "Roi0IncY2",
+        "Roi0ExcX1",
+        "Roi0ExcY1",
+        "Roi0ExcX2",
+        "Roi0ExcY2",
+        "Roi0ExcEnable",
+        "Roi1IncX1",
+        "Roi1IncY1",
+        "Roi1IncX2",
+        "Roi1IncY2",
+        "Roi1IncEnable",
+        "Roi1ExcX1",
+        "Roi1ExcY1",
+        "Roi1ExcX2",
+        "Roi1ExcY2",
+        "Roi1ExcEnable",
+        "Polarity",
+        "ContrastType",
+        "ColorLut",
+        "HorizontalFlip",
+        "VerticalFlip",
+        "VignettingCorrection",
+        "ColumnCorrection",
+        "EdgeCorrectionType",
+        "SharpeningGainValue",
+        "SharpeningThreshold",
+        "VideoOutput",
+        "SdiOutput",
+        "ParallelOutput",
+        "MipiOutput",
+        "TempoFilter",
+        "AhcBlackGainLimit",
+        "AhcWhiteGainLimit",
+    };
+    QCOMPARE(taken, expected);
+}
+
+void TestResetDefaults::slidersThatStandRightLeaveTheirBoxes_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QVariant>("said");
+    QTest::addColumn<QString>("box");
+    QTest::addColumn<double>("typed");
+    const auto row = [](const char *name, const char *key, const QVariant &said, const char *box,
+                        double typed) {
+        QTest::newRow(name) << key << said << box << typed;
+    };
+    // Each box reaches beyond its slider, which stands at its end, and the default is that end.
+    row("CLHE", "defaultClhe", 10000.0, "clheEdit", 30000.0);
+    row("GMS", "gmsDefault", 4095, "gmsEdit", 2000000.0);
+}
+
+void TestResetDefaults::slidersThatStandRightLeaveTheirBoxes()
+{
+    QFETCH(const QString, key);
+    QFETCH(const QVariant, said);
+    QFETCH(const QString, box);
+    QFETCH(const double, typed);
+    TestWindow test;
+    openCameraPage(test, "LutSection");
+    test.simulator.set("configuration." + key.toStdString(), toValue(said));
+    auto &spinBox = test.child<QDoubleSpinBox>(box);
+    test.child<QSlider>(QString{box}.replace("Edit", "Slider")).setValue(said.toInt());
+    spinBox.setValue(typed);
+    QCOMPARE(spinBox.value(), typed);
+
+    test.click("resetParamButtonUser");
+
+    QCOMPARE(spinBox.value(), typed);
 }
 
 void TestResetDefaults::sharpeningGainIsRoundedBeforeItIsSent_data()

@@ -3,6 +3,7 @@
 // Boxes and captions can be translated; the lines of the log cannot.
 #include "testwindow.h"
 
+#include <QComboBox>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTest>
@@ -40,6 +41,7 @@ private slots:
     void boxesAreTranslated();
     void theBoxOfARegionIsTranslatedPieceByPiece();
     void captionsThatChangeAreTranslated();
+    void theResetFindsTheTranslatedItem();
 };
 
 void TestTranslation::boxesAreTranslated_data()
@@ -115,6 +117,18 @@ void TestTranslation::captionsThatChangeAreTranslated()
              QStringLiteral("<Invert Polarity: Deactivated>"));
     test.child<QPushButton>("PermanentButton").click();
     QCOMPARE(test.child<QPushButton>("PermanentButton").text(), QStringLiteral("<Permanent>"));
+}
+
+void TestTranslation::theResetFindsTheTranslatedItem()
+{
+    const MarkingTranslator translator;
+    TestWindow test;
+    test.beConnected();
+    test.simulator.set("configuration.defaultContrastType", std::int64_t{1});
+
+    test.invoke("ResetParamsUser");
+
+    QCOMPARE(test.child<QComboBox>("contrastTypeEdit").currentText(), QStringLiteral("<CLHE (ROI)>"));
 }
 
 QTEST_MAIN(TestTranslation)
