@@ -32,13 +32,16 @@ constexpr int regionCount{4};
 constexpr const char *xOrderText{QT_TRANSLATE_NOOP("MainWindow", " X1 must be lower than ROI X2")};
 constexpr const char *yOrderText{QT_TRANSLATE_NOOP("MainWindow", " Y1 must be lower than ROI Y2")};
 
+constexpr RegionCoordinate x1Coordinate{
+    &RegionWidgets::x1, &RegionWidgets::x1, &RegionWidgets::x2, &IDeviceControl::setRoiX1, "X1", xOrderText};
+constexpr RegionCoordinate x2Coordinate{
+    &RegionWidgets::x2, &RegionWidgets::x1, &RegionWidgets::x2, &IDeviceControl::setRoiX2, "X2", xOrderText};
+constexpr RegionCoordinate y1Coordinate{
+    &RegionWidgets::y1, &RegionWidgets::y1, &RegionWidgets::y2, &IDeviceControl::setRoiY1, "Y1", yOrderText};
+constexpr RegionCoordinate y2Coordinate{
+    &RegionWidgets::y2, &RegionWidgets::y1, &RegionWidgets::y2, &IDeviceControl::setRoiY2, "Y2", yOrderText};
 /// In the order in which a region that is switched on or off sends them.
-constexpr std::array<RegionCoordinate, 4> coordinates{{
-    {&RegionWidgets::x1, &RegionWidgets::x1, &RegionWidgets::x2, &IDeviceControl::setRoiX1, "X1", xOrderText},
-    {&RegionWidgets::x2, &RegionWidgets::x1, &RegionWidgets::x2, &IDeviceControl::setRoiX2, "X2", xOrderText},
-    {&RegionWidgets::y1, &RegionWidgets::y1, &RegionWidgets::y2, &IDeviceControl::setRoiY1, "Y1", yOrderText},
-    {&RegionWidgets::y2, &RegionWidgets::y1, &RegionWidgets::y2, &IDeviceControl::setRoiY2, "Y2", yOrderText},
-}};
+constexpr std::array coordinates{&x1Coordinate, &x2Coordinate, &y1Coordinate, &y2Coordinate};
 
 } // namespace
 
@@ -86,10 +89,10 @@ void MainWindow::enableRegion(Region region)
     }
 
     bool allOk{true};
-    for (const RegionCoordinate &coordinate : coordinates) {
+    for (const RegionCoordinate *const coordinate : coordinates) {
         // A region that is off keeps its coordinates in the window; the camera gets zeros for it.
-        const int pixels{enabled ? (widgets.*coordinate.spinBox)->value() : 0};
-        const bool ok{sendRegionCoordinate(coordinate, pixels, static_cast<int>(region))};
+        const int pixels{enabled ? (widgets.*coordinate->spinBox)->value() : 0};
+        const bool ok{sendRegionCoordinate(*coordinate, pixels, static_cast<int>(region))};
         allOk = allOk && ok;
         lastCommandOk = allOk;
     }
@@ -97,22 +100,22 @@ void MainWindow::enableRegion(Region region)
 
 void MainWindow::x1RoiUserValueChanged(int roiNumber)
 {
-    finishRegionEdit(roiNumber, coordinates[0]);
+    finishRegionEdit(roiNumber, x1Coordinate);
 }
 
 void MainWindow::x2RoiUserValueChanged(int roiNumber)
 {
-    finishRegionEdit(roiNumber, coordinates[1]);
+    finishRegionEdit(roiNumber, x2Coordinate);
 }
 
 void MainWindow::y1RoiUserValueChanged(int roiNumber)
 {
-    finishRegionEdit(roiNumber, coordinates[2]);
+    finishRegionEdit(roiNumber, y1Coordinate);
 }
 
 void MainWindow::y2RoiUserValueChanged(int roiNumber)
 {
-    finishRegionEdit(roiNumber, coordinates[3]);
+    finishRegionEdit(roiNumber, y2Coordinate);
 }
 
 void MainWindow::finishRegionEdit(int roiNumber, const RegionCoordinate &coordinate)
@@ -133,7 +136,8 @@ void MainWindow::finishRegionEdit(int roiNumber, const RegionCoordinate &coordin
             const QScopedValueRollback<bool> whileShown{regionBoxOpen, true};
             // Leaving this spin box may have brought the focus to another one, which the box takes it from.
             const QSignalBlocker silence{focusWidget()};
-            showAboutBox(this, tr("ROI"), tr("ROI ") + QString::number(roiNumber) + tr(coordinate.orderText));
+            showAboutBox(this, tr("ROI"),
+                         tr("ROI ") + tr(QByteArray::number(roiNumber)) + tr(coordinate.orderText));
         }
     }
     if (isDeviceOpen()) {

@@ -320,8 +320,13 @@ void TestBadPixels::withoutADeviceOnlyTheBoxIsShown()
             test.click("disconnectDeviceButton");
         }
         test.simulator.clearJournal();
-        test.boxes.expect();
+        const QWidget *parent{nullptr};
+        test.boxes.expect([&](QDialog &box) {
+            parent = box.parentWidget();
+            BoxWatcher::pressOk(box);
+        });
         test.invoke(declarations.at(place).handler);
+        QVERIFY(parent == &test.window());
         QCOMPARE(
             test.boxes.takeShown(),
             QStringList{QStringLiteral(R"(window icon "Camera not connected" "Unable to connect to %1" [OK])")

@@ -82,6 +82,8 @@ private slots:
     void writingWithoutAFileIsToldInABox();
     void aFailureIsToldInABoxBeforeTheLine_data() { addTransfers(); }
     void aFailureIsToldInABoxBeforeTheLine();
+    void aDeviceThatIsClosedMeanwhileIsNotAsked_data() { addTransfers(); }
+    void aDeviceThatIsClosedMeanwhileIsNotAsked();
     void theFileIsNamedAfterTheSerialNumber_data();
     void theFileIsNamedAfterTheSerialNumber();
     void theSerialNumberIsAskedEachTime();
@@ -160,17 +162,40 @@ void TestBprTable::aFailureIsToldInABoxBeforeTheLine()
 
     QStringList callsBefore;
     QStringList linesBefore;
+    const QWidget *parent{nullptr};
     test.boxes.expect([&](QDialog &box) {
+        parent = box.parentWidget();
         callsBefore = test.takeCallsAndRecords();
         linesBefore = test.takeLog();
         BoxWatcher::pressOk(box);
     });
     press(test, transfer.button);
     QCOMPARE(test.boxes.takeShown(), QStringList{transfer.failureBox});
+    QVERIFY(parent == &test.window());
     QCOMPARE(callsBefore, QStringList{call(transfer, false)});
     QCOMPARE(linesBefore, QStringList{});
     QCOMPARE(test.takeCalls(), QStringList{"getSerialNumber() -> 10417"});
     QCOMPARE(test.takeLog(), QStringList{line(transfer, "bpr_SN10417.bin")});
+}
+
+void TestBprTable::aDeviceThatIsClosedMeanwhileIsNotAsked()
+{
+    QFETCH(const std::size_t, place);
+    const Transfer &transfer{transfers.at(place)};
+    TestWindow test;
+    openCameraPage(test, "LutSection");
+    test.simulator.addFault({transfer.operation});
+    test.boxes.expect([&](QDialog &box) {
+        test.invoke("disconnectDevice");
+        BoxWatcher::pressOk(box);
+    });
+
+    press(test, transfer.button);
+
+    QCOMPARE(test.boxes.takeShown(), QStringList{transfer.failureBox});
+    QCOMPARE(test.takeCalls(), (QStringList{call(transfer, false), "closeDevice(device)",
+                                            "get_instance() -> sdk", "releaseDeviceManager(manager)"}));
+    QCOMPARE(test.takeLog(), QStringList{});
 }
 
 void TestBprTable::theFileIsNamedAfterTheSerialNumber_data()

@@ -137,6 +137,8 @@ void TestRegionEditing::anUnknownRegionSendsZeroUnchecked()
     openRegion(test, 0);
     show(test, "Roi0IncX1", 300);
     show(test, "Roi0IncX2", 200);
+    show(test, "Roi0IncY1", 300);
+    show(test, "Roi0IncY2", 200);
 
     test.simulator.addFault({"setRoi" + name.toStdString()});
     finishEdit(test, name, number);
@@ -151,6 +153,7 @@ void TestRegionEditing::anUnknownRegionSendsZeroUnchecked()
              QStringList{QStringLiteral("Set ROI %1 %2 value OK").arg(number).arg(QString{name})});
     QVERIFY(test.lastCommandOk());
     QCOMPARE(shown(test, "Roi0IncX1"), 300);
+    QCOMPARE(shown(test, "Roi0IncY1"), 300);
 }
 
 QTEST_MAIN(TestRegionEditing)

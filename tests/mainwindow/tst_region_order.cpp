@@ -26,6 +26,7 @@ private slots:
     void leavingAfterTheCorrectionSendsWhatIsShown();
     void aRefusalAfterTheCorrectionKeepsIt();
     void disconnectingFinishesTheEditFirst();
+    void aDeviceThatIsClosedMeanwhileGetsNothing();
     void withoutADeviceOnlyTheOrderIsChecked_data() { addCoordinates(); }
     void withoutADeviceOnlyTheOrderIsChecked();
 };
@@ -242,6 +243,26 @@ void TestRegionOrder::disconnectingFinishesTheEditFirst()
              (QStringList{"setRoiX1(300, 0, false, false, false) -> true", "closeDevice(device)",
                           "get_instance() -> sdk", "releaseDeviceManager(manager)"}));
     QCOMPARE(test.takeLog(), QStringList{"Set ROI 0 X1 value OK"});
+}
+
+void TestRegionOrder::aDeviceThatIsClosedMeanwhileGetsNothing()
+{
+    TestWindow test;
+    openRegion(test, 0);
+    show(test, "Roi0IncX2", 200);
+    type(test, "Roi0IncX1", 300);
+    test.boxes.expect([&](QDialog &box) {
+        test.invoke("disconnectDevice");
+        BoxWatcher::pressOk(box);
+    });
+
+    press(test, "Roi0IncX1", Qt::Key_Return);
+
+    QCOMPARE(test.boxes.takeShown(), QStringList{orderBox(0, "X1")});
+    QCOMPARE(test.takeCalls(),
+             (QStringList{"closeDevice(device)", "get_instance() -> sdk", "releaseDeviceManager(manager)"}));
+    QCOMPARE(test.takeLog(), QStringList{});
+    QCOMPARE(shown(test, "Roi0IncX1"), 200);
 }
 
 void TestRegionOrder::withoutADeviceOnlyTheOrderIsChecked()

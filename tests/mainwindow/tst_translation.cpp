@@ -104,7 +104,7 @@ void TestTranslation::theBoxOfARegionIsTranslatedPieceByPiece()
     QVERIFY(QMetaObject::invokeMethod(&test.window(), "x1RoiUserValueChanged", Q_ARG(int, 0)));
 
     QCOMPARE(test.boxes.takeShown(),
-             QStringList{R"(window icon "<ROI>" "<ROI >0< X1 must be lower than ROI X2>" [OK])"});
+             QStringList{R"(window icon "<ROI>" "<ROI ><0>< X1 must be lower than ROI X2>" [OK])"});
 }
 
 void TestTranslation::captionsThatChangeAreTranslated()

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// Every path that an operator can take through the window.
+// Every path on which an operator makes the window call the SDK.
 #pragma once
 
 #include "oracle.h"

@@ -133,6 +133,9 @@ QString Rehearsal::go(const Strike *strike)
 
 QString Rehearsal::compareUpTo(const Strike &strike, const std::vector<Call> &faultless) const
 {
+    if (taken.size() <= strike.step) {
+        return QStringLiteral("the path ended before the fault");
+    }
     for (std::size_t step{0}; step < strike.step; ++step) {
         if (taken[step].text != faultless[step].text) {
             return QStringLiteral("before the fault came ") + QString::fromStdString(taken[step].text);
