@@ -87,6 +87,7 @@ Value garbage(Kind kind, Random &random)
 std::vector<Value> garbage(const std::vector<Kind> &kinds, Random &random)
 {
     std::vector<Value> values;
+    values.reserve(kinds.size());
     for (const Kind kind : kinds) {
         values.push_back(garbage(kind, random));
     }
