@@ -1,12 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// The operations of the contract by name, with what each of them answers.
+// The operations of the contract by name, with what each of them takes and answers.
 #include "operations.h"
 
 #include "recordfields.h"
 #include "veltrix_sdk/sdk.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
 #include <type_traits>
 
 namespace veltrix_simulator
@@ -43,12 +45,27 @@ void appendParameterKinds(std::vector<Kind> &kinds)
     }
 }
 
+/// What a parameter brings into the call.
+template <typename Parameter>
+void appendArgumentKinds(std::vector<Kind> &kinds)
+{
+    using Target = std::remove_const_t<std::remove_pointer_t<Parameter>>;
+    if constexpr (std::is_same_v<Parameter, veltrix_sdk::Warp *>) {
+        appendKinds<decltype(veltrix_sdk::Warp::stream)>(kinds);
+    } else if constexpr (std::is_same_v<Parameter, const Target *> && isRecord<Target>) {
+        appendKinds<Target>(kinds);
+    } else if constexpr (std::is_arithmetic_v<Parameter> || std::is_same_v<Parameter, const char *>) {
+        appendKinds<Parameter>(kinds);
+    }
+}
+
 template <typename Result, typename... Parameters>
 Operation describeCall(std::string_view name, Interface interface)
 {
     Operation operation{name, interface, {}};
     appendKinds<Result>(operation.answer);
     (appendParameterKinds<Parameters>(operation.answer), ...);
+    (appendArgumentKinds<Parameters>(operation.arguments), ...);
     return operation;
 }
 
@@ -58,11 +75,43 @@ Operation describe(std::string_view name, Interface interface, Result (Object::*
     return describeCall<Result, Parameters...>(name, interface);
 }
 
-const std::vector<Operation> &operations()
+bool beginsWith(std::string_view text, std::string_view beginning)
+{
+    return text.substr(0, beginning.size()) == beginning;
+}
+
+/// Whether the pattern, in which a `*` stands for any characters, covers the whole name.
+bool fits(std::string_view pattern, std::string_view name)
+{
+    std::size_t inPattern{0};
+    std::size_t inName{0};
+    std::size_t afterStar{std::string_view::npos};
+    std::size_t swallowed{0};
+    // Only the latest star ever has to take more: what stands before it fits already.
+    while (inName < name.size()) {
+        if (inPattern < pattern.size() && pattern[inPattern] == '*') {
+            afterStar = ++inPattern;
+            swallowed = inName;
+        } else if (inPattern < pattern.size() && pattern[inPattern] == name[inName]) {
+            ++inPattern;
+            ++inName;
+        } else if (afterStar != std::string_view::npos) {
+            inPattern = afterStar;
+            inName = ++swallowed;
+        } else {
+            return false;
+        }
+    }
+    return pattern.find_first_not_of('*', inPattern) == std::string_view::npos;
+}
+
+} // namespace
+
+const std::vector<Operation> &allOperations()
 {
     static const std::vector<Operation> list{
         describeCall<IVeltrixSdk *>("get_instance", Interface::Root),
-        describeCall<void>("log", Interface::Log),
+        describeCall<void, std::int32_t, const char *>("log", Interface::Log),
         describe("initialize", Interface::Root, &IVeltrixSdk::initialize),
         describe("getConfiguration", Interface::Root, &IVeltrixSdk::getConfiguration),
         describe("getDeviceManager", Interface::Root, &IVeltrixSdk::getDeviceManager),
@@ -223,13 +272,46 @@ const std::vector<Operation> &operations()
     return list;
 }
 
-} // namespace
-
 const Operation *findOperation(std::string_view name)
 {
-    const auto found = std::find_if(operations().begin(), operations().end(),
+    const std::vector<Operation> &operations = allOperations();
+    const auto found = std::find_if(operations.begin(), operations.end(),
                                     [&](const Operation &operation) { return operation.name == name; });
-    return found == operations().end() ? nullptr : &*found;
+    return found == operations.end() ? nullptr : &*found;
+}
+
+std::vector<const Operation *> operationsMatching(std::string_view pattern)
+{
+    const bool isName{pattern.find('*') == std::string_view::npos};
+    std::vector<const Operation *> matching;
+    for (const Operation &operation : allOperations()) {
+        if (isName ? operation.name == pattern
+                   : operation.interface == Interface::Device && fits(pattern, operation.name)) {
+            matching.push_back(&operation);
+        }
+    }
+    return matching;
+}
+
+bool readsValues(const Operation &operation)
+{
+    if (operation.interface == Interface::Configuration) {
+        return !operation.answer.empty();
+    }
+    return operation.interface == Interface::Device &&
+           (beginsWith(operation.name, "get") || operation.name == "connect");
+}
+
+bool isCommand(const Operation &operation)
+{
+    return operation.interface == Interface::Device && !readsValues(operation) &&
+           operation.name != "startReading";
+}
+
+bool storesValues(const Operation &operation)
+{
+    return isCommand(operation) && operation.name != "setTarget" &&
+           (beginsWith(operation.name, "set") || beginsWith(operation.name, "configure"));
 }
 
 } // namespace veltrix_simulator

@@ -3,6 +3,7 @@
 // The simulator's own interface, on top of the simulation.
 #include "veltrix_simulator/simulator.h"
 
+#include "faults.h"
 #include "simulation.h"
 
 #include <utility>
@@ -76,17 +77,25 @@ std::vector<std::string> Simulator::keys() const
 
 void Simulator::setPorts(std::vector<std::string> ports)
 {
-    impl->simulation.state.ports = std::move(ports);
+    impl->simulation.state.ports.clear();
+    for (std::string &name : ports) {
+        impl->simulation.state.ports.push_back({std::move(name)});
+    }
 }
 
 void Simulator::addFault(Fault fault)
 {
-    impl->simulation.core.faults.add(std::move(fault));
+    impl->simulation.core.rules.add(ruleOf(std::move(fault)));
 }
 
 void Simulator::clearFaults()
 {
-    impl->simulation.core.faults.clear();
+    impl->simulation.core.rules.clear();
+}
+
+std::vector<std::string> Simulator::unfiredFaults() const
+{
+    return impl->simulation.core.rules.unfired();
 }
 
 } // namespace veltrix_simulator

@@ -55,7 +55,7 @@ void SimulatorExportsTest::exportsExactly_data()
     simulator << "veltrix_sdk_additional_ports";
     for (const char *const function :
          {"addFault", "callsWhileNotOpen", "clearFaults", "clearJournal", "get", "instance", "isDeviceOpen",
-          "journal", "keys", "reset", "set", "setJournalEnabled", "setPorts"}) {
+          "journal", "keys", "reset", "set", "setJournalEnabled", "setPorts", "unfiredFaults"}) {
         simulator << QStringLiteral("veltrix_simulator::Simulator::") + function;
     }
     simulator.sort();

@@ -94,7 +94,10 @@ public:
     /// Adds a fault; the last one added wins. Throws std::invalid_argument when there is no such
     /// operation or the answer does not fit it.
     void addFault(Fault fault);
+    /// Removes all faults, those of the scenario among them.
     void clearFaults();
+    /// Where the faults of the scenario that have not happened yet stand in it, such as "flaky.toml:12".
+    std::vector<std::string> unfiredFaults() const;
 
 private:
     Simulator();
