@@ -3,9 +3,11 @@
 // The one place that every call of the contract passes.
 #pragma once
 
+#include "calljson.h"
 #include "calltext.h"
 #include "faults.h"
 #include "state.h"
+#include "trace.h"
 
 #include <cstddef>
 #include <string>
@@ -16,7 +18,7 @@
 namespace veltrix_simulator
 {
 
-/// Counts the calls, applies the faults and keeps the journal, for all operations alike.
+/// Counts the calls, applies the faults, keeps the journal and writes the trace, for all operations alike.
 class Core
 {
 public:
@@ -39,6 +41,7 @@ public:
         using Result = std::conditional_t<std::is_void_v<ActionResult>, Nothing, ActionResult>;
 
         const int target{state.target};
+        const CallTime begun{trace.isOn() ? CallTime::now() : CallTime{}};
         const bool reachable{interface != Interface::Device || state.deviceOpen};
         const Fault *const fault{reachable ? faults.match(interface, operation) : nullptr};
         callsWhileNotOpen += reachable ? 0 : 1;
@@ -66,12 +69,17 @@ public:
 
         if (journalEnabled) {
             forgetOldest();
-            CallText text{line, objects};
+            CallText text{line};
             text.begin(reachable, operation);
-            (text.argument(parameters), ...);
-            text.result(result);
-            (text.output(parameters), ...);
+            showCall(text, objects, result, parameters...);
             journal.push_back({interface, operation, target, line});
+        }
+        if (trace.isOn()) {
+            CallJson json{line};
+            json.begin(begun, {interface, operation, target}, reachable);
+            showCall(json, objects, result, parameters...);
+            json.end();
+            trace.write(line);
         }
         if constexpr (!std::is_void_v<ActionResult>) {
             return result;
@@ -82,6 +90,7 @@ public:
     bool journalEnabled{true};
     std::size_t callsWhileNotOpen{0};
     Faults faults;
+    Trace trace;
 
 private:
     /// A program that runs for days never takes its journal.

@@ -3,6 +3,8 @@
 // The simulated SDK as a whole: its root object and everything behind it.
 #include "simulation.h"
 
+#include "scenario.h"
+
 #include <string>
 
 namespace veltrix_simulator
@@ -41,8 +43,10 @@ Simulation::Simulation()
 
 void Simulation::reset()
 {
+    const Scenario scenario;
     state.reset();
     core.reset();
+    core.trace.start(scenario.name, scenario.seed);
 }
 
 veltrix_sdk::IVeltrixSdk *Simulation::root()
