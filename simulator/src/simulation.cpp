@@ -45,6 +45,7 @@ void Simulation::reset()
 {
     const Scenario scenario;
     state.reset();
+    memory.restore(state, scenario.memoryFile);
     core.reset();
     core.trace.start(scenario.name, scenario.seed);
 }
