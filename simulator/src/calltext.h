@@ -42,9 +42,6 @@ constexpr const char *nameOf(const Object *object, const Objects &objects)
                                   : std::is_same_v<Object, veltrix_sdk::ISdkConfiguration> ? 1
                                   : std::is_same_v<Object, veltrix_sdk::IDeviceManager>    ? 2
                                                                                            : 3;
-    if (object == nullptr) {
-        return "null";
-    }
     return object == std::get<Object *>(objects) ? std::get<place>(names) : "unknown";
 }
 
@@ -167,92 +164,163 @@ private:
     std::size_t next{0};
 };
 
-/// Builds the journal's line of one call.
+/// Stands for an object of the contract where a call is shown.
+struct ObjectName
+{
+    const char *text;
+};
+
+/// Hands a parameter or a result to the function as what is shown of it: a record, a number, a bool, a
+/// text (std::string_view), an ObjectName, or nullptr for what is missing.
+template <typename T, typename Function>
+void show(const T &value, const Objects &objects, const Function &function)
+{
+    if constexpr (std::is_same_v<T, const char *>) {
+        value != nullptr ? function(std::string_view{value}) : function(nullptr);
+    } else if constexpr (std::is_pointer_v<std::remove_pointer_t<T>>) {
+        value != nullptr ? show(*value, objects, function) : function(nullptr);
+    } else if constexpr (std::is_pointer_v<T>) {
+        value != nullptr ? function(ObjectName{nameOf(value, objects)}) : function(nullptr);
+    } else {
+        function(value);
+    }
+}
+
+/// Walks through a call and hands a sink all that there is to show.
+template <typename Sink>
+class CallWalk
+{
+public:
+    CallWalk(Sink &itsSink, const Objects &itsObjects) : sink{itsSink}, objects{itsObjects} {}
+
+    /// What a parameter brings into the call. An out-parameter brings nothing, unless it is missing.
+    template <typename T>
+    void argument(const T &argument) const
+    {
+        show(argument, objects, [&](const auto &shown) { sink.argument(shown); });
+    }
+
+    template <typename T>
+    void argument(const Out<T> &out) const
+    {
+        if (out.number == nullptr) {
+            sink.argument(nullptr);
+        }
+    }
+
+    template <typename Record>
+    std::enable_if_t<isRecord<Record>> argument(Record *const &record) const
+    {
+        if (record == nullptr) {
+            sink.argument(nullptr);
+        } else if constexpr (std::is_const_v<Record>) {
+            sink.argument(*record);
+        } else if constexpr (std::is_same_v<Record, veltrix_sdk::Warp>) {
+            sink.argument(record->stream);
+        }
+    }
+
+    /// An empty result is that of an operation that has none.
+    template <typename Result>
+    void result(const Result &result) const
+    {
+        sink.endArguments();
+        if constexpr (!std::is_empty_v<Result>) {
+            show(result, objects, [&](const auto &shown) { sink.result(shown); });
+        }
+    }
+
+    /// What a parameter brings out of the call.
+    template <typename T>
+    void output(const T & /*input*/) const
+    {}
+
+    template <typename T>
+    void output(const Out<T> &out) const
+    {
+        if (out.number != nullptr) {
+            sink.output(out.name, *out.number);
+        }
+    }
+
+    template <typename Record>
+    std::enable_if_t<isRecord<Record>> output(Record *const &record) const
+    {
+        if constexpr (!std::is_const_v<Record>) {
+            if (record != nullptr) {
+                sink.output(*record);
+            }
+        }
+    }
+
+private:
+    Sink &sink;
+    const Objects &objects;
+};
+
+/// Shows a whole call to a sink: its arguments, its result and what it filled in.
+template <typename Sink, typename Result, typename... Parameters>
+void showCall(Sink &sink, const Objects &objects, const Result &result, const Parameters &...parameters)
+{
+    const CallWalk<Sink> walk{sink, objects};
+    (walk.argument(parameters), ...);
+    walk.result(result);
+    (walk.output(parameters), ...);
+}
+
+/// Appends a number in the shortest form that reads back.
+template <typename T>
+void appendNumber(std::string &line, T number)
+{
+    // The longest is a negative double.
+    char digits[32];
+    const auto end = std::to_chars(digits, digits + sizeof digits, number).ptr;
+    line.append(digits, end);
+}
+
+/// Sink that builds the journal's line of one call.
 class CallText
 {
 public:
-    CallText(std::string &itsLine, const Objects &itsObjects) : line{itsLine}, objects{itsObjects} {}
+    explicit CallText(std::string &itsLine) : line{itsLine} {}
 
     void begin(bool reachable, std::string_view operation)
     {
         line.assign(reachable ? "" : "NOT OPEN: ").append(operation).push_back('(');
     }
 
-    /// What a parameter brings into the call. An out-parameter brings nothing, unless it is missing.
     template <typename T>
-    void argument(const T &argument)
+    void argument(const T &value)
     {
-        separate();
-        append(argument);
+        line.append(line.back() == '(' ? "" : ", ");
+        append(value);
+    }
+
+    void endArguments() { line.push_back(')'); }
+
+    template <typename T>
+    void result(const T &value)
+    {
+        line.append(" -> ");
+        append(value);
     }
 
     template <typename T>
-    void argument(const Out<T> &out)
+    void output(const char *name, const T &value)
     {
-        if (out.number == nullptr) {
-            argument(nullptr);
-        }
+        line.append(" {").append(name).push_back('=');
+        append(value);
+        line.push_back('}');
     }
 
     template <typename Record>
-    std::enable_if_t<isRecord<Record>> argument(Record *const &record)
+    void output(const Record &record)
     {
-        if (record == nullptr) {
-            argument(nullptr);
-            return;
-        }
-        if constexpr (std::is_const_v<Record>) {
-            separate();
-            append(*record);
-        } else if constexpr (std::is_same_v<Record, veltrix_sdk::Warp>) {
-            argument(record->stream);
-        }
-    }
-
-    template <typename Result>
-    void result(const Result &result)
-    {
-        line.push_back(')');
-        if constexpr (!std::is_empty_v<Result>) {
-            line.append(" -> ");
-            append(result);
-        }
-    }
-
-    /// What a parameter brings out of the call.
-    template <typename T>
-    void output(const T & /*input*/)
-    {}
-
-    template <typename T>
-    void output(const Out<T> &out)
-    {
-        if (out.number != nullptr) {
-            line.append(" {").append(out.name).push_back('=');
-            append(*out.number);
-            line.push_back('}');
-        }
-    }
-
-    template <typename Record>
-    std::enable_if_t<isRecord<Record>> output(Record *const &record)
-    {
-        if constexpr (!std::is_const_v<Record>) {
-            if (record != nullptr) {
-                line.push_back(' ');
-                append(*record);
-            }
-        }
+        line.push_back(' ');
+        append(record);
     }
 
 private:
-    void separate()
-    {
-        if (line.back() != '(') {
-            line.append(", ");
-        }
-    }
-
     template <typename T>
     void append(const T &value)
     {
@@ -261,17 +329,13 @@ private:
         } else if constexpr (std::is_same_v<T, bool>) {
             line.append(value ? "true" : "false");
         } else if constexpr (std::is_arithmetic_v<T>) {
-            appendNumber(value);
+            appendNumber(line, value);
         } else if constexpr (std::is_null_pointer_v<T>) {
             line.append("null");
-        } else if constexpr (std::is_same_v<T, const char *>) {
-            value != nullptr ? appendQuoted(value) : append(nullptr);
-        } else if constexpr (std::is_same_v<T, std::string_view>) {
-            appendQuoted(value);
-        } else if constexpr (std::is_pointer_v<std::remove_pointer_t<T>>) {
-            value != nullptr ? append(*value) : append(nullptr);
+        } else if constexpr (std::is_same_v<T, ObjectName>) {
+            line.append(value.text);
         } else {
-            line.append(nameOf(value, objects));
+            appendQuoted(value);
         }
     }
 
@@ -280,22 +344,10 @@ private:
     {
         line.push_back('{');
         forEachField(record, [&](const char *name, const auto &field) {
-            if (line.back() != '{') {
-                line.append(", ");
-            }
-            line.append(name).push_back('=');
+            line.append(line.back() == '{' ? "" : ", ").append(name).push_back('=');
             append(field);
         });
         line.push_back('}');
-    }
-
-    template <typename T>
-    void appendNumber(T number)
-    {
-        // The longest number is a negative double in the shortest form that reads back.
-        char digits[32];
-        const auto end = std::to_chars(digits, digits + sizeof digits, number).ptr;
-        line.append(digits, end);
     }
 
     void appendQuoted(std::string_view text)
@@ -311,7 +363,6 @@ private:
     }
 
     std::string &line;
-    const Objects &objects;
 };
 
 } // namespace veltrix_simulator

@@ -3,12 +3,14 @@
 // The one place that every call of the contract passes.
 #pragma once
 
+#include "calljson.h"
 #include "calltext.h"
 #include "disturbance.h"
 #include "life.h"
 #include "link.h"
 #include "rules.h"
 #include "state.h"
+#include "trace.h"
 
 #include <cstddef>
 #include <optional>
@@ -20,8 +22,8 @@
 namespace veltrix_simulator
 {
 
-/// Counts the calls, lets the time of the link and of the units pass, applies the rules and keeps the
-/// journal, for all operations alike.
+/// Counts the calls, lets the time of the link and of the units pass, applies the rules, keeps the journal
+/// and writes the trace, for all operations alike.
 class Core
 {
 public:
@@ -48,6 +50,7 @@ public:
         using Result = std::conditional_t<std::is_void_v<ActionResult>, Nothing, ActionResult>;
 
         const int target{state.target};
+        const CallTime begun{trace.isOn() ? CallTime::now() : CallTime{}};
         const bool reachable{interface != Interface::Device || state.deviceOpen};
         const bool answering{reachable && (interface != Interface::Device || deviceAnswers())};
         callsWhileNotOpen += reachable ? 0 : 1;
@@ -84,12 +87,17 @@ public:
 
         if (journalEnabled) {
             forgetOldest();
-            CallText text{line, objects};
+            CallText text{line};
             text.begin(reachable, operation);
-            (text.argument(parameters), ...);
-            text.result(result);
-            (text.output(parameters), ...);
+            showCall(text, objects, result, parameters...);
             journal.push_back({interface, operation, target, line});
+        }
+        if (trace.isOn()) {
+            CallJson json{line};
+            json.begin(begun, {interface, operation, target}, reachable);
+            showCall(json, objects, result, parameters...);
+            json.end();
+            trace.write(line);
         }
         if constexpr (!std::is_void_v<ActionResult>) {
             return result;
@@ -100,6 +108,7 @@ public:
     bool journalEnabled{true};
     std::size_t callsWhileNotOpen{0};
     Rules rules;
+    Trace trace;
 
 private:
     /// Whether the device that is open takes part in what goes over the link.

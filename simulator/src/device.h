@@ -227,8 +227,11 @@ public:
     }
     bool saveBlendUnitParameters(std::uint8_t kind) override
     {
-        return call(
-            __func__, [&] { return kind <= 1 && count(Field::userSaves + kind); }, kind);
+        const auto save = [&] {
+            return kind <= 1 && memory.save(state, kind == 0 ? Saved::User : Saved::Expert, log) &&
+                   count(Field::userSaves + kind);
+        };
+        return call(__func__, save, kind);
     }
     bool setStartingMode(std::uint32_t mode) override { return set(__func__, Field::startingMode, mode); }
     bool getStartingMode(std::uint8_t *mode) override

@@ -3,11 +3,11 @@
 // Where log records go: standard error or a file, as VELTRIX_SIMULATOR_LOG says.
 #include "logoutput.h"
 
+#include "clock.h"
+
 #include <array>
 #include <chrono>
-#include <cstdio>
 #include <cstdlib>
-#include <ctime>
 #include <iostream>
 
 namespace veltrix_simulator
@@ -22,27 +22,12 @@ std::string nameOf(veltrix_sdk::severity_level severity)
     return level < names.size() ? names[level] : "severity " + std::to_string(static_cast<int>(severity));
 }
 
-/// Such as "2026-03-14T09:26:53.589Z".
-std::string timeNow()
-{
-    using namespace std::chrono;
-    const auto now = system_clock::now();
-    const std::time_t seconds = system_clock::to_time_t(now);
-    const auto milliseconds = duration_cast<std::chrono::milliseconds>(now.time_since_epoch()).count() % 1000;
-    std::array<char, 40> text{};
-    std::size_t length{0};
-    if (const std::tm *const utc = std::gmtime(&seconds)) {
-        length = std::strftime(text.data(), text.size(), "%Y-%m-%dT%H:%M:%S", utc);
-    }
-    std::snprintf(text.data() + length, text.size() - length, ".%03dZ", static_cast<int>(milliseconds));
-    return text.data();
-}
-
 /// The record as a line; the lines of its text after the first are indented, so that every line that
 /// begins with a time begins a record.
 std::string format(veltrix_sdk::severity_level severity, std::string_view text)
 {
-    std::string line = timeNow() + ' ' + nameOf(severity) + ": ";
+    const auto now = std::chrono::system_clock::now();
+    std::string line = formatTime(now, Precision::Milliseconds) + ' ' + nameOf(severity) + ": ";
     for (const char character : text) {
         line.append(line.back() == '\n' ? 4 : 0, ' ').push_back(character);
     }

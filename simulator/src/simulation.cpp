@@ -5,6 +5,7 @@
 
 #include <cstdlib>
 #include <iostream>
+#include <optional>
 #include <stdexcept>
 #include <string>
 
@@ -78,6 +79,10 @@ void Simulation::powerOn(const Scenario &scenario)
                                         " of row " + std::to_string(pixel.row)};
         }
     }
+    if (const std::optional<std::string> damage = memory.restore(state, scenario.memoryFile)) {
+        throw std::invalid_argument{*damage};
+    }
+    core.trace.start(scenario.name, scenario.seed);
 }
 
 BadPixelMemory &Simulation::badPixelsOf(int target)

@@ -8,6 +8,7 @@
 #include "device.h"
 #include "devicemanager.h"
 #include "logoutput.h"
+#include "memory.h"
 #include "scenario.h"
 #include "state.h"
 #include "veltrix_sdk/sdk.h"
@@ -60,8 +61,9 @@ struct Simulation
     void reportUnfired();
 
     LogOutput log;
+    Memory memory;
     SimulatedConfiguration configuration{core, state};
-    SimulatedDevice device{core, state, log};
+    SimulatedDevice device{core, state, log, memory};
     SimulatedDeviceManager manager{core, state, log, device};
     SimulatedSdk sdk{core, log, configuration, manager};
     State state{configuration.words};

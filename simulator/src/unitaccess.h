@@ -5,6 +5,7 @@
 
 #include "core.h"
 #include "logoutput.h"
+#include "memory.h"
 #include "state.h"
 
 #include <cstddef>
@@ -19,8 +20,8 @@ namespace veltrix_simulator
 class UnitAccess
 {
 public:
-    UnitAccess(Core &itsCore, State &itsState, LogOutput &itsLog)
-        : core{itsCore}, state{itsState}, log{itsLog}
+    UnitAccess(Core &itsCore, State &itsState, LogOutput &itsLog, Memory &itsMemory)
+        : core{itsCore}, state{itsState}, log{itsLog}, memory{itsMemory}
     {}
 
 protected:
@@ -170,6 +171,7 @@ protected:
     Core &core;
     State &state;
     LogOutput &log;
+    Memory &memory;
 };
 
 } // namespace veltrix_simulator

@@ -1,0 +1,557 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// Saved parameters: what comes back after a power cycle, and files that are damaged or half written.
+#include "memoryfile.h"
+#include "replacefile.h"
+#include "simulation.h"
+#include "veltrix_sdk/sdk.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <cstdint>
+#include <limits>
+#include <map>
+#include <string>
+#include <variant>
+
+using namespace veltrix_sdk;
+using namespace veltrix_simulator;
+
+namespace
+{
+
+QByteArray contentOf(const QString &name)
+{
+    QFile file{name};
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray{"no file"};
+}
+
+bool write(const QString &name, const QByteArray &content)
+{
+    QFile file{name};
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+}
+
+/// Power-on with the device open; what restoring the memory complains of goes to `complaint`.
+struct PoweredOn
+{
+    explicit PoweredOn(const QString &memoryFile)
+    {
+        simulation.reset();
+        complaint = QString::fromStdString(
+            simulation.memory.restore(simulation.state, memoryFile.toStdString()).value_or(std::string{}));
+        device = simulation.manager.openDevice("SIM1");
+    }
+
+    Value get(const char *key) const { return simulation.state.get(key); }
+    void set(const char *key, const Value &value) { simulation.state.set(key, value); }
+
+    Simulation &simulation{veltrix_simulator::simulation()};
+    IDeviceControl *device{nullptr};
+    QString complaint;
+};
+
+/// All values by key.
+std::map<std::string, Value> everyValue()
+{
+    std::map<std::string, Value> values;
+    for (const std::string &key : State::keys()) {
+        values[key] = simulation().state.get(key);
+    }
+    return values;
+}
+
+/// A value that the unit accepts and does not have at power-on.
+double otherValue(const UnitField &row, std::size_t target)
+{
+    const Words &words = simulation().state.words;
+    const double lowest{row.allowed.minimumWord != nullptr ? words.*row.allowed.minimumWord
+                                                           : row.allowed.minimum};
+    const double listed{row.allowed.listed != nullptr ? row.allowed.listed[0] : row.allowed.maximum};
+    for (const double number : {lowest, listed, 1.0 - row.defaults[target]}) {
+        if (number != row.defaults[target] && row.allowed.accepts(number, words)) {
+            return number;
+        }
+    }
+    return row.defaults[target];
+}
+
+/// A whole file; the tests below damage it.
+const QByteArray expertFile{R"({
+  "format": 1,
+  "camera": {
+    "expert": {
+      "gsk": 2,
+      "gfid": 250,
+      "gms": 1024,
+      "tint": 10,
+      "bprEnable": true,
+      "offsetCorrection": true,
+      "gainCorrection": true,
+      "visibleAgc.target": 50,
+      "visibleAgc.threshold": 10,
+      "visibleAgc.filterCoefficient": 20,
+      "visibleClhe.threshold": 2000,
+      "visibleClhe.filterCoefficient": 30,
+      "warp0.a11": 1.0,
+      "warp0.a21": 0.0,
+      "warp0.a12": 0.0,
+      "warp0.a22": 1.0,
+      "warp0.a13": 0.0,
+      "warp0.a23": 0.0,
+      "warp1.a11": 1.0,
+      "warp1.a21": 0.0,
+      "warp1.a12": 0.0,
+      "warp1.a22": 1.0,
+      "warp1.a13": 0.1,
+      "warp1.a23": -4.0,
+      "warp2.a11": 1.0,
+      "warp2.a21": 0.0,
+      "warp2.a12": 0.0,
+      "warp2.a22": 1.0,
+      "warp2.a13": 0.0,
+      "warp2.a23": 0.0
+    }
+  }
+}
+)"};
+
+const QByteArray userFile{R"({
+  "format": 1,
+  "blendUnit": {
+    "user": {
+      "horizontalFlip": false,
+      "verticalFlip": false,
+      "vignettingCorrection": true,
+      "columnCorrection": true,
+      "sdiOutput": true,
+      "parallelOutput": false,
+      "mipiOutput": true,
+      "polarity": false,
+      "frameRate": 60,
+      "videoOutput": 8,
+      "mavlink.baudRate": 115200,
+      "mavlink.permanent": false,
+      "edgeCorrection.type": 0,
+      "edgeCorrection.gain": 64,
+      "edgeCorrection.firstThreshold": 20,
+      "edgeCorrection.secondThreshold": 60,
+      "zoom.factor": 1.5,
+      "zoom.xCenter": 320,
+      "zoom.yCenter": 240,
+      "zoom.method": 0,
+      "contrastType": 0,
+      "colorLut": 0,
+      "ahcGainLimitation.black": 20,
+      "ahcGainLimitation.white": 80,
+      "lutTemporalFilter": 2,
+      "gamma": 65536,
+      "clhe": 2000,
+      "videoMode": 2,
+      "startingMode": 2,
+      "roi0.x1": 5,
+      "roi0.x2": 635,
+      "roi0.y1": 5,
+      "roi0.y2": 475,
+      "roi1.x1": 0,
+      "roi1.x2": 0,
+      "roi1.y1": 0,
+      "roi1.y2": 0,
+      "roi2.x1": 0,
+      "roi2.x2": 0,
+      "roi2.y1": 0,
+      "roi2.y2": 0,
+      "roi3.x1": 0,
+      "roi3.x2": 0,
+      "roi3.y1": 0,
+      "roi3.y2": 0,
+      "roi1IncEnabled": false,
+      "roi0ExcEnabled": false,
+      "roi1ExcEnabled": false
+    }
+  }
+}
+)"};
+
+QByteArray replaced(QByteArray bytes, const char *before, const char *after)
+{
+    return bytes.replace(before, after);
+}
+
+std::variant<MemoryImage, std::string> parse(const QByteArray &bytes)
+{
+    return parseMemory({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+}
+
+/// What is wrong with the bytes; empty: nothing.
+QString damageOf(const QByteArray &bytes)
+{
+    const auto parsed = parse(bytes);
+    const auto *const reason = std::get_if<std::string>(&parsed);
+    return reason != nullptr ? QString::fromStdString(*reason) : QString{};
+}
+
+} // namespace
+
+class SimulatorMemoryTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanupTestCase() { simulation().reset(); }
+
+    void savedSetComesBack_data();
+    void savedSetComesBack();
+    void everySetIsKeptForItself();
+    void onlyTwoSetsCanBeSaved();
+    void withoutFileNothingIsKept();
+    void fileReads_data();
+    void fileReads();
+
+    void damageIsNamed_data();
+    void damageIsNamed();
+    void cutFileIsRefused();
+    void anyChangedByteIsBorne();
+    void deepNestingIsRefused_data();
+    void deepNestingIsRefused();
+    void damagedFileIsLeftAlone_data();
+    void damagedFileIsLeftAlone();
+
+    void interruptedSaveLeavesTheOldSet();
+    void killedProgramLeavesAWholeFile();
+    void failedSaveIsTold();
+    void valueThatNoUnitAcceptsIsNotSaved();
+
+private:
+    QTemporaryDir directory;
+    QString name;
+};
+
+void SimulatorMemoryTest::init()
+{
+    name = directory.filePath(QString::fromLatin1(QTest::currentTestFunction()) + ".json");
+    QFile::remove(name);
+}
+
+void SimulatorMemoryTest::savedSetComesBack_data()
+{
+    QTest::addColumn<int>("target");
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<int>("values");
+    QTest::addRow("user set of the Blend Unit") << 0 << 0 << 48;
+    QTest::addRow("expert set of the Blend Unit") << 0 << 1 << 30;
+    QTest::addRow("user set of the camera") << 1 << 0 << 48;
+    QTest::addRow("expert set of the camera") << 1 << 1 << 30;
+}
+
+void SimulatorMemoryTest::savedSetComesBack()
+{
+    QFETCH(const int, target);
+    QFETCH(const int, kind);
+    QFETCH(const int, values);
+    std::map<std::string, Value> expected;
+    {
+        const PoweredOn first{name};
+        expected = everyValue();
+        const Saved set{kind == 0 ? Saved::User : Saved::Expert};
+        const auto unit = static_cast<std::size_t>(target);
+        int changed{0};
+        for (const UnitField &row : unitFields) {
+            double &number = first.simulation.state.units[unit][row.id];
+            number = otherValue(row, unit);
+            if (row.saved == set && number != row.defaults[unit]) {
+                expected[(target == 0 ? "blendUnit." : "camera.") + std::string{row.key}] =
+                    toValue(number, row.kind);
+                ++changed;
+            }
+        }
+        QCOMPARE(changed, values);
+        QVERIFY(first.device->setTarget(target));
+        QVERIFY(first.device->saveBlendUnitParameters(static_cast<std::uint8_t>(kind)));
+    }
+    const PoweredOn second{name};
+    QCOMPARE(second.complaint, QString{});
+    QVERIFY(everyValue() == expected);
+}
+
+void SimulatorMemoryTest::everySetIsKeptForItself()
+{
+    {
+        const PoweredOn first{name};
+        QVERIFY(first.device->setGamma(40'000));
+        QVERIFY(first.device->setTint(11));
+        QVERIFY(first.device->saveBlendUnitParameters(0));
+        QVERIFY(first.device->setTarget(1));
+        QVERIFY(first.device->setGamma(50'000));
+        QVERIFY(first.device->setTint(12));
+        QVERIFY(first.device->saveBlendUnitParameters(1));
+    }
+    {
+        const PoweredOn second{name};
+        QCOMPARE(second.device->getGamma(), 40'000U);
+        QCOMPARE(second.device->getTint(), 10U);
+        QVERIFY(second.device->setTarget(1));
+        QCOMPARE(second.device->getGamma(), 65'536U);
+        QCOMPARE(second.device->getTint(), 12U);
+        QVERIFY(second.device->setGamma(60'000));
+        QVERIFY(second.device->saveBlendUnitParameters(0));
+    }
+    const PoweredOn third{name};
+    QCOMPARE(third.device->getGamma(), 40'000U);
+    QVERIFY(third.device->setTarget(1));
+    QCOMPARE(third.device->getGamma(), 60'000U);
+    QCOMPARE(third.device->getTint(), 12U);
+}
+
+void SimulatorMemoryTest::onlyTwoSetsCanBeSaved()
+{
+    const PoweredOn unit{name};
+    QVERIFY(!unit.device->saveBlendUnitParameters(2));
+    QVERIFY(!unit.device->saveBlendUnitParameters(255));
+    QVERIFY(!QFile::exists(name));
+    QVERIFY(unit.get("blendUnit.userSaves") == Value{std::int64_t{0}});
+    QVERIFY(unit.get("blendUnit.expertSaves") == Value{std::int64_t{0}});
+}
+
+void SimulatorMemoryTest::withoutFileNothingIsKept()
+{
+    {
+        const PoweredOn first{{}};
+        QCOMPARE(first.complaint, QString{});
+        QVERIFY(first.device->setGamma(40'000));
+        QVERIFY(first.device->saveBlendUnitParameters(0));
+        QVERIFY(first.get("blendUnit.userSaves") == Value{std::int64_t{1}});
+    }
+    const PoweredOn second{{}};
+    QCOMPARE(second.device->getGamma(), 65'536U);
+    QVERIFY(second.get("blendUnit.userSaves") == Value{std::int64_t{0}});
+}
+
+void SimulatorMemoryTest::fileReads_data()
+{
+    QTest::addColumn<int>("target");
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QByteArray>("content");
+    QTest::addRow("user set") << 0 << 0 << userFile;
+    QTest::addRow("expert set") << 1 << 1 << expertFile;
+}
+
+void SimulatorMemoryTest::fileReads()
+{
+    QFETCH(const int, target);
+    QFETCH(const int, kind);
+    QFETCH(const QByteArray, content);
+    PoweredOn unit{name};
+    unit.set("blendUnit.zoom.factor", 1.5);
+    unit.set("camera.warp1.a13", 0.1);
+    unit.set("camera.warp1.a23", -4.0);
+    QVERIFY(unit.device->setTarget(target));
+    QVERIFY(unit.device->saveBlendUnitParameters(static_cast<std::uint8_t>(kind)));
+    QCOMPARE(contentOf(name), content);
+    QCOMPARE(damageOf(content), QString{});
+}
+
+void SimulatorMemoryTest::damageIsNamed_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("damage");
+    const auto row = [](const char *title, const QByteArray &bytes, const char *damage) {
+        QTest::addRow("%s", title) << bytes << QString{damage};
+    };
+    const auto changed = [](const char *before, const char *after) {
+        return replaced(expertFile, before, after);
+    };
+    row("nothing", "", "line 1, byte 1: what stands there is no JSON");
+    row("text", "format 1", "line 1, byte 2: what stands there is no JSON");
+    row("something behind", expertFile + "x", "line 38, byte 838: what stands there is no JSON");
+    row("comma missing", changed("2,\n", "2\n"), "line 6, byte 74: what stands there is no JSON");
+    row("no UTF-8", changed("gsk", "\xFFsk"), "line 5, byte 55: what stands there is no JSON");
+    row("no object", "[1]", "it is no object");
+    row("no format", "{}", "its \"format\" is not 1");
+    row("another format", changed("\"format\": 1", "\"format\": 2"), "its \"format\" is not 1");
+    row("format as text", changed("\"format\": 1", "\"format\": \"1\""), "its \"format\" is not 1");
+    row("another unit", changed("\"camera\"", "\"lens\""), "it has no place for \"lens\"");
+    row("no unit", changed("\"format\": 1,", "\"format\": 1, \"blendUnit\": 0,"),
+        "\"blendUnit\" is no object");
+    row("another set", changed("\"expert\"", "\"factory\""), "\"camera\" has no set \"factory\"");
+    row("no set", R"({"format": 1, "camera": {"user": null}})", "\"camera.user\" is no object");
+    row("unknown value", changed("\"gsk\"", "\"gsq\""), "\"camera.expert\" has no value \"gsq\"");
+    row("value of the other set", changed("\"gsk\": 2", "\"gsk\": 2, \"gamma\": 65536"),
+        "\"camera.expert\" has no value \"gamma\"");
+    row("value that is never saved", changed("\"gsk\": 2", "\"gsk\": 2, \"userSaves\": 1"),
+        "\"camera.expert\" has no value \"userSaves\"");
+    row("missing value", changed("\"tint\": 10,", ""), "\"camera.expert.tint\" is missing");
+    row("text for a number", changed("\"tint\": 10", "\"tint\": \"10\""),
+        "\"camera.expert.tint\" is not an integer from 0 to 4294967295");
+    row("null for a number", changed("\"tint\": 10", "\"tint\": null"),
+        "\"camera.expert.tint\" is not an integer from 0 to 4294967295");
+    row("list for a number", changed("\"tint\": 10", "\"tint\": []"), "it is nested too deep");
+    row("fraction for an integer", changed("\"tint\": 10", "\"tint\": 10.5"),
+        "\"camera.expert.tint\" is not an integer from 0 to 4294967295");
+    row("negative for an unsigned", changed("\"tint\": 10", "\"tint\": -1"),
+        "\"camera.expert.tint\" is not an integer from 0 to 4294967295");
+    row("beyond 64 bits signed", changed("\"tint\": 10", "\"tint\": 18446744073709551615"),
+        "\"camera.expert.tint\" is not an integer from 0 to 4294967295");
+    row("beyond every number", changed("\"tint\": 10", "\"tint\": 1e999"), "one of its numbers is too large");
+    row("number for a bool", changed("\"bprEnable\": true", "\"bprEnable\": 2"),
+        "\"camera.expert.bprEnable\" is not true or false");
+    row("out of range", changed("\"visibleAgc.target\": 50", "\"visibleAgc.target\": 101"),
+        "\"camera.expert.visibleAgc.target\" is none of the values that the unit accepts");
+    row("double out of range", changed("\"warp0.a11\": 1.0", "\"warp0.a11\": 65537.0"),
+        "\"camera.expert.warp0.a11\" is none of the values that the unit accepts");
+    row("not in the list", replaced(userFile, "\"frameRate\": 60", "\"frameRate\": 61"),
+        "\"blendUnit.user.frameRate\" is none of the values that the unit accepts");
+    row("too long", QByteArray{(1 << 20) + 1, ' '}, "it has more than 1048576 bytes");
+}
+
+void SimulatorMemoryTest::damageIsNamed()
+{
+    QFETCH(const QByteArray, bytes);
+    QFETCH(const QString, damage);
+    QCOMPARE(damageOf(bytes), damage);
+}
+
+void SimulatorMemoryTest::cutFileIsRefused()
+{
+    // The line feed at the end may be missing.
+    for (int length{0}; length < userFile.size() - 1; ++length) {
+        QVERIFY2(!damageOf(userFile.left(length)).isEmpty(), qPrintable(QString::number(length)));
+    }
+}
+
+void SimulatorMemoryTest::anyChangedByteIsBorne()
+{
+    int accepted{0};
+    for (int place{0}; place < expertFile.size(); ++place) {
+        for (int byte{0}; byte < 256; byte += 17) {
+            QByteArray bytes = expertFile;
+            bytes[place] = static_cast<char>(byte);
+            const auto parsed = parse(bytes);
+            if (const auto *const image = std::get_if<MemoryImage>(&parsed)) {
+                ++accepted;
+                const auto again = parseMemory(formatMemory(*image));
+                QVERIFY(std::get<MemoryImage>(again).units == image->units);
+            }
+        }
+    }
+    // A digit for a digit and white space for white space make another whole file.
+    QVERIFY2(accepted > 100 && accepted < 2'000, qPrintable(QString::number(accepted)));
+}
+
+void SimulatorMemoryTest::deepNestingIsRefused_data()
+{
+    QTest::addColumn<QByteArray>("opening");
+    QTest::addColumn<QByteArray>("closing");
+    QTest::addRow("lists") << QByteArray{"["} << QByteArray{"]"};
+    QTest::addRow("objects") << QByteArray{"{\"a\":"} << QByteArray{"}"};
+}
+
+void SimulatorMemoryTest::deepNestingIsRefused()
+{
+    QFETCH(const QByteArray, opening);
+    QFETCH(const QByteArray, closing);
+    const int depth{(1 << 20) / (opening.size() + closing.size()) - 1};
+    const QByteArray whole = opening.repeated(depth) + '1' + closing.repeated(depth);
+    QCOMPARE(damageOf(whole), QStringLiteral("it is nested too deep"));
+    const QByteArray inAUnit = "{\"format\": 1, \"camera\": {\"user\": {\"gsk\": {}}}}";
+    QCOMPARE(damageOf(inAUnit), QStringLiteral("it is nested too deep"));
+}
+
+void SimulatorMemoryTest::damagedFileIsLeftAlone_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("reason");
+    QTest::addRow("cut") << userFile.left(40) << "line 4, byte 41: what stands there is no JSON";
+    QTest::addRow("second set damaged") << replaced(expertFile, "\"gsk\": 2", "\"gsk\": -2")
+                                        << "\"camera.expert.gsk\" is not an integer from 0 to 4294967295";
+}
+
+void SimulatorMemoryTest::damagedFileIsLeftAlone()
+{
+    QFETCH(const QByteArray, content);
+    QFETCH(const QString, reason);
+    simulation().reset();
+    const std::map<std::string, Value> untouched = everyValue();
+    QVERIFY(write(name, content));
+    const PoweredOn unit{name};
+    QCOMPARE(unit.complaint, "the memory file \"" + name + "\" cannot be used: " + reason +
+                                 "; repair it, or delete it to begin with an empty memory.");
+    QVERIFY(everyValue() == untouched);
+    QVERIFY(!unit.device->saveBlendUnitParameters(0));
+    QCOMPARE(contentOf(name), content);
+}
+
+void SimulatorMemoryTest::interruptedSaveLeavesTheOldSet()
+{
+    QVERIFY(write(name, userFile));
+    const QByteArray next = replaced(userFile, "\"gamma\": 65536", "\"gamma\": 40000");
+    const QString temporary = QString::fromStdString(temporaryNameFor(name.toStdString()));
+    for (int length{0}; length <= next.size(); ++length) {
+        QVERIFY(write(temporary, next.left(length)));
+        const PoweredOn unit{name};
+        QCOMPARE(unit.complaint, QString{});
+        QCOMPARE(unit.device->getGamma(), 65'536U);
+    }
+    {
+        const PoweredOn unit{name};
+        QVERIFY(unit.device->setGamma(40'000));
+        QVERIFY(unit.device->saveBlendUnitParameters(0));
+    }
+    QCOMPARE(contentOf(name), next);
+    QVERIFY(!QFile::exists(temporary));
+}
+
+void SimulatorMemoryTest::killedProgramLeavesAWholeFile()
+{
+    std::int64_t latest{0};
+    for (int run{0}; run < 8; ++run) {
+        const QByteArray before = contentOf(name);
+        QProcess writer;
+        writer.start(QStringLiteral(MEMORY_WRITER), {name});
+        QTRY_VERIFY(contentOf(name) != before);
+        // Another place in the middle of a save each time.
+        QTest::qWait(5 + 3 * run);
+        QCOMPARE(writer.state(), QProcess::Running);
+        writer.kill();
+        QVERIFY(writer.waitForFinished());
+        const PoweredOn unit{name};
+        QCOMPARE(unit.complaint, QString{});
+        latest = unit.device->getClhe();
+        QCOMPARE(unit.device->getGamma(), 40'000U + static_cast<std::uint32_t>(latest));
+    }
+    QVERIFY(latest > 0);
+}
+
+void SimulatorMemoryTest::failedSaveIsTold()
+{
+    const QString log = directory.filePath("records.log");
+    const QString unreachable = directory.filePath("missing/memory.json");
+    qputenv("VELTRIX_SIMULATOR_LOG", log.toLocal8Bit());
+    const PoweredOn unit{unreachable};
+    QCOMPARE(unit.complaint, QString{});
+    const bool saved{unit.device->saveBlendUnitParameters(0)};
+    qunsetenv("VELTRIX_SIMULATOR_LOG");
+    QVERIFY(!saved);
+    QVERIFY(unit.get("blendUnit.userSaves") == Value{std::int64_t{0}});
+    const QString line = QString::fromUtf8(contentOf(log));
+    QCOMPARE(line.mid(line.indexOf(' ') + 1), "warning: The parameters are not saved: the file \"" +
+                                                  unreachable + ".tmp\" cannot be written\n");
+}
+
+void SimulatorMemoryTest::valueThatNoUnitAcceptsIsNotSaved()
+{
+    QVERIFY(write(name, userFile));
+    PoweredOn unit{name};
+    unit.set("blendUnit.zoom.factor", std::numeric_limits<double>::quiet_NaN());
+    QVERIFY(!unit.device->saveBlendUnitParameters(0));
+    QCOMPARE(contentOf(name), userFile);
+    QVERIFY(unit.device->saveBlendUnitParameters(1));
+    QCOMPARE(damageOf(contentOf(name)), QString{});
+}
+
+QTEST_GUILESS_MAIN(SimulatorMemoryTest)
+#include "tst_simulator_memory.moc"
