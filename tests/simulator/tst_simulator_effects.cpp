@@ -283,7 +283,7 @@ void SimulatorEffectsTest::wrongWithoutARangeIsNear_data()
     row("largest 32-bit number", 4294967295.0, Kind::Unsigned32, 429496730);
     row("smallest signed number", -2147483648.0, Kind::Signed32, 214748365);
     row("temperature", 296650, Kind::Float, 29665);
-    row("largest float", double{std::numeric_limits<float>::max()}, Kind::Float, 3.5e37);
+    row("largest float", static_cast<double>(std::numeric_limits<float>::max()), Kind::Float, 3.5e37);
     row("largest double", std::numeric_limits<double>::max(), Kind::Double, 1.8e307);
     row("infinity", infinity, Kind::Double, infinity);
     row("not a number", std::numeric_limits<double>::quiet_NaN(), Kind::Float, infinity);

@@ -117,7 +117,7 @@ void SimulatorLifeTest::driftEndsAtWhatTheKindHolds_data()
     row("camera.identity", 300, 255);
     row("camera.identity", -5, 0);
     row("camera.serialNumber", 1e300, 4294967295.0);
-    row(sensorKey, 1e300, double{std::numeric_limits<float>::max()});
+    row(sensorKey, 1e300, static_cast<double>(std::numeric_limits<float>::max()));
     row("blendUnit.warp0.a11", -2.5, -2.5);
 }
 
