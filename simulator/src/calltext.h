@@ -213,7 +213,9 @@ public:
     {
         if (record == nullptr) {
             sink.argument(nullptr);
-        } else if constexpr (std::is_const_v<Record>) {
+            return;
+        }
+        if constexpr (std::is_const_v<Record>) {
             sink.argument(*record);
         } else if constexpr (std::is_same_v<Record, veltrix_sdk::Warp>) {
             sink.argument(record->stream);

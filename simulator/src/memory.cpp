@@ -10,7 +10,6 @@
 #include <fstream>
 #include <ios>
 #include <system_error>
-#include <utility>
 #include <variant>
 
 namespace veltrix_simulator
@@ -93,7 +92,7 @@ bool Memory::save(const State &state, Saved set, LogOutput &log)
     if (const auto problem = replaceFile(fileName, formatMemory(changed))) {
         return refuse(*problem);
     }
-    image = std::move(changed);
+    image = changed;
     return true;
 }
 
