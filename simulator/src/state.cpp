@@ -42,7 +42,7 @@ std::optional<std::string_view> without(std::string_view prefix, std::string_vie
     return key.substr(0, prefix.size()) == prefix ? std::optional{key.substr(prefix.size())} : std::nullopt;
 }
 
-Place placeOf(std::string_view key)
+std::optional<Place> findPlace(std::string_view key)
 {
     for (std::size_t target{0}; target < unitPrefixes.size(); ++target) {
         const auto name = without(unitPrefixes[target], key);
@@ -60,6 +60,14 @@ Place placeOf(std::string_view key)
         if (*name == communicationTypeKey) {
             return CommunicationTypePlace{};
         }
+    }
+    return std::nullopt;
+}
+
+Place placeOf(std::string_view key)
+{
+    if (const std::optional<Place> place = findPlace(key)) {
+        return *place;
     }
     throw std::invalid_argument{"no value of the simulator has the key \"" + std::string{key} + '"'};
 }
@@ -176,6 +184,12 @@ std::vector<std::string> State::keys()
     append(configurationPrefix, configurationWords);
     keys.emplace_back(configurationPrefix).append(communicationTypeKey);
     return keys;
+}
+
+std::optional<Kind> State::kindOf(std::string_view key)
+{
+    const std::optional<Place> place = findPlace(key);
+    return place ? std::optional{veltrix_simulator::kindOf(*place)} : std::nullopt;
 }
 
 } // namespace veltrix_simulator

@@ -8,6 +8,7 @@
 #include "unitfields.h"
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -64,6 +65,8 @@ public:
     void set(std::string_view key, const Value &value);
     Value get(std::string_view key) const;
     static std::vector<std::string> keys();
+    /// What the value of a key is; nothing when there is no such key.
+    static std::optional<Kind> kindOf(std::string_view key);
 
     int target{0}; ///< 0 the Blend Unit, 1 the camera.
     bool deviceOpen{false};
