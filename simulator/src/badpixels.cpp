@@ -87,6 +87,15 @@ void BadPixelMemory::declareFactoryPixels()
     }
 }
 
+bool BadPixelMemory::declareInUnit(std::uint32_t column, std::uint32_t row)
+{
+    const bool isOnSensor{column < sensorColumns && row < sensorRows};
+    if (isOnSensor) {
+        unit.set(pixelAt(column, row));
+    }
+    return isOnSensor;
+}
+
 bool BadPixelMemory::read(std::uint32_t serialNumber, LogOutput &log)
 {
     if (!save(unit, serialNumber, log)) {

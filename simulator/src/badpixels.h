@@ -22,6 +22,9 @@ public:
     /// The bad pixels that the unit left the factory with.
     void declareFactoryPixels();
 
+    /// Declares a pixel in the unit's own table; false outside the sensor.
+    bool declareInUnit(std::uint32_t column, std::uint32_t row);
+
     /// Copies the unit's table into the local table and its file; false when the file cannot be written.
     bool read(std::uint32_t serialNumber, LogOutput &log);
 

@@ -9,6 +9,7 @@
 
 #include <charconv>
 #include <cstddef>
+#include <limits>
 #include <string>
 #include <string_view>
 #include <tuple>
@@ -87,6 +88,35 @@ template <typename Record>
 std::enable_if_t<isRecord<Record>, bool> isPresent(Record *const &record)
 {
     return record != nullptr;
+}
+
+/// Appends the numbers that a parameter brings into the call, NaN in the place of a text.
+template <typename T>
+void appendNumbers(std::vector<double> &numbers, const T &input)
+{
+    if constexpr (std::is_arithmetic_v<T>) {
+        numbers.push_back(static_cast<double>(input));
+    } else if constexpr (std::is_same_v<T, const char *> || std::is_same_v<T, std::string_view>) {
+        numbers.push_back(std::numeric_limits<double>::quiet_NaN());
+    }
+}
+
+template <typename T>
+void appendNumbers(std::vector<double> & /*numbers*/, const Out<T> & /*out*/)
+{}
+
+template <typename Record>
+std::enable_if_t<isRecord<Record>> appendNumbers(std::vector<double> &numbers, Record *const &record)
+{
+    if (record == nullptr) {
+        return;
+    }
+    if constexpr (std::is_const_v<Record>) {
+        forEachField(*record,
+                     [&](const char * /*name*/, const auto &field) { appendNumbers(numbers, field); });
+    } else if constexpr (std::is_same_v<Record, veltrix_sdk::Warp>) {
+        appendNumbers(numbers, record->stream);
+    }
 }
 
 /// Hands the values of a fault's answer, converted when it was added, to what a call returns.

@@ -134,7 +134,7 @@ public:
     void setBaudRate(std::int32_t baudRate) override
     {
         call(
-            __func__, [&] { state[ConfigurationField::baudRate] = baudRate; }, baudRate);
+            __func__, [&] { state.setBaudRate(baudRate); }, baudRate);
     }
 
 private:

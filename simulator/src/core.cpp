@@ -3,6 +3,7 @@
 // The one place that every call of the contract passes.
 #include "core.h"
 
+#include <chrono>
 #include <cstddef>
 
 namespace veltrix_simulator
@@ -15,12 +16,29 @@ constexpr std::ptrdiff_t journalCapacity{200'000};
 
 } // namespace
 
-void Core::reset()
+void Core::start(const Scenario &scenario)
 {
     journal.clear();
     journalEnabled = true;
     callsWhileNotOpen = 0;
-    faults.clear();
+    link = LinkTime{scenario.link, scenario.seed};
+    unitTime = UnitTime{scenario.life};
+    rules.start(scenario.seed);
+    for (const Rule &rule : scenario.rules) {
+        rules.add(rule);
+    }
+}
+
+void Core::passTime()
+{
+    const std::chrono::microseconds onLink = link.next(state.linkBaudRate());
+    pause(onLink);
+    unitTime.pass(onLink, state);
+}
+
+std::optional<Hit> Core::hitOf(const char *operation)
+{
+    return rules.match(operation, state.target, numbers);
 }
 
 void Core::forgetOldest()

@@ -4,10 +4,14 @@
 #pragma once
 
 #include "calltext.h"
-#include "faults.h"
+#include "disturbance.h"
+#include "life.h"
+#include "link.h"
+#include "rules.h"
 #include "state.h"
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <type_traits>
 #include <utility>
@@ -16,18 +20,20 @@
 namespace veltrix_simulator
 {
 
-/// Counts the calls, applies the faults and keeps the journal, for all operations alike.
+/// Counts the calls, lets the time of the link and of the units pass, applies the rules and keeps the
+/// journal, for all operations alike.
 class Core
 {
 public:
     Core(State &itsState, Objects itsObjects) : state{itsState}, objects{std::move(itsObjects)} {}
 
-    /// Power-on: an empty journal, switched on, and no faults.
-    void reset();
+    /// Power-on: an empty journal, switched on, and the scenario's link, life and rules. Throws
+    /// std::invalid_argument when one of them cannot be played.
+    void start(const Scenario &scenario);
 
     /// Runs one operation. The parameters are the operation's own, in order, an out-parameter that is a
     /// number as Out. The action does the work; it runs only when the call reaches what it was made on,
-    /// nothing is null that must not be and no fault is in the way. What it has to fill in is zero before.
+    /// nothing is null that must not be and no rule is in the way. What it has to fill in is zero before.
     template <typename Action, typename... Parameters>
     std::invoke_result_t<Action> call(Interface interface, const char *operation, const Action &action,
                                       const Parameters &...parameters)
@@ -40,27 +46,38 @@ public:
 
         const int target{state.target};
         const bool reachable{interface != Interface::Device || state.deviceOpen};
-        const Fault *const fault{reachable ? faults.match(interface, operation) : nullptr};
+        const bool answering{reachable && (interface != Interface::Device || deviceAnswers())};
         callsWhileNotOpen += reachable ? 0 : 1;
 
-        const bool leavesOutputs{fault != nullptr && fault->leavesOutputs};
+        std::optional<Hit> hit;
+        if (answering && !rules.isEmpty()) {
+            numbers.clear();
+            (appendNumbers(numbers, parameters), ...);
+            hit = hitOf(operation);
+        }
+        const bool leavesOutputs{hit && hit->leavesOutputs};
         if (!leavesOutputs) {
             (clear(parameters), ...);
         }
         Result result{zero<Result>()};
-        if (reachable && (isPresent(parameters) && ...)) {
-            if (fault == nullptr) {
+        if (answering && (isPresent(parameters) && ...)) {
+            const auto work = [&] {
                 if constexpr (std::is_void_v<ActionResult>) {
                     action();
                 } else {
                     result = action();
                 }
-            } else if (fault->answer) {
-                AnswerReader reader{*fault->answer, objects, heldText};
+            };
+            if (!hit) {
+                work();
+            } else if (hit->answer) {
+                AnswerReader reader{*hit->answer, objects, heldText};
                 reader.takeResult(result);
                 if (!leavesOutputs) {
                     (reader.take(parameters), ...);
                 }
+            } else if (const Disturbance disturbance{state, *hit}; disturbance.letsWork()) {
+                work();
             }
         }
 
@@ -81,9 +98,24 @@ public:
     std::vector<Call> journal;
     bool journalEnabled{true};
     std::size_t callsWhileNotOpen{0};
-    Faults faults;
+    Rules rules;
 
 private:
+    /// Lets the time of one device call pass; whether the device that is open answers it then.
+    bool deviceAnswers()
+    {
+        if (state.cableOut) {
+            return false;
+        }
+        if (link.passes() || unitTime.passes()) {
+            passTime();
+        }
+        return !state.silent;
+    }
+    void passTime();
+
+    std::optional<Hit> hitOf(const char *operation);
+
     /// A program that runs for days never takes its journal.
     void forgetOldest();
 
@@ -100,8 +132,11 @@ private:
 
     State &state;
     const Objects objects;
-    std::string line;     ///< Text of the latest call; kept for its storage.
-    std::string heldText; ///< Text that the latest answer handed out.
+    LinkTime link{{}, 0};
+    UnitTime unitTime{{}};
+    std::vector<double> numbers; ///< Those that the latest call brought; kept for their storage.
+    std::string line;            ///< Text of the latest call; kept for its storage.
+    std::string heldText;        ///< Text that the latest answer handed out.
 };
 
 } // namespace veltrix_simulator

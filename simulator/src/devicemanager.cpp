@@ -3,6 +3,8 @@
 // The simulated device manager.
 #include "devicemanager.h"
 
+#include "link.h"
+
 #include <algorithm>
 #include <cstdint>
 
@@ -12,11 +14,15 @@ namespace veltrix_simulator
 veltrix_sdk::IDeviceControl *SimulatedDeviceManager::openDevice(const char *portName)
 {
     const auto open = [&]() -> veltrix_sdk::IDeviceControl * {
-        if (state.deviceOpen || !isPort(portName)) {
+        const Port *const port = findPort(portName);
+        if (state.deviceOpen || port == nullptr) {
             return nullptr;
         }
-        state.deviceOpen = true;
-        state.target = 0;
+        pause(port->delay);
+        if (port->opening == Port::Opening::Refused) {
+            return nullptr;
+        }
+        state.open(port->opening == Port::Opening::Silent);
         return &device;
     };
     return core.call(Interface::Manager, __func__, open, portName);
@@ -36,9 +42,14 @@ void SimulatedDeviceManager::closeDevice(veltrix_sdk::IDeviceControl *closed)
     core.call(Interface::Manager, __func__, close, closed);
 }
 
-bool SimulatedDeviceManager::isPort(const char *name) const
+const Port *SimulatedDeviceManager::findPort(const char *name) const
 {
-    return name != nullptr && std::find(state.ports.begin(), state.ports.end(), name) != state.ports.end();
+    if (name == nullptr) {
+        return nullptr;
+    }
+    const auto found = std::find_if(state.ports.begin(), state.ports.end(),
+                                    [&](const Port &port) { return port.name == name; });
+    return found == state.ports.end() ? nullptr : &*found;
 }
 
 } // namespace veltrix_simulator

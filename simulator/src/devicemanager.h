@@ -25,7 +25,7 @@ public:
     void closeDevice(veltrix_sdk::IDeviceControl *closed) override;
 
 private:
-    bool isPort(const char *name) const;
+    const Port *findPort(const char *name) const;
 
     Core &core;
     State &state;

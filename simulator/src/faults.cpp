@@ -1,77 +1,46 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// The faults that tests have added, matched in one place.
+// The faults that tests add, as rules.
 #include "faults.h"
 
 #include "operations.h"
 
-#include <algorithm>
-#include <optional>
 #include <stdexcept>
-#include <string>
 #include <utility>
 
 namespace veltrix_simulator
 {
-namespace
-{
 
-/// The answer as the operation holds it.
-std::vector<Value> convertAnswer(const Operation &operation, const std::vector<Value> &answer,
-                                 bool resultAlone)
+Rule ruleOf(Fault fault)
 {
-    const std::string name{operation.name};
-    const std::size_t expected{resultAlone ? std::min<std::size_t>(operation.answer.size(), 1)
-                                           : operation.answer.size()};
-    if (answer.size() != expected) {
-        throw std::invalid_argument{"an answer of \"" + name + "\" has " + std::to_string(expected) +
-                                    " values, not " + std::to_string(answer.size())};
-    }
-    std::vector<Value> converted;
-    for (std::size_t place{0}; place < answer.size(); ++place) {
-        std::optional<Value> value = convert(answer[place], operation.answer[place]);
-        if (!value) {
-            throw std::invalid_argument{"value " + std::to_string(place + 1) + " of an answer of \"" + name +
-                                        "\" is " + std::string{describe(operation.answer[place])}};
+    Rule rule;
+    rule.from = fault.from;
+    rule.times = fault.times;
+    rule.leavesOutputs = fault.leavesOutputs;
+    if (fault.operation.empty()) {
+        if (fault.answer) {
+            throw std::invalid_argument{
+                "an answer belongs to one operation; every operation can only be refused"};
         }
-        converted.push_back(*std::move(value));
+        for (const Operation *const operation : operationsMatching("*")) {
+            rule.operations.emplace_back(operation->name);
+        }
+        return rule;
     }
-    return converted;
-}
-
-} // namespace
-
-void Faults::add(Fault fault)
-{
     const Operation *const operation = findOperation(fault.operation);
-    if (operation == nullptr && !fault.operation.empty()) {
+    if (operation == nullptr) {
         throw std::invalid_argument{"the contract has no operation \"" + fault.operation + '"'};
     }
-    if (fault.answer && operation == nullptr) {
-        throw std::invalid_argument{
-            "an answer belongs to one operation; every operation can only be refused"};
+    // Where nothing is answered, to refuse is to do nothing, with nothing for an answer.
+    if (!fault.answer && operation->answer.empty()) {
+        fault.answer.emplace();
     }
     if (fault.answer) {
-        fault.answer = convertAnswer(*operation, *fault.answer, fault.leavesOutputs);
+        rule.effect = Effect::Answer;
+        rule.answer = *std::move(fault.answer);
     }
-    fault.from = std::max<std::size_t>(fault.from, 1);
-    active.push_back({std::move(fault)});
-}
-
-const Fault *Faults::matchAny(Interface interface, std::string_view operation)
-{
-    const Fault *hit{nullptr};
-    for (Counted &counted : active) {
-        const Fault &fault = counted.fault;
-        if (fault.operation.empty() ? interface != Interface::Device : fault.operation != operation) {
-            continue;
-        }
-        ++counted.seen;
-        if (counted.seen >= fault.from && (fault.times == 0 || counted.seen - fault.from < fault.times)) {
-            hit = &fault;
-        }
-    }
-    return hit;
+    rule.operations.push_back(std::move(fault.operation));
+    return rule;
 }
 
 } // namespace veltrix_simulator

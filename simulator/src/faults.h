@@ -1,40 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// The faults that tests have added, matched in one place.
+// The faults that tests add, as rules.
 #pragma once
 
-#include "veltrix_simulator/simulator.h"
-
-#include <cstddef>
-#include <string_view>
-#include <vector>
+#include "rule.h"
 
 namespace veltrix_simulator
 {
 
-class Faults
-{
-public:
-    /// As Simulator::addFault().
-    void add(Fault fault);
-    void clear() { active.clear(); }
-
-    /// Counts one call and returns the fault that hits it; null when none does.
-    const Fault *match(Interface interface, std::string_view operation)
-    {
-        return active.empty() ? nullptr : matchAny(interface, operation);
-    }
-
-private:
-    struct Counted
-    {
-        Fault fault;
-        std::size_t seen{0};
-    };
-
-    const Fault *matchAny(Interface interface, std::string_view operation);
-
-    std::vector<Counted> active;
-};
+/// The rule that a fault stands for. Throws std::invalid_argument when there is no such operation, or
+/// an answer for all of them.
+Rule ruleOf(Fault fault);
 
 } // namespace veltrix_simulator

@@ -8,6 +8,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <utility>
 
 namespace veltrix_simulator
 {
@@ -26,6 +27,9 @@ struct Allowed
     Word minimumWord{nullptr};
     Word maximumWord{nullptr};
     bool anything{false};
+
+    /// Its ends, where it is one.
+    std::pair<double, double> interval(const Words &words) const;
 
     /// NaN is accepted only where everything is.
     bool accepts(double number, const Words &words) const;

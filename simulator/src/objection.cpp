@@ -5,8 +5,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <optional>
-#include <utility>
 
 namespace veltrix_simulator
 {
@@ -120,18 +118,6 @@ std::string objection(const Rule &rule, const Operation &operation)
     std::string found = rule.effect == Effect::Answer ? objectionToAnswer(rule, operation)
                                                       : objectionToEffect(rule, operation);
     return found.empty() ? objectionToTrigger(rule, operation) : found;
-}
-
-std::vector<Value> convertedAnswer(const Rule &rule, const Operation &operation)
-{
-    std::vector<Value> converted;
-    for (std::size_t place{0}; place < rule.answer.size(); ++place) {
-        std::optional<Value> value = convert(rule.answer[place], operation.answer[place]);
-        if (value) {
-            converted.push_back(*std::move(value));
-        }
-    }
-    return converted;
 }
 
 } // namespace veltrix_simulator

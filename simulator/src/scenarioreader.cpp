@@ -18,7 +18,6 @@ namespace veltrix_simulator
 namespace
 {
 
-constexpr std::size_t largestFile{std::size_t{256} * 1024};
 // Keys with dots nest as deeply as a line is long.
 constexpr std::size_t longestLine{512};
 constexpr std::size_t mostEntries{256};
@@ -242,7 +241,7 @@ constexpr Setting<Scenario> scenarioSettings[]{
 /// What of the text does not even get to the parser.
 std::optional<ScenarioError> objectionToSize(std::string_view text, const std::string &fileName)
 {
-    if (text.size() > largestFile) {
+    if (text.size() > largestScenario) {
         return ScenarioError{fileName, 1, 1, {}, "a scenario is not larger than 256 KiB"};
     }
     std::size_t line{1};

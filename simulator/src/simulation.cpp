@@ -3,7 +3,13 @@
 // The simulated SDK as a whole: its root object and everything behind it.
 #include "simulation.h"
 
+#include "scenariolibrary.h"
+
+#include <cstdlib>
+#include <iostream>
+#include <stdexcept>
 #include <string>
+#include <variant>
 
 namespace veltrix_simulator
 {
@@ -36,13 +42,82 @@ void SimulatedSdk::releaseDeviceManager(veltrix_sdk::IDeviceManager **released)
 
 Simulation::Simulation()
 {
-    reset();
+    const std::variant<Scenario, std::string> chosen = chosenScenario();
+    try {
+        if (const auto *const reason = std::get_if<std::string>(&chosen)) {
+            throw std::invalid_argument{*reason};
+        }
+        start(std::get<Scenario>(chosen));
+    } catch (const std::invalid_argument &error) {
+        refuseToOpen(error.what());
+    }
+}
+
+// Another scenario than the one that was asked for would look like it.
+void Simulation::refuseToOpen(const char *reason)
+{
+    log.write(veltrix_sdk::severity_error, reason);
+    std::cerr << "veltrix.sdk: " << reason << '\n' << std::flush;
+    Scenario broken;
+    for (Port &port : broken.ports) {
+        port.opening = Port::Opening::Refused;
+    }
+    powerOn(broken);
+}
+
+void Simulation::start(const Scenario &scenario)
+{
+    try {
+        powerOn(scenario);
+    } catch (const std::invalid_argument &) {
+        reset();
+        throw;
+    }
+    if (!scenario.rules.empty()) {
+        static const bool isAnnounced{std::atexit([] { simulation().reportUnfired(); }) == 0};
+        static_cast<void>(isAnnounced);
+    }
 }
 
 void Simulation::reset()
 {
+    powerOn({});
+}
+
+void Simulation::powerOn(const Scenario &scenario)
+{
     state.reset();
-    core.reset();
+    core.start(scenario);
+    state.ports = scenario.ports;
+    for (const auto &[key, value] : scenario.values) {
+        state.set(key, value);
+    }
+    for (const int target : scenario.unitsWithPixels) {
+        badPixelsOf(target) = {};
+    }
+    for (const PixelPlace &pixel : scenario.badPixels) {
+        if (!badPixelsOf(pixel.target).declareInUnit(pixel.column, pixel.row)) {
+            throw std::invalid_argument{"the sensor has no pixel in column " + std::to_string(pixel.column) +
+                                        " of row " + std::to_string(pixel.row)};
+        }
+    }
+}
+
+BadPixelMemory &Simulation::badPixelsOf(int target)
+{
+    if (target != 0 && target != 1) {
+        throw std::invalid_argument{"there is no unit " + std::to_string(target) + ", only 0 and 1"};
+    }
+    return state.units[static_cast<std::size_t>(target)].badPixels;
+}
+
+void Simulation::reportUnfired()
+{
+    for (const std::string &origin : core.rules.unfired()) {
+        const std::string report = origin + ": this fault never happened";
+        log.write(veltrix_sdk::severity_warning, report);
+        std::cerr << "veltrix.sdk simulator: " << report << '\n' << std::flush;
+    }
 }
 
 veltrix_sdk::IVeltrixSdk *Simulation::root()
@@ -59,8 +134,8 @@ void Simulation::completeRecord(veltrix_sdk::severity_level severity, std::strin
 const char *const *Simulation::portNames()
 {
     names.clear();
-    for (const std::string &port : state.ports) {
-        names.push_back(port.c_str());
+    for (const Port &port : state.ports) {
+        names.push_back(port.name.c_str());
     }
     names.push_back(nullptr);
     return names.data();

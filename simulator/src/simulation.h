@@ -8,6 +8,7 @@
 #include "device.h"
 #include "devicemanager.h"
 #include "logoutput.h"
+#include "scenario.h"
 #include "state.h"
 #include "veltrix_sdk/sdk.h"
 
@@ -41,15 +42,23 @@ private:
 /// state and the core, which stand behind them because they need the objects' words and addresses.
 struct Simulation
 {
+    /// Power-on with the scenario that the environment chooses.
     Simulation();
     Simulation(const Simulation &) = delete;
     Simulation &operator=(const Simulation &) = delete;
 
+    /// Power-on with what the scenario settles. Throws std::invalid_argument, with the default scenario in
+    /// its place, when it cannot be played.
+    void start(const Scenario &scenario);
+    /// Power-on with the default scenario.
     void reset();
     veltrix_sdk::IVeltrixSdk *root();
     void completeRecord(veltrix_sdk::severity_level severity, std::string_view text);
     /// The names of the ports, null-terminated; valid until the next call.
     const char *const *portNames();
+
+    /// Tells of the faults that never happened.
+    void reportUnfired();
 
     LogOutput log;
     SimulatedConfiguration configuration{core, state};
@@ -59,6 +68,12 @@ struct Simulation
     State state{configuration.words};
     Core core{state, {&sdk, &configuration, &manager, &device}};
     std::vector<const char *> names; ///< What portNames() returned last.
+
+private:
+    void powerOn(const Scenario &scenario);
+    /// Says why, once; then the ports are there and no device opens.
+    void refuseToOpen(const char *reason);
+    BadPixelMemory &badPixelsOf(int target);
 };
 
 /// The simulation of this process. It is never destroyed: objects that outlive main() may still log.

@@ -3,9 +3,13 @@
 // The simulator's own interface, on top of the simulation.
 #include "veltrix_simulator/simulator.h"
 
+#include "faults.h"
+#include "scenariolibrary.h"
 #include "simulation.h"
 
+#include <stdexcept>
 #include <utility>
+#include <variant>
 
 namespace veltrix_simulator
 {
@@ -32,6 +36,15 @@ Simulator &Simulator::instance()
 void Simulator::reset()
 {
     impl->simulation.reset();
+}
+
+void Simulator::loadScenario(const std::string &nameOrPath)
+{
+    const std::variant<Scenario, std::string> found = findScenario(nameOrPath);
+    if (const auto *const reason = std::get_if<std::string>(&found)) {
+        throw std::invalid_argument{*reason};
+    }
+    impl->simulation.start(std::get<Scenario>(found));
 }
 
 const std::vector<Call> &Simulator::journal() const
@@ -76,17 +89,25 @@ std::vector<std::string> Simulator::keys() const
 
 void Simulator::setPorts(std::vector<std::string> ports)
 {
-    impl->simulation.state.ports = std::move(ports);
+    impl->simulation.state.ports.clear();
+    for (std::string &name : ports) {
+        impl->simulation.state.ports.push_back({std::move(name)});
+    }
 }
 
 void Simulator::addFault(Fault fault)
 {
-    impl->simulation.core.faults.add(std::move(fault));
+    impl->simulation.core.rules.add(ruleOf(std::move(fault)));
 }
 
 void Simulator::clearFaults()
 {
-    impl->simulation.core.faults.clear();
+    impl->simulation.core.rules.clear();
+}
+
+std::vector<std::string> Simulator::unfiredFaults() const
+{
+    return impl->simulation.core.rules.unfired();
 }
 
 } // namespace veltrix_simulator

@@ -18,11 +18,6 @@ constexpr std::string_view configurationPrefix{"configuration."};
 constexpr std::string_view communicationTypeKey{"communicationType"};
 
 /// Where a key leads.
-struct UnitPlace
-{
-    std::size_t target;
-    Field field;
-};
 struct CommunicationTypePlace
 {
 };
@@ -86,6 +81,12 @@ Kind kindOf(const Place &place)
 
 } // namespace
 
+std::pair<double, double> Allowed::interval(const Words &words) const
+{
+    return {minimumWord != nullptr ? words.*minimumWord : minimum,
+            maximumWord != nullptr ? words.*maximumWord : maximum};
+}
+
 bool Allowed::accepts(double number, const Words &words) const
 {
     if (anything) {
@@ -94,8 +95,7 @@ bool Allowed::accepts(double number, const Words &words) const
     if (listed != nullptr) {
         return std::find(listed, listed + listLength, number) != listed + listLength;
     }
-    const double lowest = minimumWord != nullptr ? words.*minimumWord : minimum;
-    const double highest = maximumWord != nullptr ? words.*maximumWord : maximum;
+    const auto [lowest, highest] = interval(words);
     return number >= lowest && number <= highest;
 }
 
@@ -103,7 +103,12 @@ void State::reset()
 {
     target = 0;
     deviceOpen = false;
-    ports = {"SIM1"};
+    silent = false;
+    cableOut = false;
+    storesAreLost = false;
+    lost.clear();
+    baudRateIsChosen = false;
+    ports = {{"SIM1"}};
     for (std::size_t unit{0}; unit < units.size(); ++unit) {
         std::transform(unitFields.begin(), unitFields.end(), units[unit].values.begin(),
                        [&](const UnitField &row) { return row.defaults[unit]; });
@@ -133,9 +138,16 @@ void State::set(std::string_view key, const Value &value)
         const Value &value;
         void operator()(const UnitPlace &unit) const
         {
-            state.units[unit.target][unit.field] = toNumber(value);
+            state[unit] = toNumber(value);
+            if (const auto found = state.findLost(unit); found != state.lost.end()) {
+                state.lost.erase(found);
+            }
         }
-        void operator()(ConfigurationField field) const { state[field] = toNumber(value); }
+        void operator()(ConfigurationField field) const
+        {
+            state[field] = toNumber(value);
+            state.baudRateIsChosen = state.baudRateIsChosen || field == ConfigurationField::baudRate;
+        }
         void operator()(Word word) const
         {
             state.words.*word = static_cast<std::int32_t>(std::get<std::int64_t>(value));
@@ -186,10 +198,65 @@ std::vector<std::string> State::keys()
     return keys;
 }
 
-std::optional<Kind> State::kindOf(std::string_view key)
+UnitPlace State::placeOfNumber(std::string_view key)
+{
+    const Place place = placeOf(key);
+    const auto *const unit = std::get_if<UnitPlace>(&place);
+    if (unit == nullptr || rowOf(unit->field).kind == Kind::Boolean) {
+        throw std::invalid_argument{'"' + std::string{key} + "\" is no number of a unit"};
+    }
+    return *unit;
+}
+
+void State::open(bool isSilent)
+{
+    target = 0;
+    deviceOpen = true;
+    silent = isSilent;
+    cableOut = false;
+    for (const Lost &each : lost) {
+        (*this)[each.place] = each.earlier;
+    }
+    lost.clear();
+}
+
+std::int32_t State::linkBaudRate() const
+{
+    const auto field = baudRateIsChosen ? ConfigurationField::baudRate : ConfigurationField::defaultBaudRate;
+    return static_cast<std::int32_t>(configuration[static_cast<std::size_t>(field)]);
+}
+
+void State::setBaudRate(std::int32_t baudRate)
+{
+    (*this)[ConfigurationField::baudRate] = baudRate;
+    baudRateIsChosen = true;
+}
+
+void State::put(Field field, double number)
+{
+    const UnitPlace place{static_cast<std::size_t>(target), field};
+    if (storesAreLost || !lost.empty()) {
+        const auto found = findLost(place);
+        if (storesAreLost && found == lost.end()) {
+            lost.push_back({place, (*this)[place]});
+        } else if (!storesAreLost && found != lost.end()) {
+            lost.erase(found);
+        }
+    }
+    (*this)[place] = number;
+}
+
+std::vector<State::Lost>::iterator State::findLost(const UnitPlace &place)
+{
+    return std::find_if(lost.begin(), lost.end(), [&](const Lost &each) {
+        return each.place.target == place.target && each.place.field == place.field;
+    });
+}
+
+std::optional<Kind> State::kindAt(std::string_view key)
 {
     const std::optional<Place> place = findPlace(key);
-    return place ? std::optional{veltrix_simulator::kindOf(*place)} : std::nullopt;
+    return place ? std::optional{kindOf(*place)} : std::nullopt;
 }
 
 } // namespace veltrix_simulator

@@ -5,6 +5,7 @@
 
 #include "badpixels.h"
 #include "configurationfields.h"
+#include "scenario.h"
 #include "unitfields.h"
 
 #include <array>
@@ -24,6 +25,13 @@ struct Unit
 
     double &operator[](Field field) { return values[static_cast<std::size_t>(field)]; }
     double operator[](Field field) const { return values[static_cast<std::size_t>(field)]; }
+};
+
+/// A value of a unit.
+struct UnitPlace
+{
+    std::size_t target;
+    Field field;
 };
 
 /// The state behind all objects of the contract.
@@ -55,7 +63,7 @@ public:
             return false;
         }
         std::size_t place{0};
-        ((addressed()[first + place++] = static_cast<double>(numbers)), ...);
+        (put(first + place++, static_cast<double>(numbers)), ...);
         return true;
     }
 
@@ -66,17 +74,46 @@ public:
     Value get(std::string_view key) const;
     static std::vector<std::string> keys();
     /// What the value of a key is; nothing when there is no such key.
-    static std::optional<Kind> kindOf(std::string_view key);
+    static std::optional<Kind> kindAt(std::string_view key);
+
+    /// Where a unit holds the number of this key. Throws std::invalid_argument when no unit has it or it is
+    /// a bool.
+    static UnitPlace placeOfNumber(std::string_view key);
+    double &operator[](const UnitPlace &place) { return units[place.target][place.field]; }
+
+    /// Power comes back and the device is open: the Blend Unit is addressed, and what only seemed to be
+    /// kept is as it was.
+    void open(bool isSilent);
+
+    /// Bits per second of the link: what was set last, else the default.
+    std::int32_t linkBaudRate() const;
+    void setBaudRate(std::int32_t baudRate);
 
     int target{0}; ///< 0 the Blend Unit, 1 the camera.
     bool deviceOpen{false};
+    bool silent{false};        ///< The device that is open never answers.
+    bool cableOut{false};      ///< Nothing reaches the device until it is opened again.
+    bool storesAreLost{false}; ///< What is stored now lasts until the device is opened again.
     std::array<Unit, 2> units{};
-    std::vector<std::string> ports;
+    std::array<double, configurationFields.size()> configuration{};
+    std::vector<Port> ports;
     std::string communicationType;
     veltrix_sdk::ConfigurationWords &words;
 
 private:
-    std::array<double, configurationFields.size()> configuration{};
+    /// What a value was before the stores that do not last.
+    struct Lost
+    {
+        UnitPlace place;
+        double earlier;
+    };
+
+    /// Stores a number of the addressed unit, for good or not.
+    void put(Field field, double number);
+    std::vector<Lost>::iterator findLost(const UnitPlace &place);
+
+    std::vector<Lost> lost;
+    bool baudRateIsChosen{false};
 };
 
 } // namespace veltrix_simulator

@@ -54,7 +54,7 @@ void readValues(const Entry &table, std::vector<std::string> known, Scenario &sc
         if (entry.lastKey() == badPixelsKey) {
             continue;
         }
-        if (const std::optional<Kind> kind = State::kindOf(entry.keyPath())) {
+        if (const std::optional<Kind> kind = State::kindAt(entry.keyPath())) {
             readValue(entry, *kind, scenario);
         } else {
             readValues(entry, keysBehind(entry.keyPath()), scenario);
@@ -100,7 +100,7 @@ Kind kindOfNumber(const Entry &entry)
     const std::string key = entry.text();
     std::vector<std::string> known;
     for (std::string &each : State::keys()) {
-        const std::optional<Kind> kind = State::kindOf(each);
+        const std::optional<Kind> kind = State::kindAt(each);
         if (each.compare(0, 14, "configuration.") != 0 && kind != Kind::Boolean) {
             known.push_back(std::move(each));
         }
@@ -108,7 +108,7 @@ Kind kindOfNumber(const Entry &entry)
     if (std::find(known.begin(), known.end(), key) == known.end()) {
         entry.fail("knows no number of a unit " + quoted(key) + suggestion(key, known));
     }
-    return *State::kindOf(key);
+    return *State::kindAt(key);
 }
 
 } // namespace veltrix_simulator

@@ -3,6 +3,7 @@
 // The kinds of value that cross the contract, and how a Value becomes one of them.
 #include "value.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <limits>
@@ -100,6 +101,23 @@ std::optional<Value> convert(const Value &value, Kind kind)
         return std::nullopt;
     }
     return value;
+}
+
+double fitted(double number, Kind kind)
+{
+    if (std::isnan(number)) {
+        return 0;
+    }
+    if (kind == Kind::Double) {
+        return number;
+    }
+    if (kind == Kind::Float) {
+        constexpr double largest{std::numeric_limits<float>::max()};
+        return double{static_cast<float>(std::clamp(number, -largest, largest))};
+    }
+    const auto minimum = static_cast<double>(rowOf(kind).minimum);
+    const auto maximum = static_cast<double>(rowOf(kind).maximum);
+    return std::round(std::clamp(number, minimum, maximum));
 }
 
 Value toValue(double number, Kind kind)

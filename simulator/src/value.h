@@ -72,6 +72,9 @@ std::string_view describe(Kind kind);
 /// Boolean, Float and Double when nothing is lost; Float rounds to its precision; NaN and infinities pass.
 std::optional<Value> convert(const Value &value, Kind kind);
 
+/// The number closest to it that a numeric kind holds; 0 for NaN.
+double fitted(double number, Kind kind);
+
 /// A number of the state (exact in a double, whatever its kind) as a Value, and back.
 Value toValue(double number, Kind kind);
 double toNumber(const Value &value);

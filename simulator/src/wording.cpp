@@ -45,6 +45,16 @@ bool continuesCharacter(char byte)
     return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
 }
 
+std::string joined(const std::vector<std::string> &names, const char *last)
+{
+    std::string result;
+    for (std::size_t place{0}; place < names.size(); ++place) {
+        const char *const between{place + 1 < names.size() ? ", " : last};
+        result += (place == 0 ? "" : between) + quoted(names[place]);
+    }
+    return result;
+}
+
 } // namespace
 
 std::string quoted(std::string_view text)
@@ -62,12 +72,12 @@ std::string quoted(std::string_view text)
 
 std::string alternatives(const std::vector<std::string> &names)
 {
-    std::string result;
-    for (std::size_t place{0}; place < names.size(); ++place) {
-        const char *const between{place + 1 < names.size() ? ", " : " or "};
-        result += (place == 0 ? "" : between) + quoted(names[place]);
-    }
-    return result;
+    return joined(names, " or ");
+}
+
+std::string enumeration(const std::vector<std::string> &names)
+{
+    return joined(names, " and ");
 }
 
 std::string nearest(std::string_view wrong, const std::vector<std::string> &known)

@@ -14,8 +14,9 @@ namespace veltrix_simulator
 /// only the beginning is there.
 std::string quoted(std::string_view text);
 
-/// The names as an author reads them: `"a"`, `"a" or "b"`, `"a", "b" or "c"`.
+/// The names as an author reads them: `"a"`, `"a" or "b"`, `"a", "b" or "c"`; the same with "and".
 std::string alternatives(const std::vector<std::string> &names);
+std::string enumeration(const std::vector<std::string> &names);
 
 /// The known name that is most like the wrong one; empty when none is like it.
 std::string nearest(std::string_view wrong, const std::vector<std::string> &known);

@@ -67,6 +67,10 @@ public:
 
     /// Power-on state: default state and configuration, nothing open, no faults, an empty journal.
     void reset();
+    /// Power-on state of a scenario, as if the process had started on it: the name of one that the simulator
+    /// brings along, or the path of a file. Throws std::invalid_argument with one line that says what is
+    /// wrong and where; everything is as it was then.
+    void loadScenario(const std::string &nameOrPath);
 
     /// Every call since the last clearJournal() or reset(), in order; of more than 200000 calls the latest.
     const std::vector<Call> &journal() const;
@@ -94,7 +98,10 @@ public:
     /// Adds a fault; the last one added wins. Throws std::invalid_argument when there is no such
     /// operation or the answer does not fit it.
     void addFault(Fault fault);
+    /// Removes all faults, those of the scenario among them.
     void clearFaults();
+    /// Where the faults of the scenario that have not happened yet stand in it, such as "flaky.toml:12".
+    std::vector<std::string> unfiredFaults() const;
 
 private:
     Simulator();

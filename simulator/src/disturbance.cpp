@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The surroundings of a call that a rule hits.
+#include "disturbance.h"
+
+#include "link.h"
+
+namespace veltrix_simulator
+{
+
+Disturbance::Disturbance(State &itsState, const Hit &hit) : state{itsState}
+{
+    switch (hit.effect) {
+    case Effect::Late:
+        pause(hit.delay);
+        break;
+    case Effect::Wrong:
+        wrongValues.emplace(state, hit.random);
+        break;
+    case Effect::LostOnPowerCycle:
+        state.storesAreLost = true;
+        break;
+    case Effect::CableOut:
+        state.cableOut = true;
+        works = false;
+        break;
+    case Effect::Refuse:
+    case Effect::Answer:
+    case Effect::Stuck:
+    case Effect::Garbage:
+        works = false;
+        break;
+    }
+}
+
+Disturbance::~Disturbance()
+{
+    state.storesAreLost = false;
+}
+
+} // namespace veltrix_simulator
