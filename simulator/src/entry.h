@@ -49,7 +49,7 @@ public:
     /// A bool, an integer, a number or a text.
     std::optional<Value> value() const;
 
-    bool isTable() const { return node->is_table(); }
+    bool isList() const { return node->is_array(); }
     /// The elements of an array, each under the key of the array.
     std::vector<Entry> elements() const;
     /// The entries of a table.
@@ -64,7 +64,7 @@ public:
     void refuseTwoOf(const std::vector<std::string> &keys) const;
     /// Refuses a table that has none of the keys.
     void demandOneOf(const std::vector<std::string> &keys) const;
-    /// Refuses the key in a table, with its place.
+    /// Refuses a key that the table has.
     [[noreturn]] void failUnknown(std::string_view key, const std::vector<std::string> &known) const;
 
     const std::string &keyPath() const { return path; }

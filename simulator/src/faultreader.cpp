@@ -158,31 +158,41 @@ constexpr Setting<Rule> faultSettings[]{
      }},
 };
 
+/// Fails where the rule does not fit the operation.
+[[noreturn]] void failObjection(const Entry &fault, const Entry &pattern, Rule rule,
+                                const Operation &operation)
+{
+    const std::string reason = "does not fit: " + objection(rule, operation);
+    const std::optional<Entry> argument = fault.find("argument");
+    rule.argument.reset();
+    if (argument && objection(rule, operation).empty()) {
+        argument->fail(reason);
+    }
+    const std::optional<Entry> answer = fault.find("answer");
+    (answer ? *answer : pattern).fail(reason);
+}
+
 /// Adds what the pattern means to the operations of the rule: the operation of this name or, when it has a
 /// `*`, those of the device's that the rule can be applied to.
-void appendOperations(const Entry &entry, Rule &rule)
+void appendOperations(const Entry &fault, const Entry &entry, Rule &rule)
 {
     const std::string pattern = entry.text();
-    const std::vector<const Operation *> matching = operationsMatching(pattern);
+    std::vector<const Operation *> matching = operationsMatching(pattern);
     if (matching.empty()) {
         failUnknownOperation(entry, pattern);
     }
-    std::string firstObjection;
-    bool fitsOne{false};
+    const Operation &first{*matching.front()};
+    matching.erase(std::remove_if(matching.begin(), matching.end(),
+                                  [&](const Operation *each) { return !objection(rule, *each).empty(); }),
+                   matching.end());
+    if (matching.empty()) {
+        failObjection(fault, entry, rule, first);
+    }
     for (const Operation *const operation : matching) {
-        const std::string found = objection(rule, *operation);
-        if (!found.empty()) {
-            firstObjection = firstObjection.empty() ? found : firstObjection;
-            continue;
-        }
-        fitsOne = true;
         const std::string name{operation->name};
         if (std::find(rule.operations.begin(), rule.operations.end(), name) == rule.operations.end()) {
             rule.operations.push_back(name);
         }
-    }
-    if (!fitsOne) {
-        entry.fail("does not fit: " + firstObjection);
     }
 }
 
@@ -191,7 +201,7 @@ void readOperations(const Entry &fault, Rule &rule)
     fault.refuseTwoOf({"operation", "operations"});
     fault.demandOneOf({"operation", "operations"});
     if (const std::optional<Entry> operation = fault.find("operation")) {
-        appendOperations(*operation, rule);
+        appendOperations(fault, *operation, rule);
         return;
     }
     const Entry operations = *fault.find("operations");
@@ -200,7 +210,7 @@ void readOperations(const Entry &fault, Rule &rule)
         operations.fail("takes a list of 1 to " + std::to_string(mostPatterns) + " operations");
     }
     for (const Entry &pattern : patterns) {
-        appendOperations(pattern, rule);
+        appendOperations(fault, pattern, rule);
     }
 }
 
@@ -213,7 +223,7 @@ Rule readFault(const Entry &fault)
     readTable(fault, faultSettings, rule);
     fault.demandOneOf({"effect"});
     fault.refuseTwoOf({"once", "onCall", "fromCall", "everyCall"});
-    fault.refuseTwoOf({"once", "onCall", "times"});
+    fault.refuseTwoOf({"once", "onCall", "everyCall", "times"});
     const std::string &effect = effectNames()[static_cast<std::size_t>(rule.effect)];
     fault.refuseStrangers("effect", effect, belongings());
     if (rule.effect == Effect::Answer) {

@@ -72,7 +72,7 @@ std::variant<Scenario, std::string> findScenario(const std::string &nameOrPath)
     }
     const std::string near = nearest(nameOrPath, names);
     return "there is no scenario " + quoted(nameOrPath) +
-           (near.empty() ? "" : "; did you mean " + quoted(near) + '?') + " The simulator brings along " +
+           (near.empty() ? "." : "; did you mean " + quoted(near) + '?') + " The simulator brings along " +
            enumeration(names) + "; a file of yours is named by a path that ends in .toml";
 }
 

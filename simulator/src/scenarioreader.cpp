@@ -101,6 +101,9 @@ constexpr Setting<Port> portSettings[]{
 /// The tables of a list such as `[[port]]`.
 std::vector<Entry> tablesOf(const Entry &list)
 {
+    if (!list.isList()) {
+        list.fail("is a list of tables, so each is headed [[" + list.keyPath() + "]]");
+    }
     std::vector<Entry> tables = list.elements();
     if (tables.size() > mostEntries) {
         tables[mostEntries].fail("stands here more than " + std::to_string(mostEntries) + " times");
@@ -274,7 +277,7 @@ std::variant<Scenario, ScenarioError> readScenario(std::string_view text, const 
     const toml::parse_result parsed = toml::parse(text);
     if (!parsed) {
         const toml::source_position &position = parsed.error().source().begin;
-        const std::string description = quoted(parsed.error().description());
+        const std::string description = oneLine(parsed.error().description(), 200);
         return ScenarioError{
             fileName, position.line, position.column, {}, "this is not TOML: " + description};
     }

@@ -39,6 +39,12 @@ std::size_t distance(std::string_view from, std::string_view to)
     return row.back();
 }
 
+/// Whether a name was broken off, such as "interval" for "intervalSeconds".
+bool isBeginning(std::string_view wrong, std::string_view name)
+{
+    return wrong.size() >= 3 && name.substr(0, wrong.size()) == wrong;
+}
+
 /// Whether a byte is inside a character of UTF-8, not at its beginning.
 bool continuesCharacter(char byte)
 {
@@ -57,17 +63,22 @@ std::string joined(const std::vector<std::string> &names, const char *last)
 
 } // namespace
 
-std::string quoted(std::string_view text)
+std::string oneLine(std::string_view text, std::size_t longest)
 {
-    std::size_t length{std::min(text.size(), longestQuote)};
+    std::size_t length{std::min(text.size(), longest)};
     while (length > 0 && length < text.size() && continuesCharacter(text[length])) {
         --length;
     }
-    std::string result{'"'};
+    std::string line;
     for (const char character : text.substr(0, length)) {
-        result += std::iscntrl(static_cast<unsigned char>(character)) != 0 ? '?' : character;
+        line += std::iscntrl(static_cast<unsigned char>(character)) != 0 ? '?' : character;
     }
-    return result + (length < text.size() ? "...\"" : "\"");
+    return line + (length < text.size() ? "..." : "");
+}
+
+std::string quoted(std::string_view text)
+{
+    return '"' + oneLine(text, longestQuote) + '"';
 }
 
 std::string alternatives(const std::vector<std::string> &names)
@@ -82,11 +93,11 @@ std::string enumeration(const std::vector<std::string> &names)
 
 std::string nearest(std::string_view wrong, const std::vector<std::string> &known)
 {
-    // Of names that share fewer letters than they differ in, one is as good as another.
-    std::size_t least{std::max<std::size_t>(wrong.size() / 2, 1) + 1};
+    // Beyond one wrong letter in three, one name is as good as another.
+    std::size_t least{std::max<std::size_t>(wrong.size() / 3, 1) + 1};
     std::string found;
     for (const std::string &name : known) {
-        const std::size_t away{distance(wrong, name)};
+        const std::size_t away{isBeginning(wrong, name) ? 1 : distance(wrong, name)};
         if (away < least && away < name.size()) {
             least = away;
             found = name;

@@ -3,6 +3,7 @@
 // How messages name what stands in a scenario file.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,8 +11,11 @@
 namespace veltrix_simulator
 {
 
-/// The text between quotes, fit for one line: control characters become question marks, and of a long text
-/// only the beginning is there.
+/// The text fit for one line: control characters become question marks, and of a longer text only the
+/// beginning is there.
+std::string oneLine(std::string_view text, std::size_t longest);
+
+/// The beginning of a text between quotes, fit for one line.
 std::string quoted(std::string_view text);
 
 /// The names as an author reads them: `"a"`, `"a" or "b"`, `"a", "b" or "c"`; the same with "and".
