@@ -38,7 +38,9 @@ void Core::passTime()
 
 std::optional<Hit> Core::hitOf(const char *operation)
 {
-    return rules.match(operation, state.target, numbers);
+    std::optional<Hit> hit = rules.match(operation, state.target, numbers);
+    state.cableOut = state.cableOut || (hit && hit->effect == Effect::CableOut);
+    return hit;
 }
 
 void Core::forgetOldest()

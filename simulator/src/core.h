@@ -31,6 +31,9 @@ public:
     /// std::invalid_argument when one of them cannot be played.
     void start(const Scenario &scenario);
 
+    /// Whether calls of the device wait or make the units' values go on.
+    bool takesTime() const { return link.passes() || unitTime.passes(); }
+
     /// Runs one operation. The parameters are the operation's own, in order, an out-parameter that is a
     /// number as Out. The action does the work; it runs only when the call reaches what it was made on,
     /// nothing is null that must not be and no rule is in the way. What it has to fill in is zero before.
@@ -55,29 +58,27 @@ public:
             (appendNumbers(numbers, parameters), ...);
             hit = hitOf(operation);
         }
+        if (interface == Interface::Device && reachable) {
+            letTimePass();
+        }
         const bool leavesOutputs{hit && hit->leavesOutputs};
         if (!leavesOutputs) {
             (clear(parameters), ...);
         }
         Result result{zero<Result>()};
         if (answering && (isPresent(parameters) && ...)) {
-            const auto work = [&] {
-                if constexpr (std::is_void_v<ActionResult>) {
-                    action();
-                } else {
-                    result = action();
-                }
-            };
-            if (!hit) {
-                work();
-            } else if (hit->answer) {
+            if (hit && hit->answer) {
                 AnswerReader reader{*hit->answer, objects, heldText};
                 reader.takeResult(result);
                 if (!leavesOutputs) {
                     (reader.take(parameters), ...);
                 }
-            } else if (const Disturbance disturbance{state, *hit}; disturbance.letsWork()) {
-                work();
+            } else if (const Disturbance disturbance{state, hit}; disturbance.letsWork()) {
+                if constexpr (std::is_void_v<ActionResult>) {
+                    action();
+                } else {
+                    result = action();
+                }
             }
         }
 
@@ -101,19 +102,19 @@ public:
     Rules rules;
 
 private:
-    /// Lets the time of one device call pass; whether the device that is open answers it then.
-    bool deviceAnswers()
+    /// Whether the device that is open takes part in what goes over the link.
+    bool deviceAnswers() const { return !state.cableOut && !state.silent; }
+
+    /// Lets the time of a device call pass. Without a cable the driver gives up at once.
+    void letTimePass()
     {
-        if (state.cableOut) {
-            return false;
-        }
-        if (link.passes() || unitTime.passes()) {
+        if (!state.cableOut && takesTime()) {
             passTime();
         }
-        return !state.silent;
     }
     void passTime();
 
+    /// What the rules make of a call that brings `numbers`.
     std::optional<Hit> hitOf(const char *operation);
 
     /// A program that runs for days never takes its journal.

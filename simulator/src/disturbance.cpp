@@ -8,7 +8,7 @@
 namespace veltrix_simulator
 {
 
-Disturbance::Disturbance(State &itsState, const Hit &hit) : state{itsState}
+void Disturbance::begin(const Hit &hit)
 {
     switch (hit.effect) {
     case Effect::Late:
@@ -21,9 +21,6 @@ Disturbance::Disturbance(State &itsState, const Hit &hit) : state{itsState}
         state.storesAreLost = true;
         break;
     case Effect::CableOut:
-        state.cableOut = true;
-        works = false;
-        break;
     case Effect::Refuse:
     case Effect::Answer:
     case Effect::Stuck:
@@ -31,11 +28,6 @@ Disturbance::Disturbance(State &itsState, const Hit &hit) : state{itsState}
         works = false;
         break;
     }
-}
-
-Disturbance::~Disturbance()
-{
-    state.storesAreLost = false;
 }
 
 } // namespace veltrix_simulator

@@ -12,12 +12,18 @@
 namespace veltrix_simulator
 {
 
-/// Makes of the simulator for one call what the effect asks for: late, wrong, forgetful, unplugged.
+/// While it lives, the surroundings that the effect of the hit asks for: late, wrong, forgetful, or none that
+/// a call could work in. Without a hit they are as ever.
 class Disturbance
 {
 public:
-    Disturbance(State &itsState, const Hit &hit);
-    ~Disturbance();
+    Disturbance(State &itsState, const std::optional<Hit> &hit) : state{itsState}
+    {
+        if (hit) {
+            begin(*hit);
+        }
+    }
+    ~Disturbance() { state.storesAreLost = false; }
     Disturbance(const Disturbance &) = delete;
     Disturbance &operator=(const Disturbance &) = delete;
 
@@ -25,6 +31,8 @@ public:
     bool letsWork() const { return works; }
 
 private:
+    void begin(const Hit &hit);
+
     State &state;
     bool works{true};
     std::optional<WrongValues> wrongValues;

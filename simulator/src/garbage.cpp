@@ -25,9 +25,8 @@ std::int64_t integerGarbage(Random &random)
                          : Limits::min() + static_cast<std::int64_t>(random.below(range));
 }
 
-/// Exact in a double, so that narrowing it again is defined.
 template <typename T, typename Bits>
-double floatingGarbage(Random &random)
+T floatingGarbage(Random &random)
 {
     using Limits = std::numeric_limits<T>;
     constexpr std::array<T, 8> ends{Limits::quiet_NaN(),
@@ -39,13 +38,13 @@ double floatingGarbage(Random &random)
                                     T{-1},
                                     -T{0}};
     if (random.coin()) {
-        return double{ends[random.below(ends.size())]};
+        return ends[random.below(ends.size())];
     }
     const auto bits = static_cast<Bits>(random.bits());
     T number{};
     static_assert(sizeof number == sizeof bits);
     std::memcpy(&number, &bits, sizeof number);
-    return double{number};
+    return number;
 }
 
 std::string textGarbage(Random &random)
@@ -70,7 +69,8 @@ Value garbage(Kind kind, Random &random)
     case Kind::Signed32:
         return integerGarbage<std::int32_t>(random);
     case Kind::Float:
-        return floatingGarbage<float, std::uint32_t>(random);
+        // Exact in a double, so that narrowing it again is defined.
+        return static_cast<double>(floatingGarbage<float, std::uint32_t>(random));
     case Kind::Double:
         return floatingGarbage<double, std::uint64_t>(random);
     case Kind::Text:
@@ -87,6 +87,7 @@ Value garbage(Kind kind, Random &random)
 std::vector<Value> garbage(const std::vector<Kind> &kinds, Random &random)
 {
     std::vector<Value> values;
+    values.reserve(kinds.size());
     for (const Kind kind : kinds) {
         values.push_back(garbage(kind, random));
     }

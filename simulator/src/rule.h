@@ -37,7 +37,8 @@ struct ArgumentRange
 };
 
 /// One rule. A call is considered when its operation is listed, the target and the argument fit and the
-/// operation `after` has been called before; the counts below count the calls that are considered.
+/// operation `after` has been called before; the counts below count the calls that are considered. Calls that
+/// do not reach the device, because it is not open, is silent or has lost its cable, are not.
 struct Rule
 {
     std::vector<std::string> operations; ///< Names of the contract, none of them unknown, not empty.
@@ -54,7 +55,9 @@ struct Rule
     /// With Effect::Answer: the result, if the operation has one, then the fields of its out-parameters or
     /// of its record in order.
     std::vector<Value> answer;
-    bool leavesOutputs{false};          ///< With Effect::Answer: the result alone; the out-parameters stay.
+    /// With Effect::Answer: the answer is the result alone, and the out-parameters stay as the caller left
+    /// them; with Effect::Refuse they stay as well.
+    bool leavesOutputs{false};
     std::chrono::microseconds delay{0}; ///< With Effect::Late.
     std::string origin;                 ///< Where it was written, such as `flaky.toml:12`; for reports.
 };

@@ -47,7 +47,7 @@ std::variant<Scenario, std::string> read(std::string_view text, const std::strin
     if (const auto *const error = std::get_if<ScenarioError>(&result)) {
         return error->message();
     }
-    Scenario &scenario = std::get<Scenario>(result);
+    auto &scenario = std::get<Scenario>(result);
     scenario.name = asked;
     return std::move(scenario);
 }

@@ -47,7 +47,7 @@ void readValue(const Entry &entry, Kind kind, Scenario &scenario)
 }
 
 /// The values of a table and of the tables in it, whose keys are those of the state.
-void readValues(const Entry &table, std::vector<std::string> known, Scenario &scenario)
+void readValues(const Entry &table, const std::vector<std::string> &known, Scenario &scenario)
 {
     table.refuseUnknown(known);
     for (const Entry &entry : table.entries()) {
@@ -85,7 +85,7 @@ void readUnit(const Entry &table, Scenario &scenario)
 {
     std::vector<std::string> known = keysBehind(table.keyPath());
     known.emplace_back(badPixelsKey);
-    readValues(table, std::move(known), scenario);
+    readValues(table, known, scenario);
     if (const std::optional<Entry> pixels = table.find(badPixelsKey)) {
         const int target{table.keyPath() == "camera" ? 1 : 0};
         scenario.unitsWithPixels.push_back(target);

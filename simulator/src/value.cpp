@@ -112,8 +112,8 @@ double fitted(double number, Kind kind)
         return number;
     }
     if (kind == Kind::Float) {
-        constexpr double largest{std::numeric_limits<float>::max()};
-        return double{static_cast<float>(std::clamp(number, -largest, largest))};
+        constexpr auto largest = static_cast<double>(std::numeric_limits<float>::max());
+        return static_cast<double>(static_cast<float>(std::clamp(number, -largest, largest)));
     }
     const auto minimum = static_cast<double>(rowOf(kind).minimum);
     const auto maximum = static_cast<double>(rowOf(kind).maximum);

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The simulator started on a scenario, with the device open.
+#include "scenariocamera.h"
+
+using namespace veltrix_simulator;
+
+ScenarioCamera::ScenarioCamera(const Scenario &scenario)
+{
+    simulation.start(scenario);
+    open();
+}
+
+void ScenarioCamera::reopen()
+{
+    manager.closeDevice(&device);
+    open();
+}
+
+void ScenarioCamera::open()
+{
+    manager.openDevice(simulation.state.ports.front().name.c_str());
+    simulation.state.target = 1;
+}
+
+Scenario scenarioWith(const char *operation, Effect effect)
+{
+    Scenario scenario;
+    Rule rule;
+    rule.operations = {operation};
+    rule.effect = effect;
+    rule.origin = "test.toml:1";
+    scenario.rules.push_back(rule);
+    return scenario;
+}
+
+QString lastCall(const ScenarioCamera &camera)
+{
+    return QString::fromStdString(camera.simulation.core.journal.back().text);
+}

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// Starts a scenario with two faults, lets one of them happen and ends; "reset" goes back to the default
+// before.
+#include "simulation.h"
+
+int main(int count, char ** /*arguments*/)
+{
+    using namespace veltrix_simulator;
+    Scenario scenario;
+    for (const char *const operation : {"setGamma", "setClhe"}) {
+        Rule rule;
+        rule.operations = {operation};
+        rule.origin = std::string{"flaky.toml:"} + operation;
+        scenario.rules.push_back(rule);
+    }
+    simulation().start(scenario);
+    simulation().manager.openDevice("SIM1");
+    simulation().device.setClhe(1);
+    if (count > 1) {
+        simulation().reset();
+    }
+    return 0;
+}
