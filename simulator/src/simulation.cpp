@@ -3,11 +3,14 @@
 // The simulated SDK as a whole: its root object and everything behind it.
 #include "simulation.h"
 
+#include "scenariolibrary.h"
+
 #include <cstdlib>
 #include <iostream>
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <variant>
 
 namespace veltrix_simulator
 {
@@ -40,7 +43,29 @@ void SimulatedSdk::releaseDeviceManager(veltrix_sdk::IDeviceManager **released)
 
 Simulation::Simulation()
 {
-    reset();
+    const std::variant<Scenario, std::string> chosen = chosenScenario();
+    try {
+        if (const auto *const reason = std::get_if<std::string>(&chosen)) {
+            throw std::invalid_argument{*reason};
+        }
+        powerOn(std::get<Scenario>(chosen));
+        announceUnfired(std::get<Scenario>(chosen));
+    } catch (const std::invalid_argument &error) {
+        refuseToOpen(error.what());
+    }
+}
+
+// Another scenario than the one that was asked for would look like it.
+void Simulation::refuseToOpen(const char *reason)
+{
+    log.write(veltrix_sdk::severity_error, reason);
+    std::cerr << "veltrix.sdk: " << reason << '\n' << std::flush;
+    Scenario refused;
+    refused.name = "refused";
+    for (Port &port : refused.ports) {
+        port.opening = Port::Opening::Refused;
+    }
+    powerOn(refused);
 }
 
 void Simulation::start(const Scenario &scenario)
@@ -51,6 +76,11 @@ void Simulation::start(const Scenario &scenario)
         reset();
         throw;
     }
+    announceUnfired(scenario);
+}
+
+void Simulation::announceUnfired(const Scenario &scenario)
+{
     if (!scenario.rules.empty()) {
         static const bool isAnnounced{std::atexit([] { simulation().reportUnfired(); }) == 0};
         static_cast<void>(isAnnounced);

@@ -43,6 +43,7 @@ private:
 /// state and the core, which stand behind them because they need the objects' words and addresses.
 struct Simulation
 {
+    /// Power-on with the scenario that the environment chooses.
     Simulation();
     Simulation(const Simulation &) = delete;
     Simulation &operator=(const Simulation &) = delete;
@@ -72,6 +73,10 @@ struct Simulation
 
 private:
     void powerOn(const Scenario &scenario);
+    /// Lets the end of the process tell of the scenario's faults that never happened.
+    static void announceUnfired(const Scenario &scenario);
+    /// Says why, once; then the ports are there and no device opens.
+    void refuseToOpen(const char *reason);
     BadPixelMemory &badPixelsOf(int target);
 };
 

@@ -4,9 +4,12 @@
 #include "veltrix_simulator/simulator.h"
 
 #include "faults.h"
+#include "scenariolibrary.h"
 #include "simulation.h"
 
+#include <stdexcept>
 #include <utility>
+#include <variant>
 
 namespace veltrix_simulator
 {
@@ -33,6 +36,15 @@ Simulator &Simulator::instance()
 void Simulator::reset()
 {
     impl->simulation.reset();
+}
+
+void Simulator::loadScenario(const std::string &nameOrPath)
+{
+    const std::variant<Scenario, std::string> found = findScenario(nameOrPath);
+    if (const auto *const reason = std::get_if<std::string>(&found)) {
+        throw std::invalid_argument{*reason};
+    }
+    impl->simulation.start(std::get<Scenario>(found));
 }
 
 const std::vector<Call> &Simulator::journal() const

@@ -37,7 +37,7 @@ std::optional<std::string_view> without(std::string_view prefix, std::string_vie
     return key.substr(0, prefix.size()) == prefix ? std::optional{key.substr(prefix.size())} : std::nullopt;
 }
 
-Place placeOf(std::string_view key)
+std::optional<Place> findPlace(std::string_view key)
 {
     for (std::size_t target{0}; target < unitPrefixes.size(); ++target) {
         const auto name = without(unitPrefixes[target], key);
@@ -55,6 +55,14 @@ Place placeOf(std::string_view key)
         if (*name == communicationTypeKey) {
             return CommunicationTypePlace{};
         }
+    }
+    return std::nullopt;
+}
+
+Place placeOf(std::string_view key)
+{
+    if (const std::optional<Place> place = findPlace(key)) {
+        return *place;
     }
     throw std::invalid_argument{"no value of the simulator has the key \"" + std::string{key} + '"'};
 }
@@ -243,6 +251,12 @@ std::vector<State::Lost>::iterator State::findLost(const UnitPlace &place)
     return std::find_if(lost.begin(), lost.end(), [&](const Lost &each) {
         return each.place.target == place.target && each.place.field == place.field;
     });
+}
+
+std::optional<Kind> State::kindAt(std::string_view key)
+{
+    const std::optional<Place> place = findPlace(key);
+    return place ? std::optional{kindOf(*place)} : std::nullopt;
 }
 
 } // namespace veltrix_simulator

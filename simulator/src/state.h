@@ -9,6 +9,7 @@
 #include "unitfields.h"
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -72,6 +73,8 @@ public:
     void set(std::string_view key, const Value &value);
     Value get(std::string_view key) const;
     static std::vector<std::string> keys();
+    /// What the value of a key is; nothing when there is no such key.
+    static std::optional<Kind> kindAt(std::string_view key);
 
     /// Where a unit holds the number of this key. Throws std::invalid_argument when no unit has it or it is
     /// a bool.

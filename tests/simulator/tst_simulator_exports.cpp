@@ -53,9 +53,9 @@ void SimulatorExportsTest::exportsExactly_data()
 
     QStringList simulator = contract;
     simulator << "veltrix_sdk_additional_ports";
-    for (const char *const function :
-         {"addFault", "callsWhileNotOpen", "clearFaults", "clearJournal", "get", "instance", "isDeviceOpen",
-          "journal", "keys", "reset", "set", "setJournalEnabled", "setPorts", "unfiredFaults"}) {
+    for (const char *const function : {"addFault", "callsWhileNotOpen", "clearFaults", "clearJournal", "get",
+                                       "instance", "isDeviceOpen", "journal", "keys", "loadScenario", "reset",
+                                       "set", "setJournalEnabled", "setPorts", "unfiredFaults"}) {
         simulator << QStringLiteral("veltrix_simulator::Simulator::") + function;
     }
     simulator.sort();

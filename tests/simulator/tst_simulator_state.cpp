@@ -28,7 +28,9 @@ std::map<QString, QString> documentedKeys()
         return {};
     }
     std::map<QString, QString> keys;
-    for (const QString &line : QString::fromUtf8(readme.readAll()).split('\n')) {
+    const QString chapter =
+        QString::fromUtf8(readme.readAll()).section("\n## Keys\n", 1).section("\n## ", 0, 0);
+    for (const QString &line : chapter.split('\n')) {
         const QStringList cells = line.split(QStringLiteral(" | "));
         if (!line.startsWith(QStringLiteral("| `"))) {
             continue;

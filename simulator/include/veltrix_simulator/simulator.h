@@ -67,6 +67,10 @@ public:
 
     /// Power-on state: default state and configuration, nothing open, no faults, an empty journal.
     void reset();
+    /// Power-on state of a scenario, as if the process had started on it: the name of one that the simulator
+    /// brings along, or the path of a file. Throws std::invalid_argument with one line that says what is
+    /// wrong and where; everything is as it was then.
+    void loadScenario(const std::string &nameOrPath);
 
     /// Every call since the last clearJournal() or reset(), in order; of more than 200000 calls the latest.
     const std::vector<Call> &journal() const;

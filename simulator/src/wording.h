@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// How messages name what stands in a scenario file.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace veltrix_simulator
+{
+
+/// The text fit for one line: control characters become question marks, and of a longer text only the
+/// beginning is there.
+std::string oneLine(std::string_view text, std::size_t longest);
+
+/// The beginning of a text between quotes, fit for one line.
+std::string quoted(std::string_view text);
+
+/// The names as an author reads them: `"a"`, `"a" or "b"`, `"a", "b" or "c"`; the same with "and".
+std::string alternatives(const std::vector<std::string> &names);
+std::string enumeration(const std::vector<std::string> &names);
+
+/// The known name that is most like the wrong one; empty when none is like it.
+std::string nearest(std::string_view wrong, const std::vector<std::string> &known);
+
+/// How to go on from a wrong name: `; did you mean "onCall"?`, and where few names are known, all of them.
+std::string suggestion(std::string_view wrong, const std::vector<std::string> &known);
+
+} // namespace veltrix_simulator
