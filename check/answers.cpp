@@ -91,9 +91,12 @@ std::string numberText(double number, bool boolean)
     if (boolean) {
         return number != 0.0 ? "true" : "false";
     }
-    constexpr double readable{1e15};
-    const auto format = std::fabs(number) < readable ? std::chars_format::fixed : std::chars_format::general;
-    std::array<char, 400> text{};
+    constexpr double smallest{1e-6};
+    constexpr double largest{1e15};
+    const double size{std::fabs(number)};
+    const bool readable{number == 0.0 || (size >= smallest && size < largest)};
+    const auto format = readable ? std::chars_format::fixed : std::chars_format::general;
+    std::array<char, 64> text{};
     const auto end = std::to_chars(text.data(), text.data() + text.size(), number, format);
     return {text.data(), end.ptr};
 }

@@ -107,7 +107,7 @@ bool OpenedDevice::identify()
     const Reading identity{"connect",
                            {},
                            UsedOn::Both,
-                           {{"identity", between(krIdentity, krIdentity)}},
+                           {{"identity", oneOf({krIdentity})}},
                            true,
                            [](IDeviceControl &asked, Values &answer) {
                                std::uint8_t byte{0};

@@ -1,0 +1,242 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The check of an SDK library as a process: arguments, exit status, signals, and with which library it
+// starts.
+#include "program.h"
+
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+#include <QSerialPortInfo>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <csignal>
+
+namespace
+{
+
+QStringList notOkLines(const QString &output)
+{
+    return output.split('\n').filter(QRegularExpression{"^not ok "});
+}
+
+QStringList scannedPorts()
+{
+    QStringList names;
+    for (const QSerialPortInfo &port : QSerialPortInfo::availablePorts()) {
+        names.append(port.portName());
+    }
+    return names;
+}
+
+} // namespace
+
+class SdkCheckProcessTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void findsWhatIsWrong_data();
+    void findsWhatIsWrong();
+    void listsPortsWithoutAPort();
+    void listsNoPortOfALibraryThatHasNone();
+    void refusesWrongArguments_data();
+    void refusesWrongArguments();
+    void helps();
+    void writesJson();
+    void namesAPortThatDoesNotOpen();
+    void endsWellWhenItIsInterrupted_data();
+    void endsWellWhenItIsInterrupted();
+    void goesOnWithoutAReader();
+    void worksWithAnotherLibraryOfTheSameContract();
+    void endsWithTheLoadersMessageWithoutALibrary();
+    void endsWithTheLoadersMessageWithAnIncompleteLibrary();
+};
+
+void SdkCheckProcessTest::findsWhatIsWrong_data()
+{
+    QTest::addColumn<QString>("scenario"); ///< Of the simulator; empty: the healthy one.
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QStringList>("notOk");
+    const auto row = [](const char *name, const QString &scenario, const QStringList &arguments,
+                        const QStringList &notOk) {
+        QTest::addRow("%s", name) << scenario << arguments << notOk;
+    };
+    row("healthy, read", {}, {}, {});
+    row("healthy, read often", {}, {"--repeat", "20"}, {});
+    row("healthy, written", {}, {"--write", "--repeat", "1"}, {});
+}
+
+void SdkCheckProcessTest::findsWhatIsWrong()
+{
+    QFETCH(const QString, scenario);
+    QFETCH(const QStringList, arguments);
+    QFETCH(const QStringList, notOk);
+    QProcessEnvironment environment{programEnvironment()};
+    environment.remove("VELTRIX_SIMULATOR_SCENARIO");
+    if (!scenario.isEmpty()) {
+        environment.insert("VELTRIX_SIMULATOR_SCENARIO", scenario);
+    }
+    const Outcome outcome{run(PROGRAM, QStringList{"--port", "SIM1"} + arguments, environment)};
+    QVERIFY2(outcome.exited, qPrintable(outcome.errors));
+    QCOMPARE(notOkLines(outcome.output), notOk);
+    QCOMPARE(outcome.status, notOk.isEmpty() ? 0 : 1);
+    QCOMPARE(outcome.errors, QString{});
+}
+
+void SdkCheckProcessTest::listsPortsWithoutAPort()
+{
+    const Outcome outcome{run(PROGRAM, {}, programEnvironment())};
+    QStringList lines{"Ports:"};
+    for (const QString &port : scannedPorts() + QStringList{"SIM1"}) {
+        lines.append("  " + port);
+    }
+    lines.append({"To check the library on one of them: pilotel-sdk-check --port SIM1",
+                  "More: pilotel-sdk-check --help", ""});
+    QCOMPARE(outcome.output.split('\n'), lines);
+    QCOMPARE(outcome.status, 2);
+}
+
+void SdkCheckProcessTest::listsNoPortOfALibraryThatHasNone()
+{
+    QProcessEnvironment environment{programEnvironment()};
+    environment.insert("LD_LIBRARY_PATH", SDK_VARIANTS_DIRECTORY "/contract-only");
+    const Outcome outcome{run(PROGRAM, {}, environment)};
+    QCOMPARE(outcome.status, 2);
+    QVERIFY(!outcome.output.contains("SIM1"));
+    QCOMPARE(outcome.output.contains("No port found. Plug one in, or name one:"), scannedPorts().isEmpty());
+}
+
+void SdkCheckProcessTest::refusesWrongArguments_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("error");
+    const auto row = [](const QStringList &arguments, const char *error) {
+        QTest::addRow("%s", qPrintable(arguments.join(' '))) << arguments << QString{error};
+    };
+    row({"--wirte"}, "Unknown option 'wirte'.");
+    row({"--port"}, "Missing value after '--port'.");
+    row({"--port", ""}, "--port takes the name of a port.");
+    row({"SIM1"}, "Not understood: SIM1");
+    row({"--port", "SIM1", "\x1b[31m"}, R"(Not understood: \x1b[31m)");
+    row({"--port", "SIM1", "--repeat", "0"}, "--repeat takes a number from 1 to 10000.");
+    row({"--port", "SIM1", "--repeat", "10001"}, "--repeat takes a number from 1 to 10000.");
+    row({"--port", "SIM1", "--repeat", "many"}, "--repeat takes a number from 1 to 10000.");
+}
+
+void SdkCheckProcessTest::refusesWrongArguments()
+{
+    QFETCH(const QStringList, arguments);
+    QFETCH(const QString, error);
+    const Outcome outcome{run(PROGRAM, arguments, programEnvironment())};
+    QCOMPARE(outcome.status, 2);
+    QCOMPARE(outcome.output, QString{});
+    QCOMPARE(outcome.errors.section('\n', 0, 0), error);
+    QVERIFY2(outcome.errors.contains("\nUsage: "), qPrintable(outcome.errors));
+}
+
+void SdkCheckProcessTest::helps()
+{
+    const Outcome outcome{run(PROGRAM, {"--help"}, programEnvironment())};
+    QCOMPARE(outcome.status, 0);
+    for (const char *const text : {"--port <name>", "--write", "--repeat <count>", "--json", "Exit status: 0",
+                                   "saveBlendUnitParameters", "setMavlinkBaudRate", "processNucRequest",
+                                   "readBprTable", "writeBprTable", "addBadPixel", "removeBadPixel"}) {
+        QVERIFY2(outcome.output.contains(text), text);
+    }
+}
+
+void SdkCheckProcessTest::writesJson()
+{
+    const Outcome outcome{run(PROGRAM, {"--port", "SIM1", "--write", "--json"}, programEnvironment())};
+    QCOMPARE(outcome.status, 0);
+    const QJsonDocument document{QJsonDocument::fromJson(outcome.output.toUtf8())};
+    const QJsonObject counts{{"ok", 206}, {"notOk", 0}, {"skipped", 0}};
+    QCOMPARE(document["counts"].toObject(), counts);
+    QCOMPARE(document["allHold"], QJsonValue{true});
+}
+
+void SdkCheckProcessTest::namesAPortThatDoesNotOpen()
+{
+    const Outcome outcome{run(PROGRAM, {"--port", "COM\n9"}, programEnvironment())};
+    QCOMPARE(outcome.status, 1);
+    QCOMPARE(notOkLines(outcome.output),
+             QStringList{R"(not ok openDevice: answers null for the port COM\n9)"});
+    QVERIFY(outcome.output.contains("\nok     releaseDeviceManager: called\n"));
+    QVERIFY(!outcome.output.contains("closeDevice"));
+}
+
+void SdkCheckProcessTest::endsWellWhenItIsInterrupted_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::newRow("SIGINT") << SIGINT;
+    QTest::newRow("SIGTERM") << SIGTERM;
+    QTest::newRow("SIGHUP") << SIGHUP;
+}
+
+void SdkCheckProcessTest::endsWellWhenItIsInterrupted()
+{
+    QFETCH(const int, signal);
+    QProcess process;
+    process.setProcessEnvironment(programEnvironment());
+    process.start(PROGRAM, {"--port", "SIM1", "--repeat", "10000"});
+    QByteArray output;
+    while (!output.contains("ok     getRoiY2(3) (camera): 0\n") && process.waitForReadyRead(30000)) {
+        output += process.readAllStandardOutput();
+    }
+    QCOMPARE(::kill(static_cast<pid_t>(process.processId()), signal), 0);
+    QVERIFY(process.waitForFinished(30000));
+    output += process.readAllStandardOutput();
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 1);
+    QVERIFY2(output.contains("\nok     closeDevice: called\nok     releaseDeviceManager: called\n"), output);
+    QVERIFY2(output.contains("\nInterrupted before the end: "), output);
+}
+
+void SdkCheckProcessTest::goesOnWithoutAReader()
+{
+    // A reader that has seen enough must not leave a setting changed behind it.
+    const Outcome outcome{
+        run("bash", {"-c", R"("$0" --port SIM1 --write | head -n 1; exit "${PIPESTATUS[0]}")", PROGRAM},
+            programEnvironment())};
+    QCOMPARE(outcome.output, QString{"ok     get_instance: the root\n"});
+    QCOMPARE(outcome.status, 0);
+}
+
+void SdkCheckProcessTest::worksWithAnotherLibraryOfTheSameContract()
+{
+    QProcessEnvironment environment{programEnvironment()};
+    environment.insert("LD_LIBRARY_PATH", SDK_VARIANTS_DIRECTORY "/contract-only");
+    const Outcome outcome{run(PROGRAM, {"--port", "SIM1", "--write"}, environment)};
+    QCOMPARE(outcome.status, 0);
+    QCOMPARE(notOkLines(outcome.output), QStringList{});
+}
+
+void SdkCheckProcessTest::endsWithTheLoadersMessageWithoutALibrary()
+{
+    QTemporaryDir directory;
+    const QString alone{directory.filePath("pilotel-sdk-check")};
+    QVERIFY(QFile::copy(PROGRAM, alone));
+    const Outcome outcome{run(alone, {"--port", "SIM1"}, programEnvironment())};
+    QVERIFY(outcome.exited);
+    QVERIFY(outcome.status != 0);
+    QCOMPARE(outcome.output, QString{});
+    QVERIFY2(outcome.errors.contains("libveltrix.sdk.so"), qPrintable(outcome.errors));
+}
+
+void SdkCheckProcessTest::endsWithTheLoadersMessageWithAnIncompleteLibrary()
+{
+    QProcessEnvironment environment{programEnvironment()};
+    environment.insert("LD_LIBRARY_PATH", SDK_VARIANTS_DIRECTORY "/incomplete");
+    const Outcome outcome{run(PROGRAM, {"--port", "SIM1"}, environment)};
+    QVERIFY(outcome.exited);
+    QVERIFY(outcome.status != 0);
+    QCOMPARE(outcome.output, QString{});
+    QVERIFY2(outcome.errors.contains("undefined symbol"), qPrintable(outcome.errors));
+    QVERIFY2(outcome.errors.contains("GetILogger"), qPrintable(outcome.errors));
+}
+
+QTEST_GUILESS_MAIN(SdkCheckProcessTest)
+#include "tst_sdk_check_process.moc"
