@@ -124,6 +124,7 @@ Reading record(UsedOn usedOn, std::string get, std::vector<RecordField<Record>> 
                bool steady = true)
 {
     std::vector<Field> fields;
+    fields.reserve(numbers.size());
     for (const RecordField<Record> &entry : numbers) {
         fields.push_back(entry.field);
     }

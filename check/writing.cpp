@@ -88,11 +88,14 @@ private:
 
     Finding tryValue(double value, const Interrupted &interrupted)
     {
-        const std::string fault{change(value, interrupted)};
-        const std::string left{restore()};
+        std::string fault{change(value, interrupted)};
+        const Restored restored = restore();
         const std::string before{text(found.values[place])};
-        if (!left.empty()) {
-            return finding(Outcome::Fails, (fault.empty() ? "" : fault + "; ") + left);
+        if (!same(restored.answer, found)) {
+            return finding(Outcome::Fails, fault + (fault.empty() ? "" : "; ") + howItIsLeft(restored));
+        }
+        if (fault.empty() && !restored.acknowledged) {
+            fault = "answers false to " + before;
         }
         if (!fault.empty()) {
             return finding(Outcome::Fails, fault + "; back at " + before);
@@ -120,20 +123,31 @@ private:
         return "set to " + text(value) + ", but " + row.get + " answers " + answerText(row, answer);
     }
 
-    /// Puts back what was found; returns what is wrong.
-    std::string restore()
+    /// What the last attempt to put back what was found came to.
+    struct Restored
     {
-        Answer answer{};
-        bool acknowledged{false};
+        bool acknowledged;
+        Answer answer;
+    };
+
+    Restored restore()
+    {
+        Restored restored{};
         for (int attempt{0}; attempt < attemptsToRestore; ++attempt) {
-            acknowledged = device.write(row, unit, found.values);
-            answer = device.read(row, unit);
-            if (acknowledged && same(answer, found)) {
-                return {};
+            restored.acknowledged = device.write(row, unit, found.values);
+            restored.answer = device.read(row, unit);
+            if (restored.acknowledged && same(restored.answer, found)) {
+                break;
             }
         }
-        return "NOT RESTORED: " + row.set + " answers " + numberText(acknowledged ? 1 : 0, true) + " and " +
-               row.get + ' ' + answerText(row, answer) + " instead of " + answerText(row, found);
+        return restored;
+    }
+
+    std::string howItIsLeft(const Restored &restored) const
+    {
+        return "NOT RESTORED: " + row.set + " answers " + numberText(restored.acknowledged ? 1 : 0, true) +
+               " and " + row.get + ' ' + answerText(row, restored.answer) + " instead of " +
+               answerText(row, found);
     }
 
     /// Whether all numbers that are sent came back; the others are the device's own affair.

@@ -220,7 +220,8 @@ void SdkCheckFaultsTest::namesTheSetter_data()
     const auto row = [](const Fault &fault, const QStringList &notOk) {
         QTest::addRow("%s", qPrintable(notOk.first())) << fault << notOk;
     };
-    row({"setGamma", 1, 1}, {"setGamma (camera): answers false to 32768; back at 65536"});
+    row({"setClhe", 1, 1}, {"setClhe (camera): answers false to 0; back at 2000"});
+    row({"setGamma"}, {"setGamma (camera): answers false to 32768; back at 65536"});
     row({"setGamma", 1, 0, Values{true}},
         {"setGamma (camera): set to 32768, but getGamma answers 65536; back at 65536"});
     row({"setPolarity", 1, 1, Values{true}},
