@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // Discovery of ports, connection, device target and disconnection.
-#include "additionalports.h"
 #include "mainwindow.h"
 #include "messageboxes.h"
+#include "portnames.h"
 #include "ui_mainwindow.h"
 #include "veltrix_sdk/sdk.h"
 
@@ -49,11 +49,7 @@ void MainWindow::closeApply()
 void MainWindow::scanDevice()
 {
     serialPorts = QSerialPortInfo::availablePorts();
-    QStringList names;
-    for (const QSerialPortInfo &port : qAsConst(serialPorts)) {
-        names.append(port.portName());
-    }
-    names.append(additionalPorts());
+    const QStringList names{portNames(serialPorts)};
 
     ui->selectDeviceComboBox->clear();
     if (names.isEmpty()) {
@@ -62,7 +58,7 @@ void MainWindow::scanDevice()
                              QMessageBox::Ok);
         return;
     }
-    for (const QString &name : qAsConst(names)) {
+    for (const QString &name : names) {
         ui->selectDeviceComboBox->addItem(QIcon{}, name, QVariant{});
     }
     ui->connectDeviceButton->setEnabled(true);

@@ -1,0 +1,154 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// One device as the check uses it: opened, asked, written to, closed in any case.
+#include "openeddevice.h"
+
+#include <algorithm>
+
+using namespace veltrix_sdk;
+
+namespace sdk_check
+{
+
+namespace
+{
+
+/// What a KR camera answers when it is asked who it is.
+constexpr std::uint8_t krIdentity{21};
+const std::string noUnit{};
+
+std::string named(const Field &field, const std::string &text)
+{
+    return field.name.empty() ? text : field.name + ' ' + text;
+}
+
+void append(std::string &list, const std::string &text)
+{
+    list += (list.empty() ? "" : ", ") + text;
+}
+
+} // namespace
+
+std::string faultOf(const Reading &row, const Answer &answer)
+{
+    if (answer.result == 0) {
+        return "answers false";
+    }
+    if (answer.result != 1) {
+        return "answers " + std::to_string(answer.result) + "; only 1 is success";
+    }
+    std::string faults;
+    for (std::size_t place{0}; place < row.fields.size(); ++place) {
+        const Field &field = row.fields[place];
+        if (!allows(field.allowed, answer.values[place])) {
+            append(faults, named(field, "answers " + numberText(answer.values[place]) + "; " +
+                                            describe(field.allowed)));
+        }
+    }
+    return faults.empty() && row.objection ? row.objection(answer.values) : faults;
+}
+
+std::string answerText(const Reading &row, const Answer &answer)
+{
+    if (row.fields.empty() || answer.result == 0) {
+        return numberText(answer.result, true);
+    }
+    std::string text;
+    for (std::size_t place{0}; place < row.fields.size(); ++place) {
+        const Field &field = row.fields[place];
+        append(text, named(field, numberText(answer.values[place], field.allowed.boolean)));
+    }
+    return text;
+}
+
+bool same(const Answer &left, const Answer &right)
+{
+    const auto sameNumber = [](double one, double other) {
+        return same(one, other);
+    };
+    return left.result == right.result && std::equal(left.values.begin(), left.values.end(),
+                                                     right.values.begin(), right.values.end(), sameNumber);
+}
+
+OpenedDevice::~OpenedDevice()
+{
+    if (device != nullptr) {
+        report.timed("closeDevice", noUnit, [&] { manager->closeDevice(device); });
+        report.add({Outcome::Holds, "closeDevice", noUnit, "called"});
+    }
+    if (manager != nullptr) {
+        report.timed("releaseDeviceManager", noUnit, [&] { sdk.releaseDeviceManager(&manager); });
+        report.add({Outcome::Holds, "releaseDeviceManager", noUnit, "called"});
+    }
+}
+
+bool OpenedDevice::open(const std::string &port)
+{
+    manager = report.timed("getDeviceManager", noUnit, [&] { return sdk.getDeviceManager(); });
+    if (manager == nullptr) {
+        report.add({Outcome::Fails, "getDeviceManager", noUnit, "answers null"});
+        return false;
+    }
+    report.add({Outcome::Holds, "getDeviceManager", noUnit, "a manager"});
+
+    device = report.timed("openDevice", noUnit, [&] { return manager->openDevice(port.c_str()); });
+    if (device == nullptr) {
+        report.add({Outcome::Fails, "openDevice", noUnit, "answers null for the port " + escaped(port)});
+        return false;
+    }
+    report.add({Outcome::Holds, "openDevice", noUnit, "a device on the port " + escaped(port)});
+    // The program addresses the Blend Unit before it asks who is there, and asks in any case.
+    select(Unit::BlendUnit);
+    return identify();
+}
+
+bool OpenedDevice::identify()
+{
+    const Reading identity{"connect",
+                           {},
+                           UsedOn::Both,
+                           {{"identity", oneOf({krIdentity})}},
+                           true,
+                           [](IDeviceControl &asked, Values &answer) {
+                               std::uint8_t byte{0};
+                               const std::uint8_t result{asked.connect(&byte)};
+                               answer[0] = byte;
+                               return result;
+                           }};
+    Answer answer{0, Values(1)};
+    answer.result = report.timed("connect", noUnit, [&] { return identity.read(*device, answer.values); });
+    const std::string fault{faultOf(identity, answer)};
+    const bool known{fault.empty()};
+    report.add({known ? Outcome::Holds : Outcome::Fails, "connect", noUnit,
+                known ? answerText(identity, answer) : fault});
+    return known;
+}
+
+bool OpenedDevice::select(Unit unit)
+{
+    const auto target = static_cast<std::int32_t>(unit);
+    const std::string name{nameOf(unit)};
+    const bool selected{report.timed("setTarget", name, [&] { return device->setTarget(target); })};
+    bool &before{everSelected[static_cast<std::size_t>(unit)]};
+    if (!selected) {
+        report.add({Outcome::Fails, "setTarget", name, "answers false"});
+    } else if (!before) {
+        report.add({Outcome::Holds, "setTarget", name, "true"});
+    }
+    before = before || selected;
+    return selected;
+}
+
+Answer OpenedDevice::read(const Reading &row, Unit unit)
+{
+    Answer answer{0, Values(row.fields.size())};
+    answer.result = report.timed(row.get, nameOf(unit), [&] { return row.read(*device, answer.values); });
+    return answer;
+}
+
+bool OpenedDevice::write(const Reading &row, Unit unit, const Values &values)
+{
+    return report.timed(row.set, nameOf(unit), [&] { return row.write(*device, values); });
+}
+
+} // namespace sdk_check

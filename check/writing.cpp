@@ -1,0 +1,189 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// Setting one number of a setting to another value and back.
+#include "writing.h"
+
+#include <cmath>
+#include <utility>
+
+namespace sdk_check
+{
+
+namespace
+{
+
+/// A lost answer must not leave the device changed.
+constexpr int attemptsToRestore{3};
+
+/// What follows the name of the setter: what is asked for and the number that is changed.
+std::string labelOf(const Reading &row, const Field &field)
+{
+    return row.set + row.detail + (field.name.empty() ? "" : ' ' + field.name);
+}
+
+/// An allowed value other than the one that was found; that one itself where there is no other.
+double otherValue(const Field &field, double found)
+{
+    const Values ends{field.allowed.minimum, field.allowed.maximum};
+    for (const double value : field.tries.empty() ? ends : field.tries) {
+        if (!same(value, found)) {
+            return value;
+        }
+    }
+    return found;
+}
+
+bool isWhole(double number)
+{
+    return std::trunc(number) == number;
+}
+
+/// Which number the setter could not put back as it was found; empty when it can.
+std::string fractionOf(const Reading &row, const Answer &found)
+{
+    for (std::size_t place{0}; place < row.fields.size(); ++place) {
+        if (row.fields[place].sentWhole && !isWhole(found.values[place])) {
+            return row.fields[place].name + ' ' + numberText(found.values[place]);
+        }
+    }
+    return {};
+}
+
+/// One number of one setting on one unit.
+class Trial
+{
+public:
+    Trial(OpenedDevice &itsDevice, const Reading &itsRow, Unit itsUnit, std::size_t itsPlace,
+          const Answer &itsFound)
+        : device{itsDevice}, row{itsRow}, unit{itsUnit}, place{itsPlace}, found{itsFound}
+    {}
+
+    /// What was found decides whether anything is sent: it must be possible to put it back.
+    Finding run(const Interrupted &interrupted)
+    {
+        const std::string fault{faultOf(row, found)};
+        if (!fault.empty()) {
+            return finding(Outcome::Fails, "not tried, because " + row.get + ' ' + fault);
+        }
+        const std::string fraction{fractionOf(row, found)};
+        if (!fraction.empty()) {
+            return finding(Outcome::Skipped, "takes whole numbers and could not put back " + fraction);
+        }
+        const double value{otherValue(field(), found.values[place])};
+        if (same(value, found.values[place])) {
+            return finding(Outcome::Skipped, "no value but " + text(value) + " is allowed");
+        }
+        return tryValue(value, interrupted);
+    }
+
+private:
+    const Field &field() const { return row.fields[place]; }
+
+    std::string text(double value) const { return numberText(value, field().allowed.boolean); }
+
+    Finding finding(Outcome outcome, std::string said) const
+    {
+        return {outcome, labelOf(row, field()), nameOf(unit), std::move(said)};
+    }
+
+    Finding tryValue(double value, const Interrupted &interrupted)
+    {
+        std::string fault{change(value, interrupted)};
+        const Restored restored = restore();
+        const std::string before{text(found.values[place])};
+        if (!same(restored.answer, found)) {
+            return finding(Outcome::Fails, fault + (fault.empty() ? "" : "; ") + howItIsLeft(restored));
+        }
+        if (fault.empty() && !restored.acknowledged) {
+            fault = "answers false to " + before;
+        }
+        if (!fault.empty()) {
+            return finding(Outcome::Fails, fault + "; back at " + before);
+        }
+        return wasRead ? finding(Outcome::Holds, text(value) + " and back to " + before)
+                       : finding(Outcome::Skipped, "interrupted; back at " + before);
+    }
+
+    /// Sets and reads the value; returns what is wrong.
+    std::string change(double value, const Interrupted &interrupted)
+    {
+        Values changed{found.values};
+        changed[place] = value;
+        if (!device.write(row, unit, changed)) {
+            return "answers false to " + text(value);
+        }
+        if (interrupted()) {
+            return {};
+        }
+        wasRead = true;
+        const Answer answer = device.read(row, unit);
+        if (answer.result == 1 && matches(answer.values, changed)) {
+            return {};
+        }
+        return "set to " + text(value) + ", but " + row.get + " answers " + answerText(row, answer);
+    }
+
+    /// What the last attempt to put back what was found came to.
+    struct Restored
+    {
+        bool acknowledged;
+        Answer answer;
+    };
+
+    Restored restore()
+    {
+        Restored restored{};
+        for (int attempt{0}; attempt < attemptsToRestore; ++attempt) {
+            restored.acknowledged = device.write(row, unit, found.values);
+            restored.answer = device.read(row, unit);
+            if (restored.acknowledged && same(restored.answer, found)) {
+                break;
+            }
+        }
+        return restored;
+    }
+
+    std::string howItIsLeft(const Restored &restored) const
+    {
+        return "NOT RESTORED: " + row.set + " answers " + numberText(restored.acknowledged ? 1 : 0, true) +
+               " and " + row.get + ' ' + answerText(row, restored.answer) + " instead of " +
+               answerText(row, found);
+    }
+
+    /// Whether all numbers that are sent came back; the others are the device's own affair.
+    bool matches(const Values &read, const Values &sent) const
+    {
+        for (std::size_t number{0}; number < sent.size(); ++number) {
+            if (row.fields[number].written != Written::Follows && !same(read[number], sent[number])) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    OpenedDevice &device;
+    const Reading &row;
+    const Unit unit;
+    const std::size_t place;
+    const Answer &found;
+    bool wasRead{false};
+};
+
+} // namespace
+
+void tryWriting(OpenedDevice &device, const Reading &row, Unit unit, Report &report,
+                const Interrupted &interrupted)
+{
+    for (std::size_t place{0}; place < row.fields.size(); ++place) {
+        if (row.fields[place].written != Written::Changed) {
+            continue;
+        }
+        if (interrupted()) {
+            return;
+        }
+        const Answer found = device.read(row, unit);
+        report.add(Trial{device, row, unit, place, found}.run(interrupted));
+    }
+}
+
+} // namespace sdk_check

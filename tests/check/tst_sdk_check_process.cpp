@@ -1,0 +1,302 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The check of an SDK library as a process: arguments, exit status, signals, and with which library it
+// starts.
+#include "program.h"
+
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+#include <QSerialPortInfo>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <csignal>
+#include <fcntl.h>
+#include <sys/ioctl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace
+{
+
+/// The lines that begin with "not ok", without that.
+QStringList notOkLines(const QString &output)
+{
+    QStringList lines{output.split('\n').filter(QRegularExpression{"^not ok "})};
+    lines.replaceInStrings(QRegularExpression{"^not ok "}, "");
+    return lines;
+}
+
+QStringList scannedPorts()
+{
+    QStringList names;
+    for (const QSerialPortInfo &port : QSerialPortInfo::availablePorts()) {
+        names.append(port.portName());
+    }
+    return names;
+}
+
+/// A pipe of one page: a process that writes into it waits in the middle of its report until it is read.
+class NarrowPipe
+{
+public:
+    NarrowPipe()
+    {
+        if (::mkfifo(QFile::encodeName(path()).constData(), 0600) == 0) {
+            descriptor = ::open(QFile::encodeName(path()).constData(), O_RDWR | O_NONBLOCK | O_CLOEXEC);
+            capacity = ::fcntl(descriptor, F_SETPIPE_SZ, 1);
+        }
+    }
+    ~NarrowPipe() { ::close(descriptor); }
+    NarrowPipe(const NarrowPipe &) = delete;
+    NarrowPipe &operator=(const NarrowPipe &) = delete;
+
+    QString path() const { return directory.filePath("pipe"); }
+
+    /// Whether hardly another line fits in.
+    bool isFull() const
+    {
+        constexpr int longestLine{200};
+        int waiting{0};
+        return ::ioctl(descriptor, FIONREAD, &waiting) == 0 && waiting > capacity - longestLine;
+    }
+
+    /// What is in it.
+    QByteArray read() const
+    {
+        QByteArray all;
+        char buffer[4096];
+        for (ssize_t size{0}; (size = ::read(descriptor, buffer, sizeof buffer)) > 0;) {
+            all.append(buffer, static_cast<int>(size));
+        }
+        return all;
+    }
+
+private:
+    QTemporaryDir directory;
+    int descriptor{-1};
+    int capacity{0};
+};
+
+} // namespace
+
+class SdkCheckProcessTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void findsWhatIsWrong_data();
+    void findsWhatIsWrong();
+    void listsPortsWithoutAPort();
+    void listsNoPortOfALibraryThatHasNone();
+    void refusesWrongArguments_data();
+    void refusesWrongArguments();
+    void helps();
+    void writesJson();
+    void namesAPortThatDoesNotOpen();
+    void endsWellWhenItIsInterrupted_data();
+    void endsWellWhenItIsInterrupted();
+    void goesOnWithoutAReader();
+    void endsWithTheLoadersMessageWithoutALibrary();
+    void endsWithTheLoadersMessageWithAnIncompleteLibrary();
+};
+
+void SdkCheckProcessTest::findsWhatIsWrong_data()
+{
+    QTest::addColumn<QString>("library");  ///< A variant of the simulator; empty: the one of the build.
+    QTest::addColumn<QString>("scenario"); ///< Of the simulator; empty: nothing happens to it.
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QStringList>("notOk"); ///< The lines that begin so, without that.
+    const auto row = [](const char *name, const QString &library, const QString &scenario,
+                        const QStringList &arguments, const QStringList &notOk) {
+        QTest::addRow("%s", name) << library << scenario << arguments << notOk;
+    };
+    row("healthy, read", {}, {}, {}, {});
+    row("healthy, read often", {}, {}, {"--repeat", "20"}, {});
+    row("healthy, written", {}, {}, {"--write", "--repeat", "1"}, {});
+    row("another library of the same contract", "contract-only", {}, {"--write"}, {});
+    row("wrong answers, written", {}, "wrong-answers", {"--write"},
+        {"getVideoMode (Blend Unit): answers 9; 0 to 2 is allowed",
+         "getFrameRate (camera): answers 15; 9, 25, 30, 50 or 60 is allowed",
+         "getPolarity (camera): answers true in round 2; the first answer was false",
+         "getTemperatures (Blend Unit): sensor answers nan; 200000 to 400000 is allowed in round 3",
+         "repeated reads (Blend Unit): 27 of 28 answers as before",
+         "repeated reads (camera): 93 of 94 answers as before",
+         "setVideoMode (Blend Unit): not tried, because getVideoMode answers 9; 0 to 2 is allowed",
+         "setFrameRate (camera): not tried, because getFrameRate answers 15; 9, 25, 30, 50 or 60 is allowed",
+         "setClhe (camera): answers false to 0; back at 2000",
+         "setColorLut (camera): set to 7, but getColorLut answers 0; back at 0",
+         "setTint (camera): NOT RESTORED: setTint answers false and getTint 0 instead of 10"});
+}
+
+void SdkCheckProcessTest::findsWhatIsWrong()
+{
+    QFETCH(const QString, library);
+    QFETCH(const QString, scenario);
+    QFETCH(const QStringList, arguments);
+    QFETCH(const QStringList, notOk);
+    QProcessEnvironment environment{programEnvironment()};
+    environment.remove("VELTRIX_SIMULATOR_SCENARIO");
+    if (!library.isEmpty()) {
+        environment.insert("LD_LIBRARY_PATH", SDK_VARIANTS_DIRECTORY "/" + library);
+    }
+    if (!scenario.isEmpty()) {
+        environment.insert("VELTRIX_SIMULATOR_SCENARIO", scenario);
+    }
+    const Outcome outcome{run(PROGRAM, QStringList{"--port", "SIM1"} + arguments, environment)};
+    QVERIFY2(outcome.exited, qPrintable(outcome.errors));
+    QCOMPARE(notOkLines(outcome.output), notOk);
+    QCOMPARE(outcome.status, notOk.isEmpty() ? 0 : 1);
+    QCOMPARE(outcome.errors, QString{});
+}
+
+void SdkCheckProcessTest::listsPortsWithoutAPort()
+{
+    const Outcome outcome{run(PROGRAM, {}, programEnvironment())};
+    QStringList lines{"Ports:"};
+    for (const QString &port : scannedPorts() + QStringList{"SIM1"}) {
+        lines.append("  " + port);
+    }
+    lines.append({"To check the library on one of them: pilotel-sdk-check --port SIM1",
+                  "More: pilotel-sdk-check --help", ""});
+    QCOMPARE(outcome.output.split('\n'), lines);
+    QCOMPARE(outcome.status, 2);
+}
+
+void SdkCheckProcessTest::listsNoPortOfALibraryThatHasNone()
+{
+    QProcessEnvironment environment{programEnvironment()};
+    environment.insert("LD_LIBRARY_PATH", SDK_VARIANTS_DIRECTORY "/contract-only");
+    const Outcome outcome{run(PROGRAM, {}, environment)};
+    QCOMPARE(outcome.status, 2);
+    QVERIFY(!outcome.output.contains("SIM1"));
+    QCOMPARE(outcome.output.contains("No port found. Plug one in, or name one:"), scannedPorts().isEmpty());
+}
+
+void SdkCheckProcessTest::refusesWrongArguments_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("error");
+    const auto row = [](const QStringList &arguments, const char *error) {
+        QTest::addRow("%s", qPrintable(arguments.join(' '))) << arguments << QString{error};
+    };
+    row({"--wirte"}, "Unknown option 'wirte'.");
+    row({"--port"}, "Missing value after '--port'.");
+    row({"--port", ""}, "--port takes the name of a port.");
+    row({"SIM1"}, "Not understood: SIM1");
+    row({"--port", "SIM1", "\x1b[31m"}, R"(Not understood: \x1b[31m)");
+    row({"--port", "SIM1", "--repeat", "0"}, "--repeat takes a number from 1 to 10000.");
+    row({"--port", "SIM1", "--repeat", "10001"}, "--repeat takes a number from 1 to 10000.");
+    row({"--port", "SIM1", "--repeat", "many"}, "--repeat takes a number from 1 to 10000.");
+}
+
+void SdkCheckProcessTest::refusesWrongArguments()
+{
+    QFETCH(const QStringList, arguments);
+    QFETCH(const QString, error);
+    const Outcome outcome{run(PROGRAM, arguments, programEnvironment())};
+    QCOMPARE(outcome.status, 2);
+    QCOMPARE(outcome.output, QString{});
+    QCOMPARE(outcome.errors.section('\n', 0, 0), error);
+    QVERIFY2(outcome.errors.contains("\nUsage: "), qPrintable(outcome.errors));
+}
+
+void SdkCheckProcessTest::helps()
+{
+    const Outcome outcome{run(PROGRAM, {"--help"}, programEnvironment())};
+    QCOMPARE(outcome.status, 0);
+    for (const char *const text : {"--port <name>", "--write", "--repeat <count>", "--json", "Exit status: 0",
+                                   "saveBlendUnitParameters", "setMavlinkBaudRate", "processNucRequest",
+                                   "readBprTable", "writeBprTable", "addBadPixel", "removeBadPixel"}) {
+        QVERIFY2(outcome.output.contains(text), text);
+    }
+}
+
+void SdkCheckProcessTest::writesJson()
+{
+    const Outcome outcome{run(PROGRAM, {"--port", "SIM1", "--write", "--json"}, programEnvironment())};
+    QCOMPARE(outcome.status, 0);
+    const QJsonDocument document{QJsonDocument::fromJson(outcome.output.toUtf8())};
+    const QJsonObject counts{{"ok", 206}, {"notOk", 0}, {"skipped", 0}};
+    QCOMPARE(document["counts"].toObject(), counts);
+    QCOMPARE(document["allHold"], QJsonValue{true});
+}
+
+void SdkCheckProcessTest::namesAPortThatDoesNotOpen()
+{
+    const Outcome outcome{run(PROGRAM, {"--port", "COM\n9"}, programEnvironment())};
+    QCOMPARE(outcome.status, 1);
+    QCOMPARE(notOkLines(outcome.output), QStringList{R"(openDevice: answers null for the port COM\n9)"});
+    QVERIFY(outcome.output.contains("\nok     releaseDeviceManager: called\n"));
+    QVERIFY(!outcome.output.contains("closeDevice"));
+}
+
+void SdkCheckProcessTest::endsWellWhenItIsInterrupted_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::newRow("SIGINT") << SIGINT;
+    QTest::newRow("SIGTERM") << SIGTERM;
+    QTest::newRow("SIGHUP") << SIGHUP;
+}
+
+void SdkCheckProcessTest::endsWellWhenItIsInterrupted()
+{
+    QFETCH(const int, signal);
+    const NarrowPipe pipe;
+    QProcess process;
+    process.setProcessEnvironment(programEnvironment());
+    process.setStandardOutputFile(pipe.path());
+    process.start(PROGRAM, {"--port", "SIM1", "--write"});
+    QTRY_VERIFY_WITH_TIMEOUT(pipe.isFull(), 30000);
+    QCOMPARE(::kill(static_cast<pid_t>(process.processId()), signal), 0);
+    QByteArray output;
+    while (process.state() == QProcess::Running) {
+        output += pipe.read();
+        process.waitForFinished(10);
+    }
+    output += pipe.read();
+    QVERIFY2(!output.contains("(3) (camera)"), output);
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 1);
+    QVERIFY2(output.contains("\nok     closeDevice: called\nok     releaseDeviceManager: called\n"), output);
+    QVERIFY2(output.contains("\nInterrupted before the end: "), output);
+}
+
+void SdkCheckProcessTest::goesOnWithoutAReader()
+{
+    // A reader that has seen enough must not leave a setting changed behind it.
+    const Outcome outcome{
+        run("bash", {"-c", R"("$0" --port SIM1 --write | head -n 1; exit "${PIPESTATUS[0]}")", PROGRAM},
+            programEnvironment())};
+    QCOMPARE(outcome.output, QString{"ok     get_instance: the root\n"});
+    QCOMPARE(outcome.status, 0);
+}
+
+void SdkCheckProcessTest::endsWithTheLoadersMessageWithoutALibrary()
+{
+    QTemporaryDir directory;
+    const QString alone{directory.filePath("pilotel-sdk-check")};
+    QVERIFY(QFile::copy(PROGRAM, alone));
+    const Outcome outcome{run(alone, {"--port", "SIM1"}, programEnvironment())};
+    QVERIFY(outcome.exited);
+    QVERIFY(outcome.status != 0);
+    QCOMPARE(outcome.output, QString{});
+    QVERIFY2(outcome.errors.contains("libveltrix.sdk.so"), qPrintable(outcome.errors));
+}
+
+void SdkCheckProcessTest::endsWithTheLoadersMessageWithAnIncompleteLibrary()
+{
+    QProcessEnvironment environment{programEnvironment()};
+    environment.insert("LD_LIBRARY_PATH", SDK_VARIANTS_DIRECTORY "/incomplete");
+    const Outcome outcome{run(PROGRAM, {"--port", "SIM1"}, environment)};
+    QVERIFY(outcome.exited);
+    QVERIFY(outcome.status != 0);
+    QCOMPARE(outcome.output, QString{});
+    QVERIFY2(outcome.errors.contains("undefined symbol"), qPrintable(outcome.errors));
+    QVERIFY2(outcome.errors.contains("GetILogger"), qPrintable(outcome.errors));
+}
+
+QTEST_GUILESS_MAIN(SdkCheckProcessTest)
+#include "tst_sdk_check_process.moc"
