@@ -1,0 +1,173 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// What an operator sees in each of the scenarios that ship.
+#include "boxpresser.h"
+#include "testwindow.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QDoubleSpinBox>
+#include <QPlainTextEdit>
+#include <QSerialPortInfo>
+#include <QTest>
+
+#include <functional>
+
+using veltrix_simulator::Simulator;
+
+/// Stands in for the host's own: it has none, so that the ports are those of the scenario on every machine.
+QList<QSerialPortInfo> QSerialPortInfo::availablePorts()
+{
+    return {};
+}
+
+namespace
+{
+
+/// One thing that the operator does; without a condition the operator can always do it.
+struct Step
+{
+    const char *name;
+    const char *needs; ///< Widget that has to be shown and enabled for it.
+    std::function<void(TestWindow &)> act;
+};
+
+std::function<void(TestWindow &)> click(const char *button)
+{
+    return [=](TestWindow &test) {
+        test.child<QAbstractButton>(QString::fromLatin1(button)).click();
+    };
+}
+
+/// The session that is gone through in every scenario.
+const std::vector<Step> &session()
+{
+    static const std::vector<Step> steps{
+        {"scan", "scanDeviceButton", click("scanDeviceButton")},
+        {"connect", "connectDeviceButton", click("connectDeviceButton")},
+        {"turn to the camera", "paramSection",
+         [](TestWindow &test) {
+             test.showPage("Veltrix_KR_tab");
+         }},
+        {"type a gamma of 1.5", "gammaEdit",
+         [](TestWindow &test) {
+             auto &gamma = test.child<QDoubleSpinBox>("gammaEdit");
+             gamma.setFocus();
+             gamma.setValue(1.5);
+             QTest::keyClick(&gamma, Qt::Key_Tab);
+         }},
+        {"choose the third colour table", "lutColorEdit",
+         [](TestWindow &test) {
+             test.child<QComboBox>("lutColorEdit").setCurrentIndex(2);
+         }},
+        {"read the parameters", "readParamButtonUser", click("readParamButtonUser")},
+        {"turn to the fusion", "paramSection",
+         [](TestWindow &test) {
+             test.showPage("Fusion_tab");
+         }},
+        {"choose the infrared video", "BU_IR_MODE_PB", click("BU_IR_MODE_PB")},
+        {"send the warp", "FusionWarpPB", click("FusionWarpPB")},
+        {"save the user parameters", "saveParamButtonUser", click("saveParamButtonUser")},
+        {"disconnect", "disconnectDeviceButton", click("disconnectDeviceButton")},
+        {"connect again", "connectDeviceButton", click("connectDeviceButton")},
+        {"disconnect again", "disconnectDeviceButton", click("disconnectDeviceButton")},
+    };
+    return steps;
+}
+
+/// What of the window tells an operator how things stand, beside the log.
+QStringList standingOf(const TestWindow &test)
+{
+    QStringList temperatures;
+    for (const char *const name : {"FusionFpgaTempTextEdit", "FpgaTempTextEdit", "SensorTempTextEdit"}) {
+        temperatures.append(test.child<QPlainTextEdit>(QString::fromLatin1(name)).toPlainText());
+    }
+    const QStringList enabled{
+        test.enabledOf({QStringLiteral("connectDeviceButton"), QStringLiteral("disconnectDeviceButton"),
+                        QStringLiteral("paramSection")})};
+    return {QStringLiteral("  temperatures: ") + temperatures.join(QStringLiteral(" / ")),
+            QStringLiteral("  enabled: ") + enabled.join(QStringLiteral(", "))};
+}
+
+/// Goes through the session and writes down the log, the boxes and what is enabled after each step.
+QString storyOf(TestWindow &test)
+{
+    const BoxPresser presser{test.boxes};
+    QStringList story;
+    for (const Step &step : session()) {
+        const auto &needed = test.child<QWidget>(QString::fromLatin1(step.needs));
+        if (!needed.isEnabled()) {
+            story.append(QStringLiteral("== %1: not possible").arg(QString::fromLatin1(step.name)));
+            continue;
+        }
+        story.append(QStringLiteral("== ") + QString::fromLatin1(step.name));
+        step.act(test);
+        for (const QString &line : test.takeLog()) {
+            story.append(QStringLiteral("  ") + line);
+        }
+        for (const QString &box : test.boxes.takeShown()) {
+            story.append(QStringLiteral("  box: ") +
+                         QString{box}.replace(QLatin1Char{'\n'}, QStringLiteral("\\n")));
+        }
+        story.append(standingOf(test));
+    }
+    for (const std::string &origin : test.simulator.unfiredFaults()) {
+        story.append(QStringLiteral("never happened: ") + QString::fromStdString(origin));
+    }
+    return story.join(QLatin1Char{'\n'}) + QLatin1Char{'\n'};
+}
+
+} // namespace
+
+class ShippedScenariosTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void showWhatTheyPromise_data();
+    void showWhatTheyPromise();
+    void everyStoryHasItsScenario();
+};
+
+void ShippedScenariosTest::showWhatTheyPromise_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const QFileInfo &file : QDir{QStringLiteral(SCENARIOS)}.entryInfoList({QStringLiteral("*.toml")})) {
+        QTest::newRow(qPrintable(file.completeBaseName())) << file.completeBaseName();
+    }
+}
+
+void ShippedScenariosTest::showWhatTheyPromise()
+{
+    QFETCH(QString, name);
+    TestWindow test{[&](Simulator &simulator) {
+        simulator.loadScenario(name.toStdString());
+    }};
+    const QString story{storyOf(test)};
+
+    QFile file{QStringLiteral(EXPECTATIONS "/%1.txt").arg(name)};
+    if (qEnvironmentVariableIsSet("PILOTEL_STORE_STORIES")) {
+        QVERIFY2(file.open(QIODevice::WriteOnly), qPrintable(file.errorString()));
+        file.write(story.toUtf8());
+        QSKIP("the story has been stored, not compared");
+    }
+    QVERIFY2(file.open(QIODevice::ReadOnly),
+             qPrintable(file.fileName() + QStringLiteral(": ") + file.errorString()));
+    const QStringList expected{QString::fromUtf8(file.readAll()).split(QLatin1Char{'\n'})};
+    QCOMPARE(story.split(QLatin1Char{'\n'}), expected);
+}
+
+void ShippedScenariosTest::everyStoryHasItsScenario()
+{
+    const auto namesIn = [](const QString &folder) {
+        QStringList names;
+        for (const QFileInfo &file : QDir{folder}.entryInfoList(QDir::Files)) {
+            names.append(file.completeBaseName());
+        }
+        return names;
+    };
+    QCOMPARE(namesIn(QStringLiteral(EXPECTATIONS)), namesIn(QStringLiteral(SCENARIOS)));
+}
+
+QTEST_MAIN(ShippedScenariosTest)
+#include "tst_shipped_scenarios.moc"
