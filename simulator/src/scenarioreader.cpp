@@ -274,16 +274,14 @@ std::variant<Scenario, ScenarioError> readScenario(std::string_view text, const 
     if (std::optional<ScenarioError> error = objectionToSize(text, fileName)) {
         return *std::move(error);
     }
-    const toml::parse_result parsed = toml::parse(text);
-    if (!parsed) {
-        const toml::source_position &position = parsed.error().source().begin;
-        const std::string description = oneLine(parsed.error().description(), 200);
+    const std::variant<toml::table, TomlError> parsed = parseToml(text);
+    if (const auto *const error = std::get_if<TomlError>(&parsed)) {
         return ScenarioError{
-            fileName, position.line, position.column, {}, "this is not TOML: " + description};
+            fileName, error->line, error->column, {}, "this is not TOML: " + oneLine(error->reason, 200)};
     }
     try {
         Scenario scenario;
-        readTable(Entry{parsed.table(), {}, fileName}, scenarioSettings, scenario);
+        readTable(Entry{std::get<toml::table>(parsed), {}, fileName}, scenarioSettings, scenario);
         return scenario;
     } catch (ScenarioError &error) {
         return std::move(error);

@@ -262,6 +262,18 @@ void ScenarioErrorsTest::fileIsRefusedWith_data()
             "table 'link'");
     refuses("unclosed text", "[memory]\nfile = \"x",
             "flaky.toml:2:10: this is not TOML: Error while parsing string: encountered end-of-file");
+    refuses("letters in a key", "seed = 1\ngröße = 1",
+            "flaky.toml:2:3: this is not TOML: Error while parsing key-value pair: expected '=', saw 'ö'");
+    refuses("letters in a heading", "seed = 1\n[größe]",
+            "flaky.toml:2:4: this is not TOML: Error while parsing table header: expected ']', saw 'ö'");
+    refuses("sign in a heading", "seed = 1\n\n[[~ort]]\nname = \"A\"",
+            "flaky.toml:3:1: this is not TOML: this line has a character that needs quotes");
+    refuses("sign in a key", "seed = 1\n~ = 3",
+            "flaky.toml:2:1: this is not TOML: Error while parsing root table: expected keys, tables, "
+            "whitespace or comments, saw '~'");
+    refuses("letter for a value", "seed = é",
+            "flaky.toml:1:8: this is not TOML: Error while parsing value: could not determine value type");
+    refuses("letters in a text", "[memory]\nfile = \"größe.json\"", "fine");
 }
 
 void ScenarioErrorsTest::fileIsRefusedWith()
