@@ -25,18 +25,20 @@ char lower(char character)
 /// letters does not count.
 std::size_t distance(std::string_view from, std::string_view to)
 {
-    std::vector<std::size_t> row(to.size() + 1);
-    std::iota(row.begin(), row.end(), std::size_t{0});
+    std::vector<std::size_t> row(to.size());
+    std::iota(row.begin(), row.end(), std::size_t{1});
+    std::size_t left{to.size()};
     for (std::size_t line{0}; line < from.size(); ++line) {
-        std::size_t diagonal{row[0]};
-        row[0] = line + 1;
+        std::size_t diagonal{line};
+        left = line + 1;
         for (std::size_t place{0}; place < to.size(); ++place) {
             const std::size_t replaced{diagonal + (lower(from[line]) == lower(to[place]) ? 0 : 1)};
-            diagonal = row[place + 1];
-            row[place + 1] = std::min({replaced, row[place] + 1, diagonal + 1});
+            diagonal = row[place];
+            left = std::min({replaced, left + 1, diagonal + 1});
+            row[place] = left;
         }
     }
-    return row.back();
+    return left;
 }
 
 /// Whether a name was broken off, such as "interval" for "intervalSeconds".

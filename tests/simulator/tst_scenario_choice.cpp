@@ -130,10 +130,10 @@ void ScenarioChoiceTest::processPlays_data()
           "veltrix.sdk: wrong.toml:2:1: \"lynk\" is unknown here; did you mean \"link\"?\n");
     plays(
         "missing file", "./missing", broken,
-        "veltrix.sdk: the scenario file \"./missing\" cannot be read; name a file that can be, or a scenario "
+        R"(veltrix.sdk: the scenario file "./missing" cannot be read; name a file that can be, or a scenario )"
         "that the simulator brings along, such as \"default\"\n");
     plays("unknown name", "no-port", broken,
-          "veltrix.sdk: there is no scenario \"no-port\"; did you mean \"no-ports\"?" + cure() + '\n');
+          R"(veltrix.sdk: there is no scenario "no-port"; did you mean "no-ports"?)" + cure() + '\n');
 }
 
 void ScenarioChoiceTest::processPlays()
@@ -208,18 +208,19 @@ void ScenarioChoiceTest::refusedScenarioIsNamed_data()
 {
     QTest::addColumn<QString>("nameOrPath");
     QTest::addColumn<QString>("message");
-    const QString unreadable = "\" cannot be read; name a file that can be, or a scenario that the simulator "
-                               "brings along, such as \"default\"";
+    const QString unreadable =
+        R"(" cannot be read; name a file that can be, or a scenario that the simulator )"
+        R"(brings along, such as "default")";
     const QString wrong = directory.filePath("wrong.toml");
     QTest::newRow("name") << "zzz"
-                          << "there is no scenario \"zzz\"." + cure();
+                          << R"(there is no scenario "zzz".)" + cure();
     QTest::newRow("empty name") << ""
-                                << "there is no scenario \"\"." + cure();
+                                << R"(there is no scenario "".)" + cure();
     QTest::newRow("path") << "./zzz"
-                          << "the scenario file \"./zzz" + unreadable;
+                          << R"(the scenario file "./zzz)" + unreadable;
     QTest::newRow("folder") << "./"
-                            << "the scenario file \"./" + unreadable;
-    QTest::newRow("file") << wrong << wrong + ":2:1: \"lynk\" is unknown here; did you mean \"link\"?";
+                            << R"(the scenario file "./)" + unreadable;
+    QTest::newRow("file") << wrong << wrong + R"(:2:1: "lynk" is unknown here; did you mean "link"?)";
 }
 
 void ScenarioChoiceTest::refusedScenarioIsNamed()

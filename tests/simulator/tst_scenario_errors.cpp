@@ -56,202 +56,200 @@ void ScenarioErrorsTest::fileIsRefusedWith_data()
         QTest::newRow(row) << file << QString::fromUtf8(message);
     };
 
-    refuses("unknown key", "seeed = 1", "flaky.toml:1:1: \"seeed\" is unknown here; did you mean \"seed\"?");
+    refuses("unknown key", "seeed = 1", R"(flaky.toml:1:1: "seeed" is unknown here; did you mean "seed"?)");
     refuses("unknown table", "[lynk]\nkind = \"none\"",
-            "flaky.toml:1:2: \"lynk\" is unknown here; did you mean \"link\"?");
+            R"(flaky.toml:1:2: "lynk" is unknown here; did you mean "link"?)");
     refuses("nothing like it", "zzzzzzzz = 1",
-            "flaky.toml:1:1: \"zzzzzzzz\" is unknown here; it can be \"seed\", \"configuration\", "
-            "\"camera\", \"blendUnit\", \"port\", \"link\", \"fault\", \"memory\" or \"life\"");
+            R"(flaky.toml:1:1: "zzzzzzzz" is unknown here; it can be "seed", "configuration", )"
+            R"("camera", "blendUnit", "port", "link", "fault", "memory" or "life")");
     refuses("case counts", "[[fault]]\noperation = \"setGamma\"\neffect = \"refuse\"\noncall = 3",
-            "flaky.toml:4:1: \"fault.oncall\" is unknown here; did you mean \"onCall\"?");
+            R"(flaky.toml:4:1: "fault.oncall" is unknown here; did you mean "onCall"?)");
     refuses("unknown key, few known", "[link]\nkind = \"none\"\nq = 1",
-            "flaky.toml:3:1: \"link.q\" is unknown here; it can be \"kind\", \"millisecondsPerCall\", "
-            "\"bytesPerCommand\", \"baudRate\", \"thinkTimeMilliseconds\" or \"jitterMilliseconds\"");
+            R"(flaky.toml:3:1: "link.q" is unknown here; it can be "kind", "millisecondsPerCall", )"
+            R"("bytesPerCommand", "baudRate", "thinkTimeMilliseconds" or "jitterMilliseconds")");
     refuses("unknown key of a port", "[[port]]\nname = \"A\"\nopenning = \"opens\"",
-            "flaky.toml:3:1: \"port.openning\" is unknown here; did you mean \"opening\"?");
+            R"(flaky.toml:3:1: "port.openning" is unknown here; did you mean "opening"?)");
     refuses("unknown key of an argument", fault("argument = { place = 1, minimun = 3 }"),
-            "flaky.toml:4:25: \"fault.argument.minimun\" is unknown here; did you mean \"minimum\"?");
-    refuses("unknown key of memory", "memory.path = \"x\"",
-            "flaky.toml:1:8: \"memory.path\" is unknown here; it can be \"file\"");
+            R"(flaky.toml:4:25: "fault.argument.minimun" is unknown here; did you mean "minimum"?)");
+    refuses("unknown key of memory", R"(memory.path = "x")",
+            R"(flaky.toml:1:8: "memory.path" is unknown here; it can be "file")");
     refuses("unknown key of life", "life.drifts = []",
-            "flaky.toml:1:6: \"life.drifts\" is unknown here; did you mean \"drift\"?");
+            R"(flaky.toml:1:6: "life.drifts" is unknown here; did you mean "drift"?)");
     refuses("unknown key of a drift", "[[life.drift]]\nkeys = 1",
-            "flaky.toml:2:1: \"life.drift.keys\" is unknown here; did you mean \"key\"?");
+            R"(flaky.toml:2:1: "life.drift.keys" is unknown here; did you mean "key"?)");
     refuses("unknown key of a counter", "[[life.counter]]\ninterval = 1",
-            "flaky.toml:2:1: \"life.counter.interval\" is unknown here; did you mean \"intervalSeconds\"?");
+            R"(flaky.toml:2:1: "life.counter.interval" is unknown here; did you mean "intervalSeconds"?)");
     refuses("unknown key of a unit", "[camera]\ngama = 1",
-            "flaky.toml:2:1: \"camera.gama\" is unknown here; did you mean \"gamma\"?");
+            R"(flaky.toml:2:1: "camera.gama" is unknown here; did you mean "gamma"?)");
     refuses("unknown inner key of a unit", "[camera]\ntemperatures.sensorMilikelvin = 1",
-            "flaky.toml:2:14: \"camera.temperatures.sensorMilikelvin\" is unknown here; did you mean "
-            "\"sensorMillikelvin\"?");
+            R"(flaky.toml:2:14: "camera.temperatures.sensorMilikelvin" is unknown here; did you mean )"
+            R"("sensorMillikelvin"?)");
     refuses("unknown key of the configuration", "[configuration]\nexpert = true",
-            "flaky.toml:2:1: \"configuration.expert\" is unknown here; did you mean \"expertMode\"?");
+            R"(flaky.toml:2:1: "configuration.expert" is unknown here; did you mean "expertMode"?)");
     refuses("bad pixels of the configuration", "[configuration]\nbadPixels = []",
-            "flaky.toml:2:1: \"configuration.badPixels\" is unknown here");
+            R"(flaky.toml:2:1: "configuration.badPixels" is unknown here)");
     refuses("state value of another type", "[camera]\ngamma = \"much\"",
-            "flaky.toml:2:9: \"camera.gamma\" takes an integer from 0 to 4294967295");
+            R"(flaky.toml:2:9: "camera.gamma" takes an integer from 0 to 4294967295)");
     refuses("state value out of range", "camera.gamma = 4294967296",
-            "flaky.toml:1:16: \"camera.gamma\" takes an integer from 0 to 4294967295");
+            R"(flaky.toml:1:16: "camera.gamma" takes an integer from 0 to 4294967295)");
     refuses("state value without its table", "[camera]\nroi0 = 3",
-            "flaky.toml:2:8: \"camera.roi0\" takes a table");
+            R"(flaky.toml:2:8: "camera.roi0" takes a table)");
     refuses("state table for a value", "camera.gamma.x = 3",
-            "flaky.toml:1:8: \"camera.gamma\" takes an integer from 0 to 4294967295");
+            R"(flaky.toml:1:8: "camera.gamma" takes an integer from 0 to 4294967295)");
     refuses("fraction for an integer", "camera.gamma = 1.5",
-            "flaky.toml:1:16: \"camera.gamma\" takes an integer from 0 to 4294967295");
+            R"(flaky.toml:1:16: "camera.gamma" takes an integer from 0 to 4294967295)");
     refuses("date for a number", "camera.gamma = 2026-01-01",
-            "flaky.toml:1:16: \"camera.gamma\" takes an integer from 0 to 4294967295");
-    refuses("unit that is no table", "camera = 3", "flaky.toml:1:10: \"camera\" takes a table");
+            R"(flaky.toml:1:16: "camera.gamma" takes an integer from 0 to 4294967295)");
+    refuses("unit that is no table", "camera = 3", R"(flaky.toml:1:10: "camera" takes a table)");
     refuses("negative seed", "seed = -1",
-            "flaky.toml:1:8: \"seed\" takes an integer from 0 to 9223372036854775807");
+            R"(flaky.toml:1:8: "seed" takes an integer from 0 to 9223372036854775807)");
     refuses("seed that is too large", "seed = 9223372036854775808",
             "flaky.toml:1:27: this is not TOML: Error while parsing decimal integer: '9223372036854775808' "
             "is not representable in 64 bits");
     refuses("column outside", "camera.badPixels = [[640, 0]]",
-            "flaky.toml:1:22: \"camera.badPixels\" takes an integer from 0 to 639");
+            R"(flaky.toml:1:22: "camera.badPixels" takes an integer from 0 to 639)");
     refuses("row outside", "camera.badPixels = [[0, 0],\n[0, 480]]",
-            "flaky.toml:2:5: \"camera.badPixels\" takes an integer from 0 to 479");
+            R"(flaky.toml:2:5: "camera.badPixels" takes an integer from 0 to 479)");
     refuses("three numbers for a pixel", "camera.badPixels = [[1, 2, 3]]",
-            "flaky.toml:1:21: \"camera.badPixels\" takes a list of a column and a row for each pixel");
+            R"(flaky.toml:1:21: "camera.badPixels" takes a list of a column and a row for each pixel)");
     refuses("pixel without a row", "camera.badPixels = [5]",
-            "flaky.toml:1:21: \"camera.badPixels\" takes a list");
+            R"(flaky.toml:1:21: "camera.badPixels" takes a list)");
     refuses("pixels that are no list", "camera.badPixels = 5",
-            "flaky.toml:1:20: \"camera.badPixels\" takes a list");
-    refuses("port that is no list", "port = \"COM7\"",
-            "flaky.toml:1:8: \"port\" is a list of tables, so each is headed [[port]]");
+            R"(flaky.toml:1:20: "camera.badPixels" takes a list)");
+    refuses("port that is no list", R"(port = "COM7")",
+            R"(flaky.toml:1:8: "port" is a list of tables, so each is headed [[port]])");
     refuses("port that is one table", "[port]\nname = \"COM7\"",
-            "flaky.toml:1:1: \"port\" is a list of tables, so each is headed [[port]]");
-    refuses("port without a name", "[[port]]\nopening = \"opens\"",
-            "flaky.toml:1:1: \"port\" lacks \"name\"");
+            R"(flaky.toml:1:1: "port" is a list of tables, so each is headed [[port]])");
+    refuses("port without a name", "[[port]]\nopening = \"opens\"", R"(flaky.toml:1:1: "port" lacks "name")");
     refuses("port with an empty name", "[[port]]\nname = \"\"",
-            "flaky.toml:2:8: \"port.name\" takes a text of one line");
+            R"(flaky.toml:2:8: "port.name" takes a text of one line)");
     refuses("port twice", "[[port]]\nname = \"A\"\n[[port]]\nname = \"A\"",
-            "flaky.toml:4:8: \"port.name\" stands here twice: \"A\"");
+            R"(flaky.toml:4:8: "port.name" stands here twice: "A")");
     refuses("unknown opening", "[[port]]\nname = \"A\"\nopening = \"open\"",
-            "flaky.toml:3:11: \"port.opening\" takes \"opens\", \"refused\" or \"silent\", not \"open\"");
+            R"(flaky.toml:3:11: "port.opening" takes "opens", "refused" or "silent", not "open")");
     refuses("opening that is no text", "[[port]]\nname = \"A\"\nopening = 1",
-            "flaky.toml:3:11: \"port.opening\" takes \"opens\", \"refused\" or \"silent\"");
+            R"(flaky.toml:3:11: "port.opening" takes "opens", "refused" or "silent")");
     refuses("opening takes too long", "[[port]]\nname = \"A\"\ndelayMilliseconds = 60001",
-            "flaky.toml:3:21: \"port.delayMilliseconds\" takes a number from 0 to 60000");
+            R"(flaky.toml:3:21: "port.delayMilliseconds" takes a number from 0 to 60000)");
     refuses("unknown kind", "[link]\nkind = \"seriall\"",
-            "flaky.toml:2:8: \"link.kind\" takes \"none\", \"fixed\" or \"serial\", not \"seriall\"");
-    refuses("link without a kind", "[link]\nbaudRate = 9600", "flaky.toml:1:1: \"link\" lacks \"kind\"");
-    refuses("fixed link without a time", "link.kind = \"fixed\"",
-            "flaky.toml:1:1: \"link\" lacks \"millisecondsPerCall\"");
+            R"(flaky.toml:2:8: "link.kind" takes "none", "fixed" or "serial", not "seriall")");
+    refuses("link without a kind", "[link]\nbaudRate = 9600", R"(flaky.toml:1:1: "link" lacks "kind")");
+    refuses("fixed link without a time", R"(link.kind = "fixed")",
+            R"(flaky.toml:1:1: "link" lacks "millisecondsPerCall")");
     refuses("serial key of a fixed link",
             "[link]\nkind = \"fixed\"\nmillisecondsPerCall = 1\nbaudRate = 9600",
-            "flaky.toml:4:12: \"link.baudRate\" belongs to kind \"serial\", not to \"fixed\"");
+            R"(flaky.toml:4:12: "link.baudRate" belongs to kind "serial", not to "fixed")");
     refuses("jitter of no link", "[link]\nkind = \"none\"\njitterMilliseconds = 1",
-            "flaky.toml:3:22: \"link.jitterMilliseconds\" belongs to kind \"fixed\" or \"serial\", not to "
-            "\"none\"");
+            R"(flaky.toml:3:22: "link.jitterMilliseconds" belongs to kind "fixed" or "serial", not to )"
+            R"("none")");
     refuses("negative time", "[link]\nkind = \"fixed\"\nmillisecondsPerCall = -1",
-            "flaky.toml:3:23: \"link.millisecondsPerCall\" takes a number from 0 to 10000");
+            R"(flaky.toml:3:23: "link.millisecondsPerCall" takes a number from 0 to 10000)");
     refuses("time that is no number", "[link]\nkind = \"fixed\"\nmillisecondsPerCall = nan",
-            "flaky.toml:3:23: \"link.millisecondsPerCall\" takes a number from 0 to 10000");
+            R"(flaky.toml:3:23: "link.millisecondsPerCall" takes a number from 0 to 10000)");
     refuses("baud rate that is too low", "[link]\nkind = \"serial\"\nbaudRate = 300",
-            "flaky.toml:3:12: \"link.baudRate\" takes an integer from 1200 to 921600");
+            R"(flaky.toml:3:12: "link.baudRate" takes an integer from 1200 to 921600)");
     refuses("no bytes", "[link]\nkind = \"serial\"\nbytesPerCommand = 0",
-            "flaky.toml:3:19: \"link.bytesPerCommand\" takes an integer from 1 to 1024");
+            R"(flaky.toml:3:19: "link.bytesPerCommand" takes an integer from 1 to 1024)");
     refuses("fault without an operation", "[[fault]]\neffect = \"refuse\"",
-            "flaky.toml:1:1: \"fault\" lacks \"operation\" or \"operations\"");
+            R"(flaky.toml:1:1: "fault" lacks "operation" or "operations")");
     refuses("fault without an effect", "[[fault]]\noperation = \"setGamma\"",
-            "flaky.toml:1:1: \"fault\" lacks \"effect\"");
-    refuses("both operation and operations", fault("operations = [\"setClhe\"]"),
-            "flaky.toml:4:14: \"fault.operations\" cannot stand beside \"operation\"");
+            R"(flaky.toml:1:1: "fault" lacks "effect")");
+    refuses("both operation and operations", fault(R"(operations = ["setClhe"])"),
+            R"(flaky.toml:4:14: "fault.operations" cannot stand beside "operation")");
     refuses("no operations", "[[fault]]\noperations = []\neffect = \"refuse\"",
-            "flaky.toml:2:14: \"fault.operations\" takes a list of 1 to 64 operations");
+            R"(flaky.toml:2:14: "fault.operations" takes a list of 1 to 64 operations)");
     refuses("operations that are no list", "[[fault]]\noperations = \"setGamma\"\neffect = \"refuse\"",
-            "flaky.toml:2:14: \"fault.operations\" takes a list");
-    refuses(
-        "unknown operation", effectOn("setGama", "\"refuse\""),
-        "flaky.toml:2:13: \"fault.operation\" knows no operation \"setGama\"; did you mean \"setGamma\"?");
-    refuses("operation like no other", effectOn("xyz", "\"refuse\""),
-            "flaky.toml:2:13: \"fault.operation\" knows no operation \"xyz\"");
-    refuses("pattern without operations", effectOn("frob*", "\"refuse\""),
-            "flaky.toml:2:13: \"fault.operation\" fits no operation of the device: \"frob*\"");
-    refuses("unknown operation after", fault("after = \"setTargets\""),
-            "flaky.toml:4:9: \"fault.after\" knows no operation \"setTargets\"; did you mean \"setTarget\"?");
-    refuses("unknown target", fault("target = \"cam\""),
-            "flaky.toml:4:10: \"fault.target\" takes \"blendUnit\" or \"camera\", not \"cam\"");
-    refuses("unknown effect", effectOn("setGamma", "\"refuses\""),
-            "flaky.toml:3:10: \"fault.effect\" takes \"refuse\", \"answer\", \"stuck\", \"wrong\", "
-            "\"garbage\", \"late\", \"lostOnPowerCycle\" or \"cableOut\", not \"refuses\"");
+            R"(flaky.toml:2:14: "fault.operations" takes a list)");
+    refuses("unknown operation", effectOn("setGama", R"("refuse")"),
+            R"(flaky.toml:2:13: "fault.operation" knows no operation "setGama"; did you mean "setGamma"?)");
+    refuses("operation like no other", effectOn("xyz", R"("refuse")"),
+            R"(flaky.toml:2:13: "fault.operation" knows no operation "xyz")");
+    refuses("pattern without operations", effectOn("frob*", R"("refuse")"),
+            R"(flaky.toml:2:13: "fault.operation" fits no operation of the device: "frob*")");
+    refuses("unknown operation after", fault(R"(after = "setTargets")"),
+            R"(flaky.toml:4:9: "fault.after" knows no operation "setTargets"; did you mean "setTarget"?)");
+    refuses("unknown target", fault(R"(target = "cam")"),
+            R"(flaky.toml:4:10: "fault.target" takes "blendUnit" or "camera", not "cam")");
+    refuses("unknown effect", effectOn("setGamma", R"("refuses")"),
+            R"(flaky.toml:3:10: "fault.effect" takes "refuse", "answer", "stuck", "wrong", )"
+            R"("garbage", "late", "lostOnPowerCycle" or "cableOut", not "refuses")");
     refuses("target of what has none",
             "[[fault]]\noperation = \"openDevice\"\neffect = \"refuse\"\ntarget = \"camera\"",
-            "flaky.toml:2:13: \"fault.operation\" does not fit: \"openDevice\" is no operation of the "
+            R"(flaky.toml:2:13: "fault.operation" does not fit: "openDevice" is no operation of the )"
             "device, and only those address a unit");
     refuses("onCall with fromCall", fault("onCall = 3\nfromCall = 4"),
-            "flaky.toml:5:12: \"fault.fromCall\" cannot stand beside \"onCall\"");
+            R"(flaky.toml:5:12: "fault.fromCall" cannot stand beside "onCall")");
     refuses("fromCall with onCall", fault("fromCall = 3\nonCall = 4"),
-            "flaky.toml:5:10: \"fault.onCall\" cannot stand beside \"fromCall\"");
+            R"(flaky.toml:5:10: "fault.onCall" cannot stand beside "fromCall")");
     refuses("once with times", fault("once = true\ntimes = 3"),
-            "flaky.toml:5:9: \"fault.times\" cannot stand beside \"once\"");
+            R"(flaky.toml:5:9: "fault.times" cannot stand beside "once")");
     refuses("everyCall with times", fault("everyCall = 2\ntimes = 3"),
-            "flaky.toml:5:9: \"fault.times\" cannot stand beside \"everyCall\"");
+            R"(flaky.toml:5:9: "fault.times" cannot stand beside "everyCall")");
     refuses("call zero", fault("onCall = 0"),
-            "flaky.toml:4:10: \"fault.onCall\" takes an integer from 1 to 1000000000");
+            R"(flaky.toml:4:10: "fault.onCall" takes an integer from 1 to 1000000000)");
     refuses("probability above one", fault("probability = 1.1"),
-            "flaky.toml:4:15: \"fault.probability\" takes a number from 0 to 1");
+            R"(flaky.toml:4:15: "fault.probability" takes a number from 0 to 1)");
     refuses("answer that refuses", fault("answer = [true]"),
-            "flaky.toml:4:10: \"fault.answer\" belongs to effect \"answer\", not to \"refuse\"");
+            R"(flaky.toml:4:10: "fault.answer" belongs to effect "answer", not to "refuse")");
     refuses("leavesOutputs that refuses", fault("leavesOutputs = true"),
-            "flaky.toml:4:17: \"fault.leavesOutputs\" belongs to effect \"answer\", not to \"refuse\"");
+            R"(flaky.toml:4:17: "fault.leavesOutputs" belongs to effect "answer", not to "refuse")");
     refuses("delay that refuses", fault("delayMilliseconds = 1"),
-            "flaky.toml:4:21: \"fault.delayMilliseconds\" belongs to effect \"late\", not to \"refuse\"");
-    refuses("answer without one", effectOn("getGamma", "\"answer\""),
-            "flaky.toml:1:1: \"fault\" lacks \"answer\"");
+            R"(flaky.toml:4:21: "fault.delayMilliseconds" belongs to effect "late", not to "refuse")");
+    refuses("answer without one", effectOn("getGamma", R"("answer")"),
+            R"(flaky.toml:1:1: "fault" lacks "answer")");
     refuses("answer of a date", effectOn("getGamma", "\"answer\"\nanswer = [true, 2026-01-01]"),
-            "flaky.toml:4:17: \"fault.answer\" takes true, false, numbers and texts");
+            R"(flaky.toml:4:17: "fault.answer" takes true, false, numbers and texts)");
     refuses(
         "answer that is too short", effectOn("getVideoMode", "\"answer\"\nanswer = [true]"),
-        "flaky.toml:4:10: \"fault.answer\" does not fit: an answer of \"getVideoMode\" has 2 values, not 1");
+        R"(flaky.toml:4:10: "fault.answer" does not fit: an answer of "getVideoMode" has 2 values, not 1)");
     refuses("answer of another type", effectOn("getVideoMode", "\"answer\"\nanswer = [true, \"much\"]"),
-            "flaky.toml:4:10: \"fault.answer\" does not fit: value 2 of an answer of \"getVideoMode\" is an "
+            R"(flaky.toml:4:10: "fault.answer" does not fit: value 2 of an answer of "getVideoMode" is an )"
             "integer from 0 to 255");
     refuses("answer for one that answers less",
             effectOn("get*", "\"answer\"\nanswer = [1, 2, 3, 4, 5, 6, 7, 8]"),
-            "flaky.toml:4:10: \"fault.answer\" does not fit: an answer of \"getFirmwareVersions\" has 3 "
+            R"(flaky.toml:4:10: "fault.answer" does not fit: an answer of "getFirmwareVersions" has 3 )"
             "values, not 8");
-    refuses("late without a delay", effectOn("getGamma", "\"late\""),
-            "flaky.toml:1:1: \"fault\" lacks \"delayMilliseconds\"");
+    refuses("late without a delay", effectOn("getGamma", R"("late")"),
+            R"(flaky.toml:1:1: "fault" lacks "delayMilliseconds")");
     refuses("delay that is too long", effectOn("getGamma", "\"late\"\ndelayMilliseconds = 10001"),
-            "flaky.toml:4:21: \"fault.delayMilliseconds\" takes a number from 0 to 10000");
-    refuses("stuck reader", effectOn("getGamma", "\"stuck\""),
-            "flaky.toml:2:13: \"fault.operation\" does not fit: \"getGamma\" changes nothing of a unit, so "
+            R"(flaky.toml:4:21: "fault.delayMilliseconds" takes a number from 0 to 10000)");
+    refuses("stuck reader", effectOn("getGamma", R"("stuck")"),
+            R"(flaky.toml:2:13: "fault.operation" does not fit: "getGamma" changes nothing of a unit, so )"
             "nothing can be stuck");
-    refuses("pattern that the effect does not fit", effectOn("get*", "\"stuck\""),
-            "flaky.toml:2:13: \"fault.operation\" does not fit: \"getFirmwareVersions\" changes nothing of a "
+    refuses("pattern that the effect does not fit", effectOn("get*", R"("stuck")"),
+            R"(flaky.toml:2:13: "fault.operation" does not fit: "getFirmwareVersions" changes nothing of a )"
             "unit, so nothing can be stuck");
     refuses("argument without a place", fault("argument = { minimum = 3 }"),
-            "flaky.toml:4:12: \"fault.argument\" lacks \"place\"");
+            R"(flaky.toml:4:12: "fault.argument" lacks "place")");
     refuses("argument in place zero", fault("argument = { place = 0 }"),
-            "flaky.toml:4:22: \"fault.argument.place\" takes an integer from 1 to 100");
+            R"(flaky.toml:4:22: "fault.argument.place" takes an integer from 1 to 100)");
     refuses("argument that is not there", fault("argument = { place = 2 }"),
-            "flaky.toml:4:12: \"fault.argument\" does not fit: \"setGamma\" takes 1 number, so there is no "
+            R"(flaky.toml:4:12: "fault.argument" does not fit: "setGamma" takes 1 number, so there is no )"
             "number 2");
     refuses("empty range", fault("argument = { place = 1, minimum = 3, maximum = 2 }"),
-            "flaky.toml:4:35: \"fault.argument.minimum\" is above the maximum");
-    refuses("memory without a file", "[memory]", "flaky.toml:1:1: \"memory\" lacks \"file\"");
-    refuses("file without a name", "memory.file = \"\"",
-            "flaky.toml:1:15: \"memory.file\" takes a text of one line");
+            R"(flaky.toml:4:35: "fault.argument.minimum" is above the maximum)");
+    refuses("memory without a file", "[memory]", R"(flaky.toml:1:1: "memory" lacks "file")");
+    refuses("file without a name", R"(memory.file = "")",
+            R"(flaky.toml:1:15: "memory.file" takes a text of one line)");
     refuses("drift of an unknown key", "[[life.drift]]\nkey = \"camera.gama\"\nend = 1\nhalfTimeSeconds = 1",
-            "flaky.toml:2:7: \"life.drift.key\" knows no number of a unit \"camera.gama\"; did you mean "
-            "\"camera.gamma\"?");
+            R"(flaky.toml:2:7: "life.drift.key" knows no number of a unit "camera.gama"; did you mean )"
+            R"("camera.gamma"?)");
     refuses("drift of a switch", "[[life.drift]]\nkey = \"camera.polarity\"\nend = 1\nhalfTimeSeconds = 1",
-            "flaky.toml:2:7: \"life.drift.key\" knows no number of a unit \"camera.polarity\"; did you mean "
-            "\"camera.identity\"?");
+            R"(flaky.toml:2:7: "life.drift.key" knows no number of a unit "camera.polarity"; did you mean )"
+            R"("camera.identity"?)");
     refuses("drift without an end", "[[life.drift]]\nkey = \"camera.gamma\"\nhalfTimeSeconds = 1",
-            "flaky.toml:1:1: \"life.drift\" lacks \"end\"");
+            R"(flaky.toml:1:1: "life.drift" lacks "end")");
     refuses("drift to nowhere", "[[life.drift]]\nkey = \"camera.gamma\"\nend = -1\nhalfTimeSeconds = 1",
-            "flaky.toml:3:7: \"life.drift.end\" takes an integer from 0 to 4294967295");
+            R"(flaky.toml:3:7: "life.drift.end" takes an integer from 0 to 4294967295)");
     refuses("drift that is one table", "[life.drift]\nkey = \"camera.gamma\"",
-            "flaky.toml:1:1: \"life.drift\" is a list of tables, so each is headed [[life.drift]]");
+            R"(flaky.toml:1:1: "life.drift" is a list of tables, so each is headed [[life.drift]])");
     refuses("drift in no time", "[[life.drift]]\nkey = \"camera.gamma\"\nend = 1\nhalfTimeSeconds = 0",
-            "flaky.toml:4:19: \"life.drift.halfTimeSeconds\" takes a number from 0.001 to 315360000");
+            R"(flaky.toml:4:19: "life.drift.halfTimeSeconds" takes a number from 0.001 to 315360000)");
     refuses("counter of the configuration",
             "[[life.counter]]\nkey = \"configuration.gmsMinimum\"\nintervalSeconds = 1",
-            "flaky.toml:2:7: \"life.counter.key\" knows no number of a unit \"configuration.gmsMinimum\"");
+            R"(flaky.toml:2:7: "life.counter.key" knows no number of a unit "configuration.gmsMinimum")");
     refuses("counter without an interval", "[[life.counter]]\nkey = \"camera.userSaves\"",
-            "flaky.toml:1:1: \"life.counter\" lacks \"intervalSeconds\"");
+            R"(flaky.toml:1:1: "life.counter" lacks "intervalSeconds")");
     refuses("no TOML", "seed =",
             "flaky.toml:1:7: this is not TOML: Error while parsing key-value pair: encountered end-of-file");
     refuses("key twice", "seed = 1\nseed = 2",
@@ -286,13 +284,13 @@ void ScenarioErrorsTest::fileIsRefusedWith()
 void ScenarioErrorsTest::messageIsOneLine_data()
 {
     QTest::addColumn<QByteArray>("file");
-    QTest::newRow("key with a line feed") << QByteArray{"\"a\\nb\" = 1"};
-    QTest::newRow("text with a line feed") << QByteArray{"link.kind = \"a\\nb\""};
-    QTest::newRow("long text") << "link.kind = \"" + QByteArray(480, 'x') + '"';
+    QTest::newRow("key with a line feed") << QByteArray{R"("a\nb" = 1)"};
+    QTest::newRow("text with a line feed") << QByteArray{R"(link.kind = "a\nb")"};
+    QTest::newRow("long text") << R"(link.kind = ")" + QByteArray(480, 'x') + '"';
     QTest::newRow("no characters") << QByteArray{"\xff\xfe\x00\x01", 4};
     QTest::newRow("broken off") << QByteArray{"[[fault"};
     QTest::newRow("half a character")
-        << QByteArray{"link.kind = \""} + QByteArray{"\xc3\xa4"}.repeated(60) + "\"";
+        << QByteArray{R"(link.kind = ")"} + QByteArray{"\xc3\xa4"}.repeated(60) + R"(")";
 }
 
 void ScenarioErrorsTest::messageIsOneLine()
@@ -313,17 +311,17 @@ void ScenarioErrorsTest::whatIsLargeIsRefused()
              "flaky.toml:2:513: a line is not longer than 512 bytes; break it up");
     QCOMPARE(messageOf("\n#" + QByteArray(511, ' ')), "fine");
     QCOMPARE(messageOf(fault("").repeated(257)),
-             "flaky.toml:769:1: \"fault\" stands here more than 256 times");
+             R"(flaky.toml:769:1: "fault" stands here more than 256 times)");
     QCOMPARE(messageOf(fault("").repeated(256)), "fine");
     QCOMPARE(messageOf("[[fault]]\neffect = \"refuse\"\noperations = [" +
                        QByteArray{"\"*\",\n"}.repeated(65) + "]"),
-             "flaky.toml:3:14: \"fault.operations\" takes a list of 1 to 64 operations");
+             R"(flaky.toml:3:14: "fault.operations" takes a list of 1 to 64 operations)");
 }
 
 void ScenarioErrorsTest::whatNestsDeeplyIsRefused()
 {
     const QByteArray keys = QByteArray{"a."}.repeated(250) + 'a';
-    QVERIFY(messageOf(keys + " = 1").startsWith("flaky.toml:1:1: \"a\" is unknown here"));
+    QVERIFY(messageOf(keys + " = 1").startsWith(R"(flaky.toml:1:1: "a" is unknown here)"));
     QVERIFY(messageOf("a = " + QByteArray{"[\n"}.repeated(50'000)).contains("this is not TOML"));
     QVERIFY(messageOf('[' + keys + "]\n" + keys + " = [{\n" + keys).startsWith("flaky.toml:"));
 }

@@ -153,15 +153,15 @@ void ScenarioReaderTest::keySets_data()
     QTest::addColumn<QByteArray>("file");
     QTest::addColumn<Look>("look");
     QTest::addColumn<QString>("seen");
-    const auto sets = [](const char *row, const QByteArray &file, Look look, const char *seen) {
-        QTest::newRow(row) << file << std::move(look) << QString{seen};
+    const auto sets = [](const char *row, const QByteArray &file, const Look &look, const char *seen) {
+        QTest::newRow(row) << file << look << QString{seen};
     };
 
     sets(
         "seed", "seed = 7", [](const Scenario &s) { return std::to_string(s.seed); }, "7");
     sets("configuration", "[configuration]\nexpertMode = false", firstValue,
          "configuration.expertMode = false");
-    sets("configuration text", "configuration.communicationType = \"USB\"", firstValue,
+    sets("configuration text", R"(configuration.communicationType = "USB")", firstValue,
          "configuration.communicationType = USB");
     sets("camera", "[camera]\ngamma = 65537", firstValue, "camera.gamma = 65537");
     sets("camera, dotted", "[camera]\ntemperatures.sensorMillikelvin = 1000", firstValue,
@@ -185,7 +185,7 @@ void ScenarioReaderTest::keySets_data()
                std::to_string(s.link.bytesPerCommand) + " at " + std::to_string(s.link.baudRate) + ", " +
                us(s.link.thinkTime) + ", " + us(s.link.jitter);
     };
-    sets("no link", "link.kind = \"none\"", linkTimes, "0: 0 us, 24 at 0, 0 us, 0 us");
+    sets("no link", R"(link.kind = "none")", linkTimes, "0: 0 us, 24 at 0, 0 us, 0 us");
     sets("fixed link", "[link]\nkind = \"fixed\"\nmillisecondsPerCall = 5\njitterMilliseconds = 2", linkTimes,
          "1: 5000 us, 24 at 0, 0 us, 2000 us");
     sets("serial link",
@@ -196,16 +196,16 @@ void ScenarioReaderTest::keySets_data()
     sets("operations", "[[fault]]\noperations = [\"setG*n\", \"setClhe\", \"setClhe\"]\neffect = \"refuse\"",
          operations, "setGainCorrection setClhe");
     sets(
-        "target camera", fault("target = \"camera\""),
+        "target camera", fault(R"(target = "camera")"),
         [](const Scenario &s) { return std::to_string(s.rules.at(0).target.value()); }, "1");
     sets(
-        "target Blend Unit", fault("target = \"blendUnit\""),
+        "target Blend Unit", fault(R"(target = "blendUnit")"),
         [](const Scenario &s) { return std::to_string(s.rules.at(0).target.value()); }, "0");
     sets("argument", fault("argument = { place = 1, minimum = 0, maximum = 100.5 }"), argument,
          "0: 0 to 100.5");
     sets("open argument", fault("argument.place = 1"), argument, "0: -1.79769e+308 to 1.79769e+308");
     sets(
-        "after", fault("after = \"setTarget\""), [](const Scenario &s) { return s.rules.at(0).after; },
+        "after", fault(R"(after = "setTarget")"), [](const Scenario &s) { return s.rules.at(0).after; },
         "setTarget");
 
     sets("always", fault(""), when, "from 1 times 0 every 1 chance 1");
@@ -217,21 +217,21 @@ void ScenarioReaderTest::keySets_data()
     sets("everyCall", fault("everyCall = 4"), when, "from 4 times 0 every 4 chance 1");
     sets("probability", fault("probability = 0.1"), when, "from 1 times 0 every 1 chance 0.1");
 
-    sets("refuse", effectOn("setGamma", "\"refuse\""), effect, "0");
+    sets("refuse", effectOn("setGamma", R"("refuse")"), effect, "0");
     sets("answer", effectOn("getVideoMode", "\"answer\"\nanswer = [true, 3]"), answer, "true 3");
     sets("answer alone", effectOn("getVideoMode", "\"answer\"\nanswer = [true]\nleavesOutputs = true"),
          answer, "true alone");
-    sets("stuck", effectOn("setGamma", "\"stuck\""), effect, "2");
-    sets("wrong", effectOn("getGamma", "\"wrong\""), effect, "3");
-    sets("garbage", effectOn("getGamma", "\"garbage\""), effect, "4");
+    sets("stuck", effectOn("setGamma", R"("stuck")"), effect, "2");
+    sets("wrong", effectOn("getGamma", R"("wrong")"), effect, "3");
+    sets("garbage", effectOn("getGamma", R"("garbage")"), effect, "4");
     sets(
         "late", effectOn("getGamma", "\"late\"\ndelayMilliseconds = 2.5"),
         [](const Scenario &s) { return effect(s) + ": " + us(s.rules.at(0).delay); }, "5: 2500 us");
-    sets("lostOnPowerCycle", effectOn("setGamma", "\"lostOnPowerCycle\""), effect, "6");
-    sets("cableOut", effectOn("getGamma", "\"cableOut\""), effect, "7");
+    sets("lostOnPowerCycle", effectOn("setGamma", R"("lostOnPowerCycle")"), effect, "6");
+    sets("cableOut", effectOn("getGamma", R"("cableOut")"), effect, "7");
 
     sets(
-        "memory", "memory.file = \"saved.json\"", [](const Scenario &s) { return s.memoryFile; },
+        "memory", R"(memory.file = "saved.json")", [](const Scenario &s) { return s.memoryFile; },
         "saved.json");
     sets(
         "life", "life.millisecondsPerCall = 100", [](const Scenario &s) { return us(s.life.timePerCall); },
@@ -290,7 +290,7 @@ void ScenarioReaderTest::everyKeyOfTheStateIsTaken()
 void ScenarioReaderTest::nothingIsTheDefault()
 {
     const auto result = readScenario("", "empty.toml");
-    const Scenario &scenario = std::get<Scenario>(result);
+    const auto &scenario = std::get<Scenario>(result);
     QCOMPARE(scenario.seed, std::uint64_t{0});
     QCOMPARE(ports(scenario), std::string{"SIM1:0:0 us"});
     QVERIFY(scenario.values.empty());
