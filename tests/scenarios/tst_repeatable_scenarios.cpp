@@ -1,0 +1,119 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The same scenario and the same seed make the same trace, whatever goes wrong in it.
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace
+{
+
+/// A process that calls every operation of the contract, on a scenario; the bytes of its trace without the
+/// times.
+QByteArray traceOf(const QString &scenario)
+{
+    const QTemporaryDir directory;
+    const QString name{directory.filePath(QStringLiteral("calls.trace"))};
+    QProcessEnvironment environment{QProcessEnvironment::systemEnvironment()};
+    environment.insert(QStringLiteral("VELTRIX_SIMULATOR_TRACE"), name);
+    environment.insert(QStringLiteral("VELTRIX_SIMULATOR_SCENARIO"), scenario);
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(SDK_CHECK),
+                  {QStringLiteral("--port"), QStringLiteral("SIM1"), QStringLiteral("--write"),
+                   QStringLiteral("--repeat"), QStringLiteral("2")});
+    QFile trace{name};
+    if (!process.waitForFinished(120000) || !trace.open(QIODevice::ReadOnly)) {
+        return {};
+    }
+    static const QRegularExpression times{
+        QStringLiteral("(\"time\":\"[^\"]*Z\",?)|(\"microseconds\":\\d+,)")};
+    return QString::fromUtf8(trace.readAll()).remove(times).toUtf8();
+}
+
+/// Noise, chance and a link with jitter, drawn from the seed in front.
+const char *const noise{R"(
+[link]
+kind = "fixed"
+millisecondsPerCall = 0.01
+jitterMilliseconds = 0.05
+
+[life]
+millisecondsPerCall = 10
+
+[[life.drift]]
+key = "camera.temperatures.sensorMillikelvin"
+end = 310150
+halfTimeSeconds = 2
+
+[[fault]]
+operation = "get*"
+probability = 0.3
+effect = "garbage"
+
+[[fault]]
+operation = "get*"
+probability = 0.1
+effect = "wrong"
+)"};
+
+} // namespace
+
+class RepeatableScenariosTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void scenarioMakesTheSameTrace_data();
+    void scenarioMakesTheSameTrace();
+    void seedMakesTheTrace();
+};
+
+void RepeatableScenariosTest::scenarioMakesTheSameTrace_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const QFileInfo &file : QDir{QStringLiteral(SCENARIOS)}.entryInfoList({QStringLiteral("*.toml")})) {
+        // What is slow there is not what is drawn.
+        if (file.completeBaseName() != QStringLiteral("slow-link")) {
+            QTest::newRow(qPrintable(file.completeBaseName())) << file.completeBaseName();
+        }
+    }
+}
+
+void RepeatableScenariosTest::scenarioMakesTheSameTrace()
+{
+    QFETCH(QString, name);
+    const QByteArray trace{traceOf(name)};
+    const QByteArray header{R"({"trace":1,"scenario":")" + name.toUtf8() + '"'};
+    QVERIFY2(trace.startsWith(header), trace.left(200).constData());
+    QVERIFY(trace.contains("\"operation\":\"openDevice\""));
+    QVERIFY(!trace.contains("\"time\""));
+    QCOMPARE(traceOf(name), trace);
+}
+
+void RepeatableScenariosTest::seedMakesTheTrace()
+{
+    const QTemporaryDir directory;
+    QList<QByteArray> traces;
+    for (const int seed : {7, 7, 8}) {
+        const QString name{directory.filePath(QStringLiteral("noisy.toml"))};
+        QFile file{name};
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("seed = " + QByteArray::number(seed) + noise);
+        file.close();
+        traces.append(traceOf(name));
+    }
+    QVERIFY(traces[0].count('\n') > 500);
+    QCOMPARE(traces[1], traces[0]);
+    QVERIFY(traces[2] != traces[0]);
+    const auto withoutHeader = [](const QByteArray &trace) {
+        return trace.mid(trace.indexOf('\n'));
+    };
+    QVERIFY(withoutHeader(traces[2]) != withoutHeader(traces[0]));
+}
+
+QTEST_GUILESS_MAIN(RepeatableScenariosTest)
+#include "tst_repeatable_scenarios.moc"
