@@ -66,8 +66,9 @@ bool same(const Answer &left, const Answer &right)
     const auto sameNumber = [](double one, double other) {
         return same(one, other);
     };
-    return left.result == right.result && std::equal(left.values.begin(), left.values.end(),
-                                                     right.values.begin(), right.values.end(), sameNumber);
+    const bool sameNumbers{std::equal(left.values.begin(), left.values.end(), right.values.begin(),
+                                      right.values.end(), sameNumber)};
+    return left.result == right.result && (left.result == 0 || sameNumbers);
 }
 
 OpenedDevice::~OpenedDevice()
@@ -131,7 +132,7 @@ bool OpenedDevice::select(Unit unit)
     const bool selected{report.timed("setTarget", name, [&] { return device->setTarget(target); })};
     bool &before{everSelected[static_cast<std::size_t>(unit)]};
     if (!selected) {
-        report.add({Outcome::Fails, "setTarget", name, "answers false"});
+        report.add({Outcome::Fails, "setTarget", name, "answers false, so the unit is not reached"});
     } else if (!before) {
         report.add({Outcome::Holds, "setTarget", name, "true"});
     }

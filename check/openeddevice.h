@@ -24,7 +24,7 @@ struct Answer
 std::string faultOf(const Reading &row, const Answer &answer);
 /// The numbers of an answer, with their names where there are several.
 std::string answerText(const Reading &row, const Answer &answer);
-/// Whether result and numbers are the same.
+/// Whether result and numbers are the same; the numbers of a refusal mean nothing.
 bool same(const Answer &left, const Answer &right);
 
 /// A device manager and the device that it opened. Both are handed back at the end of its life.

@@ -28,7 +28,7 @@ inline constexpr std::array<Unit, 2> units{Unit::BlendUnit, Unit::Camera};
 /// "Blend Unit" or "camera".
 std::string nameOf(Unit unit);
 
-/// On which unit the program uses an operation; it is asked for nothing on the other one.
+/// On which unit the program uses an operation; on the other one a wrong answer harms nobody.
 enum class UsedOn
 {
     BlendUnit,

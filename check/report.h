@@ -17,7 +17,7 @@ enum class Outcome
 {
     Holds,
     Fails,
-    Skipped, ///< Not done, for the reason that the text says; neither good nor bad.
+    Skipped, ///< Not done, or of no use to the program, as the text says; neither good nor bad.
 };
 
 /// One line of the report. All texts are printable ASCII, apart from what the command line brought.

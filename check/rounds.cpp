@@ -3,18 +3,31 @@
 // Reading a unit again and again: each answer is checked once and compared with the first from then on.
 #include "rounds.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace sdk_check
 {
 
+namespace
+{
+
+/// Whether a unit must be there to answer so; a failed read leaves false or zeros.
+bool saysSomething(const Answer &answer)
+{
+    const auto isZero = [](double number) {
+        return number == 0.0;
+    };
+    const bool onlyZeros{std::all_of(answer.values.begin(), answer.values.end(), isZero)};
+    return answer.result != 0 && (answer.values.empty() || !onlyZeros);
+}
+
+} // namespace
+
 void Rounds::readOnce(const Interrupted &interrupted)
 {
     ++round;
     for (std::size_t place{0}; place < rows.size(); ++place) {
-        if (!isUsedOn(rows[place].usedOn, unit)) {
-            continue;
-        }
         if (interrupted()) {
             return;
         }
@@ -28,24 +41,50 @@ void Rounds::sum()
         report.add({asBefore == compared ? Outcome::Holds : Outcome::Fails, "repeated reads", nameOf(unit),
                     std::to_string(asBefore) + " of " + std::to_string(compared) + " answers as before"});
     }
+    // A few wrong zeros in a row can be operations that fail; a unit that is gone fails in all of them.
+    constexpr int lostFromFaults{3};
+    if (silence.faults >= lostFromFaults) {
+        report.add({Outcome::Fails, "presence", nameOf(unit),
+                    "every answer from " + silence.from +
+                        " on is false or 0; look at the power and the cable of the unit first"});
+    }
 }
 
 void Rounds::take(const Reading &row, Seen &before, Answer answer)
 {
+    const bool used{isUsedOn(row.usedOn, unit)};
+    const std::string fault{faultOf(row, answer)};
+    listen(row, answer, used && !fault.empty());
     if (!before.asked) {
-        const std::string fault{faultOf(row, answer)};
-        say(fault.empty(), row, fault.empty() ? answerText(row, answer) : fault);
-        before.asked = true;
-        before.first = std::move(answer);
+        if (fault.empty()) {
+            say(Outcome::Holds, row, answerText(row, answer));
+        } else {
+            sayFault(row, fault);
+        }
+        // Where nobody asks, one line is enough.
+        before = {true, !used && !fault.empty(), std::move(answer)};
         return;
     }
-    ++compared;
     const std::string how{deviation(row, before.first, answer)};
-    if (how.empty()) {
-        ++asBefore;
-    } else if (!before.deviated) {
+    if (used) {
+        ++compared;
+        asBefore += how.empty() ? 1U : 0U;
+    }
+    if (!how.empty() && !before.deviated) {
         before.deviated = true;
-        say(false, row, how);
+        sayFault(row, how);
+    }
+}
+
+void Rounds::listen(const Reading &row, const Answer &answer, bool wrong)
+{
+    if (saysSomething(answer)) {
+        silence = {};
+    } else if (wrong) {
+        if (silence.faults == 0) {
+            silence.from = row.get + row.detail + " in round " + std::to_string(round);
+        }
+        ++silence.faults;
     }
 }
 
@@ -60,9 +99,18 @@ std::string Rounds::deviation(const Reading &row, const Answer &first, const Ans
     return fault.empty() || !faultOf(row, first).empty() ? "" : fault + inRound;
 }
 
-void Rounds::say(bool holds, const Reading &row, const std::string &text)
+void Rounds::sayFault(const Reading &row, const std::string &fault)
 {
-    report.add({holds ? Outcome::Holds : Outcome::Fails, row.get + row.detail, nameOf(unit), text});
+    if (isUsedOn(row.usedOn, unit)) {
+        say(Outcome::Fails, row, fault);
+    } else {
+        say(Outcome::Skipped, row, fault + "; the program does not ask this unit for it");
+    }
+}
+
+void Rounds::say(Outcome outcome, const Reading &row, const std::string &text)
+{
+    report.add({outcome, row.get + row.detail, nameOf(unit), text});
 }
 
 } // namespace sdk_check

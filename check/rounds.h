@@ -23,7 +23,8 @@ public:
 
     /// Reads everything once, as far as it is not interrupted.
     void readOnce(const Interrupted &interrupted);
-    /// Says how many of the later answers were as the first ones, if there were any.
+    /// Says how many of the later answers were as the first ones, if there were any, and since when the unit
+    /// answers nothing, if that is so. What the program does not ask this unit for does not count.
     void sum();
 
 private:
@@ -35,16 +36,27 @@ private:
         Answer first{};
     };
 
+    /// The wrong answers since the last one that said something.
+    struct Silence
+    {
+        std::string from{}; ///< The first of them, with its round.
+        int faults{0};
+    };
+
     void take(const Reading &row, Seen &before, Answer answer);
+    void listen(const Reading &row, const Answer &answer, bool wrong);
     /// How a later answer differs from the first one; empty when it is as good.
     std::string deviation(const Reading &row, const Answer &first, const Answer &answer) const;
-    void say(bool holds, const Reading &row, const std::string &text);
+    /// A fault counts only where the program would meet it.
+    void sayFault(const Reading &row, const std::string &fault);
+    void say(Outcome outcome, const Reading &row, const std::string &text);
 
     OpenedDevice &device;
     const std::vector<Reading> &rows;
     const Unit unit;
     Report &report;
     std::vector<Seen> seen;
+    Silence silence;
     int round{0};
     std::size_t compared{0};
     std::size_t asBefore{0};

@@ -57,10 +57,10 @@ void SdkCheckTest::everythingHolds_data()
     QTest::addColumn<bool>("write");
     QTest::addColumn<int>("rounds");
     QTest::addColumn<QString>("summary");
-    QTest::newRow("read once") << false << 1 << "132 checks: 132 ok, 0 not ok, 0 skipped";
-    QTest::newRow("read three times") << false << 3 << "134 checks: 134 ok, 0 not ok, 0 skipped";
-    QTest::newRow("read and written") << true << 3 << "206 checks: 206 ok, 0 not ok, 0 skipped";
-    QTest::newRow("read often and written") << true << 50 << "206 checks: 206 ok, 0 not ok, 0 skipped";
+    QTest::newRow("read once") << false << 1 << "183 checks: 183 ok, 0 not ok, 0 skipped";
+    QTest::newRow("read three times") << false << 3 << "185 checks: 185 ok, 0 not ok, 0 skipped";
+    QTest::newRow("read and written") << true << 3 << "257 checks: 257 ok, 0 not ok, 0 skipped";
+    QTest::newRow("read often and written") << true << 50 << "257 checks: 257 ok, 0 not ok, 0 skipped";
 }
 
 void SdkCheckTest::everythingHolds()
@@ -97,8 +97,10 @@ void SdkCheckTest::goesThroughTheProgramsSteps()
         "connect() -> 1 {identity=21}",
         "getFirmwareVersions() -> true {processor=4866, fpga=8452}",
         "startReading() -> true",
+        "getGamma() -> 65536",
         "setTarget(1) -> true",
         "getFirmwareVersions() -> true {processor=532, fpga=8966}",
+        "getVideoMode() -> true {mode=0}",
         "closeDevice(device)",
         "releaseDeviceManager(manager)",
     };
@@ -196,6 +198,8 @@ void SdkCheckTest::endsWithTimesAndSummary()
     }
     QCOMPARE(counts.value("connect"), 1);
     QCOMPARE(counts.value("getGamma (camera)"), 5);
+    QCOMPARE(counts.value("getGamma (Blend Unit)"), 5);
+    QCOMPARE(counts.value("getVideoMode (camera)"), 5);
     QCOMPARE(counts.value("getRoiX1 (camera)"), 20);
     QCOMPARE(counts.value("getWarp (Blend Unit)"), 15);
     QCOMPARE(counts.value("closeDevice"), 1);
@@ -217,7 +221,7 @@ void SdkCheckTest::writesOneJsonDocument()
     QCOMPARE(document["repeat"], QJsonValue{2});
     QCOMPARE(document["interrupted"], QJsonValue{false});
     QCOMPARE(document["allHold"], QJsonValue{false});
-    const QJsonObject counts{{"ok", 133}, {"notOk", 1}, {"skipped", 0}};
+    const QJsonObject counts{{"ok", 184}, {"notOk", 1}, {"skipped", 0}};
     QCOMPARE(document["counts"].toObject(), counts);
 
     const QJsonObject failed{{"outcome", "notOk"},
@@ -225,7 +229,7 @@ void SdkCheckTest::writesOneJsonDocument()
                              {"unit", "camera"},
                              {"text", "answers 1; 32768 to 163840 is allowed"}};
     QVERIFY(document["checks"].toArray().contains(failed));
-    QCOMPARE(document["checks"].toArray().size(), 134);
+    QCOMPARE(document["checks"].toArray().size(), 185);
     const QJsonObject time{document["times"].toArray().last().toObject()};
     const QStringList timeKeys{"count", "medianMs", "operation", "percentile99Ms", "unit", "worstMs"};
     QCOMPARE(time.keys(), timeKeys);

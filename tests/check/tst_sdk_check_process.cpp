@@ -3,8 +3,11 @@
 // The check of an SDK library as a process: arguments, exit status, signals, and with which library it
 // starts.
 #include "program.h"
+#include "scenarioruns.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
@@ -82,13 +85,18 @@ private:
 
 } // namespace
 
+Q_DECLARE_METATYPE(ScenarioRun)
+
 class SdkCheckProcessTest : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void findsWhatIsWrong_data();
-    void findsWhatIsWrong();
+    void findsNothingWrong_data();
+    void findsNothingWrong();
+    void namesTheFaultOfAScenario_data();
+    void namesTheFaultOfAScenario();
+    void everyScenarioHasARun();
     void listsPortsWithoutAPort();
     void listsNoPortOfALibraryThatHasNone();
     void refusesWrongArguments_data();
@@ -103,53 +111,70 @@ private slots:
     void endsWithTheLoadersMessageWithAnIncompleteLibrary();
 };
 
-void SdkCheckProcessTest::findsWhatIsWrong_data()
+void SdkCheckProcessTest::findsNothingWrong_data()
 {
-    QTest::addColumn<QString>("library");  ///< A variant of the simulator; empty: the one of the build.
-    QTest::addColumn<QString>("scenario"); ///< Of the simulator; empty: nothing happens to it.
+    QTest::addColumn<QString>("library"); ///< A variant of the simulator; empty: the one of the build.
     QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QStringList>("notOk"); ///< The lines that begin so, without that.
-    const auto row = [](const char *name, const QString &library, const QString &scenario,
-                        const QStringList &arguments, const QStringList &notOk) {
-        QTest::addRow("%s", name) << library << scenario << arguments << notOk;
+    const auto row = [](const char *name, const char *library, const QStringList &arguments) {
+        QTest::addRow("%s", name) << QString{library} << arguments;
     };
-    row("healthy, read", {}, {}, {}, {});
-    row("healthy, read often", {}, {}, {"--repeat", "20"}, {});
-    row("healthy, written", {}, {}, {"--write", "--repeat", "1"}, {});
-    row("another library of the same contract", "contract-only", {}, {"--write"}, {});
-    row("wrong answers, written", {}, "wrong-answers", {"--write"},
-        {"getVideoMode (Blend Unit): answers 9; 0 to 2 is allowed",
-         "getFrameRate (camera): answers 15; 9, 25, 30, 50 or 60 is allowed",
-         "getPolarity (camera): answers true in round 2; the first answer was false",
-         "getTemperatures (Blend Unit): sensor answers nan; 200000 to 400000 is allowed in round 3",
-         "repeated reads (Blend Unit): 27 of 28 answers as before",
-         "repeated reads (camera): 93 of 94 answers as before",
-         "setVideoMode (Blend Unit): not tried, because getVideoMode answers 9; 0 to 2 is allowed",
-         "setFrameRate (camera): not tried, because getFrameRate answers 15; 9, 25, 30, 50 or 60 is allowed",
-         "setClhe (camera): answers false to 0; back at 2000",
-         "setColorLut (camera): set to 7, but getColorLut answers 0; back at 0",
-         "setTint (camera): NOT RESTORED: setTint answers false and getTint 0 instead of 10"});
+    row("read", "", {});
+    row("read often", "", {"--repeat", "20"});
+    row("written", "", {"--write", "--repeat", "1"});
+    row("another library of the same contract", "contract-only", {"--write"});
 }
 
-void SdkCheckProcessTest::findsWhatIsWrong()
+void SdkCheckProcessTest::findsNothingWrong()
 {
     QFETCH(const QString, library);
-    QFETCH(const QString, scenario);
     QFETCH(const QStringList, arguments);
-    QFETCH(const QStringList, notOk);
     QProcessEnvironment environment{programEnvironment()};
     environment.remove("VELTRIX_SIMULATOR_SCENARIO");
     if (!library.isEmpty()) {
         environment.insert("LD_LIBRARY_PATH", SDK_VARIANTS_DIRECTORY "/" + library);
     }
-    if (!scenario.isEmpty()) {
-        environment.insert("VELTRIX_SIMULATOR_SCENARIO", scenario);
-    }
     const Outcome outcome{run(PROGRAM, QStringList{"--port", "SIM1"} + arguments, environment)};
     QVERIFY2(outcome.exited, qPrintable(outcome.errors));
-    QCOMPARE(notOkLines(outcome.output), notOk);
-    QCOMPARE(outcome.status, notOk.isEmpty() ? 0 : 1);
+    QCOMPARE(notOkLines(outcome.output), QStringList{});
+    QCOMPARE(outcome.status, 0);
     QCOMPARE(outcome.errors, QString{});
+}
+
+void SdkCheckProcessTest::namesTheFaultOfAScenario_data()
+{
+    QTest::addColumn<ScenarioRun>("expected");
+    for (const ScenarioRun &expected : scenarioRuns()) {
+        const QStringList name{QStringList{expected.scenario} + expected.arguments};
+        QTest::addRow("%s", qPrintable(name.join(' '))) << expected;
+    }
+}
+
+void SdkCheckProcessTest::namesTheFaultOfAScenario()
+{
+    QFETCH(const ScenarioRun, expected);
+    QProcessEnvironment environment{programEnvironment()};
+    environment.insert("VELTRIX_SIMULATOR_SCENARIO", expected.scenario);
+    const Outcome outcome{run(PROGRAM, QStringList{"--port", "SIM1"} + expected.arguments, environment)};
+    QVERIFY2(outcome.exited, qPrintable(outcome.errors));
+    QCOMPARE(notOkLines(outcome.output), expected.notOk);
+    QCOMPARE(outcome.status, expected.notOk.isEmpty() ? 0 : 1);
+    QCOMPARE(outcome.errors.split('\n', Qt::SkipEmptyParts), expected.errors);
+}
+
+void SdkCheckProcessTest::everyScenarioHasARun()
+{
+    QStringList shipped;
+    for (const QFileInfo &file : QDir{SCENARIOS}.entryInfoList({"*.toml"}, QDir::Files)) {
+        shipped.append(file.completeBaseName());
+    }
+    QStringList expected;
+    for (const ScenarioRun &run : scenarioRuns()) {
+        expected.append(run.scenario);
+    }
+    expected.removeDuplicates();
+    shipped.sort();
+    expected.sort();
+    QCOMPARE(expected, shipped);
 }
 
 void SdkCheckProcessTest::listsPortsWithoutAPort()
@@ -219,7 +244,7 @@ void SdkCheckProcessTest::writesJson()
     const Outcome outcome{run(PROGRAM, {"--port", "SIM1", "--write", "--json"}, programEnvironment())};
     QCOMPARE(outcome.status, 0);
     const QJsonDocument document{QJsonDocument::fromJson(outcome.output.toUtf8())};
-    const QJsonObject counts{{"ok", 206}, {"notOk", 0}, {"skipped", 0}};
+    const QJsonObject counts{{"ok", 257}, {"notOk", 0}, {"skipped", 0}};
     QCOMPARE(document["counts"].toObject(), counts);
     QCOMPARE(document["allHold"], QJsonValue{true});
 }
