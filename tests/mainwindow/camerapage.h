@@ -20,6 +20,25 @@ inline void openCameraPage(TestWindow &window, const QString &page)
     }
 }
 
+/// Clicks a button of a page that no installation shows.
+inline void clickHidden(TestWindow &test, const QString &button)
+{
+    auto &itsButton = test.child<QAbstractButton>(button);
+    QVERIFY(itsButton.isEnabled());
+    itsButton.click();
+}
+
+/// Lets the last command be a refused one; the journal and the log of it are forgotten.
+inline void letACommandFail(TestWindow &test)
+{
+    test.simulator.addFault({"setGamma"});
+    test.invoke("gammaUserSendCommand");
+    test.simulator.clearFaults();
+    QVERIFY(!test.lastCommandOk());
+    test.takeLog();
+    test.simulator.clearJournal();
+}
+
 /// Runs the camera's read and returns its result.
 inline bool readCamera(TestWindow &window)
 {

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 // Tests of the declaration of bad pixels: single ones, whole lines and whole columns.
 #include "camerapage.h"
+#include "owndirectory.h"
 
 #include <QDir>
 #include <QSpinBox>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <array>
@@ -96,14 +96,6 @@ void choose(TestWindow &test, const Pixel &pixel)
     test.child<QSpinBox>("yBadPixelCoordinate").setValue(pixel.row);
 }
 
-/// Presses a button of the page that no installation shows.
-void press(TestWindow &test, const QString &button)
-{
-    auto &itsButton = test.child<QAbstractButton>(button);
-    QVERIFY(itsButton.isEnabled());
-    itsButton.click();
-}
-
 } // namespace
 
 class TestBadPixels : public QObject
@@ -111,8 +103,8 @@ class TestBadPixels : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { directory.emplace(); }
+    void cleanup() { directory.reset(); }
     void theTextsOfOnePixel_data();
     void theTextsOfOnePixel();
     void everyPixelIsSentAndTold_data();
@@ -128,22 +120,8 @@ private slots:
     void withoutADeviceOnlyTheBoxIsShown();
 
 private:
-    QString directoryBefore;
-    std::optional<QTemporaryDir> directory;
+    std::optional<OwnDirectory> directory;
 };
-
-void TestBadPixels::init()
-{
-    directoryBefore = QDir::currentPath();
-    directory.emplace();
-    QVERIFY(QDir::setCurrent(directory->path()));
-}
-
-void TestBadPixels::cleanup()
-{
-    QVERIFY(QDir::setCurrent(directoryBefore));
-    directory.reset();
-}
 
 void TestBadPixels::theTextsOfOnePixel_data()
 {
@@ -174,7 +152,7 @@ void TestBadPixels::theTextsOfOnePixel()
         test.simulator.addFault({call.section('(', 0, 0).toStdString()});
     }
 
-    press(test, button);
+    clickHidden(test, button);
     QCOMPARE(test.takeCallsAndRecords(), (QStringList{call, "log(2, \"" + line + "\")"}));
     QCOMPARE(test.takeLog(), QStringList{line});
 }
@@ -217,7 +195,7 @@ void TestBadPixels::everyPixelIsSentAndTold()
     openCameraPage(test, "LutSection");
     choose(test, {column, row});
 
-    press(test, declarations.at(place).button);
+    clickHidden(test, declarations.at(place).button);
     const QStringList calls{test.takeCalls()};
     QCOMPARE(calls, expectation.calls);
     QCOMPARE(calls.size(), declarations.at(place).pixels);
@@ -234,7 +212,7 @@ void TestBadPixels::everyCallIsFollowedByItsLine()
     openCameraPage(test, "LutSection");
     choose(test, {12, 34});
 
-    press(test, declarations.at(place).button);
+    clickHidden(test, declarations.at(place).button);
     QStringList journal;
     for (int pixel{0}; pixel < expectation.calls.size(); ++pixel) {
         journal.append(expectation.calls.at(pixel));
@@ -274,7 +252,7 @@ void TestBadPixels::refusedPixelsAreToldAndTheOthersSent()
     test.simulator.addFault(
         {declaration.operation, static_cast<std::size_t>(from), static_cast<std::size_t>(times)});
 
-    press(test, declaration.button);
+    clickHidden(test, declaration.button);
     QCOMPARE(test.takeCalls(), expectation.calls);
     QCOMPARE(test.takeLog(), expectation.lines);
 }
@@ -284,9 +262,9 @@ void TestBadPixels::coordinatesEndAtTheSensor()
     TestWindow test;
     openCameraPage(test, "LutSection");
     choose(test, {640, 480});
-    press(test, "addBadPixelButton");
+    clickHidden(test, "addBadPixelButton");
     choose(test, {-1, -1});
-    press(test, "addBadPixelButton");
+    clickHidden(test, "addBadPixelButton");
     QCOMPARE(test.takeCalls(), (QStringList{"addBadPixel(639, 479) -> true", "addBadPixel(0, 0) -> true"}));
 }
 
@@ -298,14 +276,14 @@ void TestBadPixels::theLastResultIsLeft()
     openCameraPage(test, "LutSection");
     QVERIFY(test.lastCommandOk());
     test.simulator.addFault({declaration.operation});
-    press(test, declaration.button);
+    clickHidden(test, declaration.button);
     QVERIFY(test.lastCommandOk());
     test.simulator.clearFaults();
 
     test.simulator.addFault({"setGamma"});
     test.invoke("gammaUserSendCommand");
     test.takeCalls();
-    press(test, declaration.button);
+    clickHidden(test, declaration.button);
     QVERIFY(test.takeCalls().last().endsWith(" -> true"));
     QVERIFY(!test.lastCommandOk());
 }

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 // Tests of the table of bad pixels: its transfer from and to the camera.
 #include "camerapage.h"
+#include "owndirectory.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <array>
@@ -50,24 +50,6 @@ QString line(const Transfer &transfer, const char *fileName)
     return QString{transfer.lineBegin} + fileName + transfer.lineEnd;
 }
 
-/// Presses a button of the page that no installation shows.
-void press(TestWindow &test, const QString &button)
-{
-    auto &itsButton = test.child<QAbstractButton>(button);
-    QVERIFY(itsButton.isEnabled());
-    itsButton.click();
-}
-
-/// Lets the last command be a refused one.
-void letACommandFail(TestWindow &test)
-{
-    test.simulator.addFault({"setGamma"});
-    test.invoke("gammaUserSendCommand");
-    test.simulator.clearFaults();
-    test.takeLog();
-    test.simulator.clearJournal();
-}
-
 } // namespace
 
 class TestBprTable : public QObject
@@ -75,8 +57,8 @@ class TestBprTable : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { directory.emplace(); }
+    void cleanup() { directory.reset(); }
     void readingSavesTheTable();
     void writingSendsTheFile();
     void writingWithoutAFileIsToldInABox();
@@ -96,28 +78,14 @@ private slots:
     void otherButtonsDoNothing();
 
 private:
-    QString directoryBefore;
-    std::optional<QTemporaryDir> directory;
+    std::optional<OwnDirectory> directory;
 };
-
-void TestBprTable::init()
-{
-    directoryBefore = QDir::currentPath();
-    directory.emplace();
-    QVERIFY(QDir::setCurrent(directory->path()));
-}
-
-void TestBprTable::cleanup()
-{
-    QVERIFY(QDir::setCurrent(directoryBefore));
-    directory.reset();
-}
 
 void TestBprTable::readingSavesTheTable()
 {
     TestWindow test;
     openCameraPage(test, "LutSection");
-    press(test, "readBPRTableButton");
+    clickHidden(test, "readBPRTableButton");
     QCOMPARE(test.takeCallsAndRecords(),
              (QStringList{"readBprTable(4096, 16384, 9) -> true", "getSerialNumber() -> 10417",
                           "log(2, \"BPR table correctly saved to bpr_SN10417.bin.\")"}));
@@ -130,11 +98,11 @@ void TestBprTable::writingSendsTheFile()
 {
     TestWindow test;
     openCameraPage(test, "LutSection");
-    press(test, "readBPRTableButton");
+    clickHidden(test, "readBPRTableButton");
     test.takeLog();
     test.takeCalls();
 
-    press(test, "writeBPRTableButton");
+    clickHidden(test, "writeBPRTableButton");
     QCOMPARE(test.takeCallsAndRecords(),
              (QStringList{"writeBprTable(4096, 16384, 8) -> true", "getSerialNumber() -> 10417",
                           "log(2, \"BPR table bpr_SN10417.bin correctly written.\")"}));
@@ -146,7 +114,7 @@ void TestBprTable::writingWithoutAFileIsToldInABox()
     TestWindow test;
     openCameraPage(test, "LutSection");
     test.boxes.expect();
-    press(test, "writeBPRTableButton");
+    clickHidden(test, "writeBPRTableButton");
     QCOMPARE(test.boxes.takeShown(),
              QStringList{R"(window icon "BPR table" "BPR table not write correctly" [OK])"});
     QCOMPARE(test.takeLog(), QStringList{"BPR table bpr_SN10417.bin correctly written."});
@@ -169,7 +137,7 @@ void TestBprTable::aFailureIsToldInABoxBeforeTheLine()
         linesBefore = test.takeLog();
         BoxWatcher::pressOk(box);
     });
-    press(test, transfer.button);
+    clickHidden(test, transfer.button);
     QCOMPARE(test.boxes.takeShown(), QStringList{transfer.failureBox});
     QVERIFY(parent == &test.window());
     QCOMPARE(callsBefore, QStringList{call(transfer, false)});
@@ -190,7 +158,7 @@ void TestBprTable::aDeviceThatIsClosedMeanwhileIsNotAsked()
         BoxWatcher::pressOk(box);
     });
 
-    press(test, transfer.button);
+    clickHidden(test, transfer.button);
 
     QCOMPARE(test.boxes.takeShown(), QStringList{transfer.failureBox});
     QCOMPARE(test.takeCalls(), (QStringList{call(transfer, false), "closeDevice(device)",
@@ -223,10 +191,10 @@ void TestBprTable::theFileIsNamedAfterTheSerialNumber()
     TestWindow test;
     openCameraPage(test, "LutSection");
     test.simulator.set("camera.serialNumber", std::int64_t{serialNumber});
-    press(test, "readBPRTableButton");
+    clickHidden(test, "readBPRTableButton");
     test.takeLog();
 
-    press(test, transfers.at(place).button);
+    clickHidden(test, transfers.at(place).button);
     QCOMPARE(test.takeLog(), QStringList{line(transfers.at(place), fileName)});
     QCOMPARE(QDir{}.entryList(QDir::Files), QStringList{QString{fileName}});
 }
@@ -237,7 +205,7 @@ void TestBprTable::theSerialNumberIsAskedEachTime()
     openCameraPage(test, "LutSection");
     for (const int serialNumber : {1, 22, 333}) {
         test.simulator.set("camera.serialNumber", std::int64_t{serialNumber});
-        press(test, "readBPRTableButton");
+        clickHidden(test, "readBPRTableButton");
         QCOMPARE(test.takeLog(),
                  QStringList{QStringLiteral("BPR table correctly saved to bpr_SN%1.bin.").arg(serialNumber)});
     }
@@ -247,7 +215,7 @@ void TestBprTable::theUnitInViewIsTheOneTransferred()
 {
     TestWindow test;
     test.beConnected();
-    press(test, "readBPRTableButton");
+    clickHidden(test, "readBPRTableButton");
     QCOMPARE(test.takeCalls(),
              (QStringList{"readBprTable(4096, 16384, 9) -> true", "getSerialNumber() -> 2063"}));
     QCOMPARE(test.takeLog(), QStringList{"BPR table correctly saved to bpr_SN2063.bin."});
@@ -259,17 +227,17 @@ void TestBprTable::theLastResultIsLeft()
     const Transfer &transfer{transfers.at(place)};
     TestWindow test;
     openCameraPage(test, "LutSection");
-    press(test, "readBPRTableButton");
+    clickHidden(test, "readBPRTableButton");
     QVERIFY(test.lastCommandOk());
     test.simulator.addFault({transfer.operation});
     test.boxes.expect();
-    press(test, transfer.button);
+    clickHidden(test, transfer.button);
     QVERIFY(test.lastCommandOk());
     test.simulator.clearFaults();
     test.boxes.takeShown();
 
     letACommandFail(test);
-    press(test, transfer.button);
+    clickHidden(test, transfer.button);
     QCOMPARE(test.takeCalls().first(), call(transfer, true));
     QVERIFY(!test.lastCommandOk());
 }
@@ -309,7 +277,7 @@ void TestBprTable::otherButtonsDoNothing()
     QFETCH(const QString, button);
     TestWindow test;
     openCameraPage(test, "LutSection");
-    press(test, button);
+    clickHidden(test, button);
     QCOMPARE(test.takeCallsAndRecords(), QStringList{});
     QCOMPARE(test.takeLog(), QStringList{});
     QCOMPARE(QDir{}.entryList(QDir::Files), QStringList{});

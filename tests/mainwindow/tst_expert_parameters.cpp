@@ -55,17 +55,6 @@ QStringList readTold(const char *gsk, const char *gfid, const char *gms, const c
     };
 }
 
-/// Leaves the mark of a refused command, which what follows must not touch.
-void letACommandFail(TestWindow &test)
-{
-    test.simulator.addFault({"configureContrastType"});
-    test.invoke("contrastTypeChanged");
-    test.simulator.clearFaults();
-    QVERIFY(!test.lastCommandOk());
-    test.takeCalls();
-    test.takeLog();
-}
-
 /// Clicks a check box on its indicator: it is wider than what answers to the mouse.
 void clickIndicator(TestWindow &test, const char *checkBox)
 {

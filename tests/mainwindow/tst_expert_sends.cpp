@@ -40,16 +40,6 @@ QVector<qint64> wordsWithDefaults(const QVector<qint64> &defaults)
     return defaults + QVector<qint64>{1, 3, 0, 1000, 0, 20, 0, 4095};
 }
 
-/// Lets the last command be a refused one.
-void letACommandFail(TestWindow &test)
-{
-    test.simulator.addFault({"setGamma"});
-    test.invoke("gammaUserSendCommand");
-    test.simulator.clearFaults();
-    test.takeLog();
-    test.simulator.clearJournal();
-}
-
 } // namespace
 
 class TestExpertSends : public QObject
