@@ -149,7 +149,7 @@ void ShippedScenariosTest::showWhatTheyPromise()
     if (qEnvironmentVariableIsSet("PILOTEL_STORE_STORIES")) {
         QVERIFY2(file.open(QIODevice::WriteOnly), qPrintable(file.errorString()));
         file.write(story.toUtf8());
-        QSKIP("the story has been stored, not compared");
+        file.close();
     }
     QVERIFY2(file.open(QIODevice::ReadOnly),
              qPrintable(file.fileName() + QStringLiteral(": ") + file.errorString()));
