@@ -106,7 +106,7 @@ std::size_t Entry::choice(const std::vector<std::string> &names) const
     }
     const auto found = std::find(names.begin(), names.end(), text->get());
     if (found == names.end()) {
-        fail("takes " + alternatives(names) + ", not " + quoted(text->get()));
+        fail("takes " + alternatives(names) + ", not " + inQuotes(text->get()));
     }
     return static_cast<std::size_t>(found - names.begin());
 }
@@ -194,7 +194,7 @@ void Entry::refuseStrangers(std::string_view chooser, std::string_view chosen,
         const std::optional<Entry> entry = find(belonging.key);
         if (entry && std::find(choices.begin(), choices.end(), chosen) == choices.end()) {
             entry->fail("belongs to " + std::string{chooser} + ' ' + alternatives(choices) + ", not to " +
-                        quoted(chosen));
+                        inQuotes(chosen));
         }
     }
 }
@@ -207,7 +207,7 @@ void Entry::refuseTwoOf(const std::vector<std::string> &keys) const
         if (first && entry) {
             const bool inOrder{stands(*entry->node, *first->node)};
             const Entry &later{inOrder ? *entry : *first};
-            later.fail("cannot stand beside " + quoted((inOrder ? *first : *entry).lastKey()));
+            later.fail("cannot stand beside " + inQuotes((inOrder ? *first : *entry).lastKey()));
         }
         first = entry ? entry : first;
     }

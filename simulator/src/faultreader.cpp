@@ -70,13 +70,13 @@ ArgumentRange readArgument(const Entry &entry)
 [[noreturn]] void failUnknownOperation(const Entry &entry, const std::string &name)
 {
     if (name.find('*') != std::string::npos) {
-        entry.fail("fits no operation of the device: " + quoted(name));
+        entry.fail("fits no operation of the device: " + inQuotes(name));
     }
     std::vector<std::string> names;
     for (const Operation &operation : allOperations()) {
         names.emplace_back(operation.name);
     }
-    entry.fail("knows no operation " + quoted(name) + suggestion(name, names));
+    entry.fail("knows no operation " + inQuotes(name) + suggestion(name, names));
 }
 
 std::vector<Value> readAnswer(const Entry &entry)

@@ -4,6 +4,7 @@
 #include "memoryfile.h"
 
 #include "value.h"
+#include "wording.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -50,11 +51,6 @@ struct Damage
 {
     std::string reason;
 };
-
-std::string inQuotes(std::string_view text)
-{
-    return '"' + std::string{text} + '"';
-}
 
 [[noreturn]] void refuse(std::string reason)
 {

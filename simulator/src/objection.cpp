@@ -44,7 +44,7 @@ constexpr Demand demands[]{
     {Effect::CableOut, isOfDevice, "is no operation of the device, and only those use the cable"},
 };
 
-std::string quoted(const Operation &operation)
+std::string inQuotes(const Operation &operation)
 {
     return '"' + std::string{operation.name} + '"';
 }
@@ -53,7 +53,7 @@ std::string objectionToEffect(const Rule &rule, const Operation &operation)
 {
     for (const Demand &demand : demands) {
         if (demand.effect == rule.effect && !demand.isMet(operation)) {
-            return quoted(operation) + ' ' + demand.otherwise;
+            return inQuotes(operation) + ' ' + demand.otherwise;
         }
     }
     return {};
@@ -65,12 +65,12 @@ std::string objectionToAnswer(const Rule &rule, const Operation &operation)
     const std::size_t expected{rule.leavesOutputs ? std::min<std::size_t>(operation.answer.size(), 1)
                                                   : operation.answer.size()};
     if (answer.size() != expected) {
-        return "an answer of " + quoted(operation) + " has " + std::to_string(expected) + " values, not " +
+        return "an answer of " + inQuotes(operation) + " has " + std::to_string(expected) + " values, not " +
                std::to_string(answer.size());
     }
     for (std::size_t place{0}; place < answer.size(); ++place) {
         if (!convert(answer[place], operation.answer[place])) {
-            return "value " + std::to_string(place + 1) + " of an answer of " + quoted(operation) + " is " +
+            return "value " + std::to_string(place + 1) + " of an answer of " + inQuotes(operation) + " is " +
                    std::string{describe(operation.answer[place])};
         }
     }
@@ -81,13 +81,13 @@ std::string objectionToArgument(const ArgumentRange &argument, const Operation &
 {
     const std::size_t count{operation.arguments.size()};
     if (argument.place >= count) {
-        return count == 0 ? quoted(operation) + " takes no numbers"
-                          : quoted(operation) + " takes " + std::to_string(count) +
+        return count == 0 ? inQuotes(operation) + " takes no numbers"
+                          : inQuotes(operation) + " takes " + std::to_string(count) +
                                 (count == 1 ? " number" : " numbers") + ", so there is no number " +
                                 std::to_string(argument.place + 1);
     }
     if (operation.arguments[argument.place] == Kind::Text) {
-        return "argument " + std::to_string(argument.place + 1) + " of " + quoted(operation) +
+        return "argument " + std::to_string(argument.place + 1) + " of " + inQuotes(operation) +
                " is a text, not a number";
     }
     // Written so that NaN is no range.
@@ -97,7 +97,7 @@ std::string objectionToArgument(const ArgumentRange &argument, const Operation &
 std::string objectionToTrigger(const Rule &rule, const Operation &operation)
 {
     if (rule.target && !isOfDevice(operation)) {
-        return quoted(operation) + " is no operation of the device, and only those address a unit";
+        return inQuotes(operation) + " is no operation of the device, and only those address a unit";
     }
     if (rule.target && *rule.target != 0 && *rule.target != 1) {
         return "there is no unit " + std::to_string(*rule.target) + ", only 0 and 1";

@@ -59,7 +59,7 @@ std::variant<Scenario, std::string> findScenario(const std::string &nameOrPath)
     if (isPath(nameOrPath)) {
         const std::optional<std::string> text = bytesOf(nameOrPath);
         return text ? read(*text, nameOrPath, nameOrPath)
-                    : "the scenario file " + quoted(nameOrPath) +
+                    : "the scenario file " + inQuotes(nameOrPath) +
                           " cannot be read; name a file that can be, or a scenario that the simulator "
                           "brings along, such as \"default\"";
     }
@@ -71,8 +71,8 @@ std::variant<Scenario, std::string> findScenario(const std::string &nameOrPath)
         names.emplace_back(shipped.name);
     }
     const std::string near = nearest(nameOrPath, names);
-    return "there is no scenario " + quoted(nameOrPath) +
-           (near.empty() ? "." : "; did you mean " + quoted(near) + '?') + " The simulator brings along " +
+    return "there is no scenario " + inQuotes(nameOrPath) +
+           (near.empty() ? "." : "; did you mean " + inQuotes(near) + '?') + " The simulator brings along " +
            enumeration(names) + "; a file of yours is named by a path that ends in .toml";
 }
 

@@ -120,7 +120,7 @@ void readPorts(const Entry &list, std::vector<Port> &ports)
         entry.demandOneOf({"name"});
         if (std::any_of(ports.begin(), ports.end(),
                         [&](const Port &other) { return other.name == port.name; })) {
-            entry.find("name")->fail("stands here twice: " + quoted(port.name));
+            entry.find("name")->fail("stands here twice: " + inQuotes(port.name));
         }
         ports.push_back(std::move(port));
     }
@@ -266,7 +266,7 @@ std::optional<ScenarioError> objectionToSize(std::string_view text, const std::s
 std::string ScenarioError::message() const
 {
     return file + ':' + std::to_string(line) + ':' + std::to_string(column) + ": " +
-           (key.empty() ? "" : quoted(key) + ' ') + text;
+           (key.empty() ? "" : inQuotes(key) + ' ') + text;
 }
 
 std::variant<Scenario, ScenarioError> readScenario(std::string_view text, const std::string &fileName)

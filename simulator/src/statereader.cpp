@@ -106,7 +106,7 @@ Kind kindOfNumber(const Entry &entry)
         }
     }
     if (std::find(known.begin(), known.end(), key) == known.end()) {
-        entry.fail("knows no number of a unit " + quoted(key) + suggestion(key, known));
+        entry.fail("knows no number of a unit " + inQuotes(key) + suggestion(key, known));
     }
     return *State::kindAt(key);
 }

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// How messages name what stands in a scenario file.
+// How messages name what stands in a file that somebody else may have written.
 #include "wording.h"
 
 #include <algorithm>
@@ -58,7 +58,7 @@ std::string joined(const std::vector<std::string> &names, const char *last)
     std::string result;
     for (std::size_t place{0}; place < names.size(); ++place) {
         const char *const between{place + 1 < names.size() ? ", " : last};
-        result += (place == 0 ? "" : between) + quoted(names[place]);
+        result += (place == 0 ? "" : between) + inQuotes(names[place]);
     }
     return result;
 }
@@ -78,7 +78,7 @@ std::string oneLine(std::string_view text, std::size_t longest)
     return line + (length < text.size() ? "..." : "");
 }
 
-std::string quoted(std::string_view text)
+std::string inQuotes(std::string_view text)
 {
     return '"' + oneLine(text, longestQuote) + '"';
 }
@@ -112,7 +112,7 @@ std::string suggestion(std::string_view wrong, const std::vector<std::string> &k
 {
     const std::string near = nearest(wrong, known);
     if (!near.empty()) {
-        return "; did you mean " + quoted(near) + '?';
+        return "; did you mean " + inQuotes(near) + '?';
     }
     return known.size() <= longestList ? "; it can be " + alternatives(known) : "";
 }

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// How messages name what stands in a scenario file.
+// How messages name what stands in a file that somebody else may have written.
 #pragma once
 
 #include <cstddef>
@@ -16,7 +16,7 @@ namespace veltrix_simulator
 std::string oneLine(std::string_view text, std::size_t longest);
 
 /// The beginning of a text between quotes, fit for one line.
-std::string quoted(std::string_view text);
+std::string inQuotes(std::string_view text);
 
 /// The names as an author reads them: `"a"`, `"a" or "b"`, `"a", "b" or "c"`; the same with "and".
 std::string alternatives(const std::vector<std::string> &names);

@@ -375,6 +375,7 @@ void SimulatorMemoryTest::damageIsNamed_data()
     row("another format", changed(R"("format": 1)", R"("format": 2)"), R"(its "format" is not 1)");
     row("format as text", changed(R"("format": 1)", R"("format": "1")"), R"(its "format" is not 1)");
     row("another unit", changed(R"("camera")", R"("lens")"), R"(it has no place for "lens")");
+    row("a unit of two lines", changed(R"("camera")", R"("cam\nera")"), R"(it has no place for "cam?era")");
     row("no unit", changed(R"("format": 1,)", R"("format": 1, "blendUnit": 0,)"),
         R"("blendUnit" is no object)");
     row("another set", changed(R"("expert")", R"("factory")"), R"("camera" has no set "factory")");
