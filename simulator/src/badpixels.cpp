@@ -4,6 +4,7 @@
 #include "badpixels.h"
 
 #include "logoutput.h"
+#include "replacefile.h"
 
 #include <array>
 #include <filesystem>
@@ -31,24 +32,11 @@ bool refuse(LogOutput &log, const std::string &name, const std::string &reason)
 bool save(const BprTable &table, std::uint32_t serialNumber, LogOutput &log)
 {
     const std::string name = bprFileName(serialNumber);
-    // Renamed when complete: whoever reads the file finds the old table or the new one, never a part.
-    const std::string partName = name + ".part";
-    std::ofstream file{partName, std::ios::binary | std::ios::trunc};
-    const bool opened{file.is_open()};
-    file << formatBprFile({serialNumber, table});
-    file.close();
-    std::error_code error;
-    if (file) {
-        std::filesystem::rename(partName, name, error);
+    const bool written{!replaceFile(name, formatBprFile({serialNumber, table}))};
+    if (!written) {
+        log.write(veltrix_sdk::severity_warning, "BPR file " + name + " cannot be written in this directory");
     }
-    if (file && !error) {
-        return true;
-    }
-    log.write(veltrix_sdk::severity_warning, "BPR file " + name + " cannot be written in this directory");
-    if (opened) {
-        std::filesystem::remove(partName, error);
-    }
-    return false;
+    return written;
 }
 
 std::optional<BprTable> load(std::uint32_t serialNumber, LogOutput &log)

@@ -6,7 +6,6 @@
 #include "wording.h"
 
 #include <algorithm>
-#include <cctype>
 #include <cmath>
 #include <sstream>
 #include <tuple>
@@ -23,11 +22,6 @@ std::string range(double minimum, double maximum)
     text.precision(15);
     text << " from " << minimum << " to " << maximum;
     return text.str();
-}
-
-bool isControl(char character)
-{
-    return std::iscntrl(static_cast<unsigned char>(character)) != 0;
 }
 
 bool stands(const toml::node &node, const toml::node &before)

@@ -61,6 +61,7 @@ ArgumentRange readArgument(const Entry &entry)
     ArgumentRange argument{0, std::numeric_limits<double>::lowest(), std::numeric_limits<double>::max()};
     readTable(entry, argumentSettings, argument);
     entry.demandOneOf({"place"});
+    entry.demandOneOf({"minimum", "maximum"});
     if (argument.minimum > argument.maximum) {
         entry.find("minimum")->fail("is above the maximum");
     }
@@ -117,7 +118,10 @@ constexpr Setting<Rule> faultSettings[]{
      }},
     {"once",
      [](const Entry &entry, Rule &rule) {
-         rule.times = entry.boolean() ? 1 : 0;
+         if (!entry.boolean()) {
+             entry.fail("takes true, or is left out");
+         }
+         rule.times = 1;
      }},
     {"onCall",
      [](const Entry &entry, Rule &rule) {
@@ -139,6 +143,9 @@ constexpr Setting<Rule> faultSettings[]{
     {"probability",
      [](const Entry &entry, Rule &rule) {
          rule.probability = entry.number(0, 1);
+         if (rule.probability == 0) {
+             entry.fail("takes a number above 0: a fault without a chance never happens");
+         }
      }},
     {"effect",
      [](const Entry &entry, Rule &rule) {

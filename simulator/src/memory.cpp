@@ -50,16 +50,15 @@ void apply(const MemoryImage &image, State &state)
 std::optional<std::string> Memory::restore(State &state, const std::string &name)
 {
     fileName = name;
-    damage.reset();
     image = {};
     if (name.empty()) {
         return std::nullopt;
     }
     auto loaded = load(name);
     if (const auto *const reason = std::get_if<std::string>(&loaded)) {
-        damage = "the memory file \"" + name + "\" cannot be used: " + *reason +
-                 "; repair it, or delete it to begin with an empty memory.";
-        return damage;
+        fileName.clear();
+        return "the memory file \"" + name + "\" cannot be used: " + *reason +
+               "; repair it, or delete it to begin with an empty memory.";
     }
     image = std::get<MemoryImage>(loaded);
     apply(image, state);
@@ -75,9 +74,6 @@ bool Memory::save(const State &state, Saved set, LogOutput &log)
         log.write(veltrix_sdk::severity_warning, "The parameters are not saved: " + reason);
         return false;
     };
-    if (damage) {
-        return refuse(*damage);
-    }
     const auto target = static_cast<std::size_t>(state.target);
     MemoryImage changed{image};
     for (const UnitField &row : unitFields) {

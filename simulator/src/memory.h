@@ -19,8 +19,8 @@ class Memory
 public:
     /// Power-on: from now on the sets are kept in this file; those that are in it come back into the units.
     /// An empty name: nothing is kept. A file that is not there holds nothing yet. Nothing, or a sentence
-    /// with what is wrong with the file and what helps; then the units stay as they are, nothing can be
-    /// saved, and the file is never written.
+    /// with what is wrong with the file and what helps; then the units stay as they are, nothing is
+    /// kept, and the file is never written.
     std::optional<std::string> restore(State &state, const std::string &name);
 
     /// Keeps a set of the addressed unit. False, with a warning in the log, when it could not be kept; what
@@ -29,8 +29,7 @@ public:
 
 private:
     std::string fileName;
-    std::optional<std::string> damage; ///< What restore() complained of.
-    MemoryImage image;                 ///< What the file holds.
+    MemoryImage image; ///< What the file holds.
 };
 
 } // namespace veltrix_simulator

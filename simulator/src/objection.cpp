@@ -91,7 +91,15 @@ std::string objectionToArgument(const ArgumentRange &argument, const Operation &
                " is a text, not a number";
     }
     // Written so that NaN is no range.
-    return argument.minimum <= argument.maximum ? "" : "the range of the argument is empty";
+    if (!(argument.minimum <= argument.maximum)) {
+        return "the range of the argument is empty";
+    }
+    const Kind kind{operation.arguments[argument.place]};
+    if (!holdsAnyFrom(argument.minimum, argument.maximum, kind)) {
+        return "argument " + std::to_string(argument.place + 1) + " of " + inQuotes(operation) + " is " +
+               std::string{describe(kind)} + ", which is never in this range";
+    }
+    return {};
 }
 
 std::string objectionToTrigger(const Rule &rule, const Operation &operation)

@@ -72,6 +72,8 @@ std::optional<std::string> replaceFile(const std::string &name, std::string_view
     std::error_code error;
     std::filesystem::rename(temporary, std::filesystem::u8path(name), error);
     if (error) {
+        std::error_code ignored;
+        std::filesystem::remove(temporary, ignored);
         return "the file \"" + name + "\" cannot be replaced: " + error.message();
     }
     return std::nullopt;

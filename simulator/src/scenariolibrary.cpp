@@ -48,7 +48,8 @@ std::variant<Scenario, std::string> read(std::string_view text, const std::strin
         return error->message();
     }
     auto &scenario = std::get<Scenario>(result);
-    scenario.name = asked;
+    // Without its folder, so that traces of the same file can be compared wherever it lies.
+    scenario.name = asked.substr(asked.find_last_of("/\\") + 1);
     return std::move(scenario);
 }
 

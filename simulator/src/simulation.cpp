@@ -128,7 +128,7 @@ void Simulation::reportUnfired()
     for (const std::string &origin : core.rules.unfired()) {
         const std::string report = origin + ": this fault never happened";
         log.write(veltrix_sdk::severity_warning, report);
-        std::cerr << "veltrix.sdk simulator: " << report << '\n' << std::flush;
+        std::cerr << "veltrix.sdk: " << report << '\n' << std::flush;
     }
 }
 

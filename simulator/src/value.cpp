@@ -83,6 +83,12 @@ std::optional<Value> fromDouble(double number, Kind kind)
 
 } // namespace
 
+bool holdsAnyFrom(double minimum, double maximum, Kind kind)
+{
+    return isFloating(kind) || (minimum <= static_cast<double>(rowOf(kind).maximum) &&
+                                maximum >= static_cast<double>(rowOf(kind).minimum));
+}
+
 std::string_view describe(Kind kind)
 {
     return rowOf(kind).description;

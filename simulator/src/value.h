@@ -64,6 +64,9 @@ constexpr Kind kindOf()
     }
 }
 
+/// Whether a kind can hold any number from minimum to maximum; a kind that is no number cannot.
+bool holdsAnyFrom(double minimum, double maximum, Kind kind);
+
 /// Name of a kind for messages, such as "an integer from 0 to 255".
 std::string_view describe(Kind kind);
 

@@ -4,7 +4,6 @@
 #include "wording.h"
 
 #include <algorithm>
-#include <cctype>
 #include <cstddef>
 #include <numeric>
 
@@ -14,11 +13,11 @@ namespace
 {
 
 constexpr std::size_t longestQuote{80};
-constexpr std::size_t longestList{10};
+constexpr std::size_t longestList{20};
 
 char lower(char character)
 {
-    return static_cast<char>(std::tolower(static_cast<unsigned char>(character)));
+    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
 }
 
 /// How many characters have to be added, dropped or replaced to come from one name to the other; the case of
@@ -65,6 +64,11 @@ std::string joined(const std::vector<std::string> &names, const char *last)
 
 } // namespace
 
+bool isControl(char character)
+{
+    return (character >= '\0' && character < ' ') || character == '\x7F';
+}
+
 std::string oneLine(std::string_view text, std::size_t longest)
 {
     std::size_t length{std::min(text.size(), longest)};
@@ -73,7 +77,7 @@ std::string oneLine(std::string_view text, std::size_t longest)
     }
     std::string line;
     for (const char character : text.substr(0, length)) {
-        line += std::iscntrl(static_cast<unsigned char>(character)) != 0 ? '?' : character;
+        line += isControl(character) ? '?' : character;
     }
     return line + (length < text.size() ? "..." : "");
 }
@@ -114,7 +118,8 @@ std::string suggestion(std::string_view wrong, const std::vector<std::string> &k
     if (!near.empty()) {
         return "; did you mean " + inQuotes(near) + '?';
     }
-    return known.size() <= longestList ? "; it can be " + alternatives(known) : "";
+    return known.size() <= longestList ? "; it can be " + alternatives(known)
+                                       : "; simulator/README.md tells what there is";
 }
 
 } // namespace veltrix_simulator

@@ -11,6 +11,9 @@
 namespace veltrix_simulator
 {
 
+/// Whether a byte is a control character of ASCII, whatever the locale.
+bool isControl(char character);
+
 /// The text fit for one line: control characters become question marks, and of a longer text only the
 /// beginning is there.
 std::string oneLine(std::string_view text, std::size_t longest);
@@ -25,7 +28,8 @@ std::string enumeration(const std::vector<std::string> &names);
 /// The known name that is most like the wrong one; empty when none is like it.
 std::string nearest(std::string_view wrong, const std::vector<std::string> &known);
 
-/// How to go on from a wrong name: `; did you mean "onCall"?`, and where few names are known, all of them.
+/// How to go on from a wrong name: `; did you mean "onCall"?`, and where no name is
+/// like it, all of them or where to find them.
 std::string suggestion(std::string_view wrong, const std::vector<std::string> &known);
 
 } // namespace veltrix_simulator

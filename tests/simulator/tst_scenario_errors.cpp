@@ -86,8 +86,9 @@ void ScenarioErrorsTest::fileIsRefusedWith_data()
             R"("sensorMillikelvin"?)");
     refuses("unknown key of the configuration", "[configuration]\nexpert = true",
             R"(flaky.toml:2:1: "configuration.expert" is unknown here; did you mean "expertMode"?)");
-    refuses("bad pixels of the configuration", "[configuration]\nbadPixels = []",
-            R"(flaky.toml:2:1: "configuration.badPixels" is unknown here)");
+    refuses(
+        "bad pixels of the configuration", "[configuration]\nbadPixels = []",
+        R"(flaky.toml:2:1: "configuration.badPixels" is unknown here; simulator/README.md tells what there is)");
     refuses("state value of another type", "[camera]\ngamma = \"much\"",
             R"(flaky.toml:2:9: "camera.gamma" takes an integer from 0 to 4294967295)");
     refuses("state value out of range", "camera.gamma = 4294967296",
@@ -162,8 +163,9 @@ void ScenarioErrorsTest::fileIsRefusedWith_data()
             R"(flaky.toml:2:14: "fault.operations" takes a list)");
     refuses("unknown operation", effectOn("setGama", R"("refuse")"),
             R"(flaky.toml:2:13: "fault.operation" knows no operation "setGama"; did you mean "setGamma"?)");
-    refuses("operation like no other", effectOn("xyz", R"("refuse")"),
-            R"(flaky.toml:2:13: "fault.operation" knows no operation "xyz")");
+    refuses(
+        "operation like no other", effectOn("xyz", R"("refuse")"),
+        R"(flaky.toml:2:13: "fault.operation" knows no operation "xyz"; simulator/README.md tells what there is)");
     refuses("pattern without operations", effectOn("frob*", R"("refuse")"),
             R"(flaky.toml:2:13: "fault.operation" fits no operation of the device: "frob*")");
     refuses("unknown operation after", fault(R"(after = "setTargets")"),
@@ -223,9 +225,21 @@ void ScenarioErrorsTest::fileIsRefusedWith_data()
             R"(flaky.toml:4:12: "fault.argument" lacks "place")");
     refuses("argument in place zero", fault("argument = { place = 0 }"),
             R"(flaky.toml:4:22: "fault.argument.place" takes an integer from 1 to 100)");
-    refuses("argument that is not there", fault("argument = { place = 2 }"),
+    refuses("argument that is not there", fault("argument = { place = 2, minimum = 0 }"),
             R"(flaky.toml:4:12: "fault.argument" does not fit: "setGamma" takes 1 number, so there is no )"
             "number 2");
+    refuses("argument without a range", fault("argument = { place = 1 }"),
+            R"(flaky.toml:4:12: "fault.argument" lacks "minimum" or "maximum")");
+    refuses("argument that is never so large",
+            "[[fault]]\noperation = \"setVideoMode\"\neffect = \"refuse\"\n"
+            "argument = { place = 1, minimum = 300 }",
+            R"(flaky.toml:4:12: "fault.argument" does not fit: argument 1 of "setVideoMode" is an integer )"
+            "from 0 to 255, which is never in this range");
+    refuses("never once", fault("once = false"),
+            R"(flaky.toml:4:8: "fault.once" takes true, or is left out)");
+    refuses("no chance", fault("probability = 0"),
+            R"(flaky.toml:4:15: "fault.probability" takes a number above 0: a fault without a chance never )"
+            "happens");
     refuses("empty range", fault("argument = { place = 1, minimum = 3, maximum = 2 }"),
             R"(flaky.toml:4:35: "fault.argument.minimum" is above the maximum)");
     refuses("memory without a file", "[memory]", R"(flaky.toml:1:1: "memory" lacks "file")");
@@ -245,9 +259,10 @@ void ScenarioErrorsTest::fileIsRefusedWith_data()
             R"(flaky.toml:1:1: "life.drift" is a list of tables, so each is headed [[life.drift]])");
     refuses("drift in no time", "[[life.drift]]\nkey = \"camera.gamma\"\nend = 1\nhalfTimeSeconds = 0",
             R"(flaky.toml:4:19: "life.drift.halfTimeSeconds" takes a number from 0.001 to 315360000)");
-    refuses("counter of the configuration",
-            "[[life.counter]]\nkey = \"configuration.gmsMinimum\"\nintervalSeconds = 1",
-            R"(flaky.toml:2:7: "life.counter.key" knows no number of a unit "configuration.gmsMinimum")");
+    refuses(
+        "counter of the configuration",
+        "[[life.counter]]\nkey = \"configuration.gmsMinimum\"\nintervalSeconds = 1",
+        R"(flaky.toml:2:7: "life.counter.key" knows no number of a unit "configuration.gmsMinimum"; simulator/README.md tells what there is)");
     refuses("counter without an interval", "[[life.counter]]\nkey = \"camera.userSaves\"",
             R"(flaky.toml:1:1: "life.counter" lacks "intervalSeconds")");
     refuses("no TOML", "seed =",

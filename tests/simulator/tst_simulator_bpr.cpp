@@ -360,12 +360,12 @@ void SimulatorBprTest::unwritableDirectoryIsRefused()
     const WorkingDirectory directory;
     const SimulatedCamera c;
     // A directory in the way of the file that is renamed when complete; permissions do not stop root.
-    QVERIFY(QDir{}.mkdir(cameraFile + ".part"));
+    QVERIFY(QDir{}.mkdir(cameraFile + ".tmp"));
     QVERIFY(!read(c));
     QVERIFY(c.device->addBadPixel(1, 1));
     QVERIFY(!write(c));
     c.manager->closeDevice(c.device);
-    QVERIFY(QDir{}.rmdir(cameraFile + ".part"));
+    QVERIFY(QDir{}.rmdir(cameraFile + ".tmp"));
     c.manager->openDevice("SIM1");
     c.device->setTarget(cameraTarget);
     QVERIFY(write(c));

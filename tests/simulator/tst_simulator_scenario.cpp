@@ -208,7 +208,7 @@ void SimulatorScenarioTest::unfiredFaultsAreToldAtTheEnd_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("told");
     QTest::addRow("the one that did not happen")
-        << QStringList{} << "veltrix.sdk simulator: flaky.toml:setGamma: this fault never happened\n";
+        << QStringList{} << "veltrix.sdk: flaky.toml:setGamma: this fault never happened\n";
     QTest::addRow("none of a scenario that was left") << QStringList{"reset"} << "";
 }
 

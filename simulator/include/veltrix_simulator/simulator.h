@@ -69,7 +69,8 @@ public:
     void reset();
     /// Power-on state of a scenario, as if the process had started on it: the name of one that the simulator
     /// brings along, or the path of a file. Throws std::invalid_argument with one line that says what is
-    /// wrong and where; everything is as it was then.
+    /// wrong and where; a file that is wrong changes nothing, one whose memory file is damaged leaves the
+    /// default scenario.
     void loadScenario(const std::string &nameOrPath);
 
     /// Every call since the last clearJournal() or reset(), in order; of more than 200000 calls the latest.
