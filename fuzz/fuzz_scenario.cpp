@@ -1,16 +1,66 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// Throws bytes at the parser of scenario files.
+// Throws bytes at the parser of scenario files, and plays what it takes for one.
 #include "scenarioreader.h"
 #include "simulation.h"
 
 #include <cstdint>
 #include <cstdlib>
-#include <stdexcept>
 #include <string>
 #include <variant>
 
 using namespace veltrix_simulator;
+
+namespace
+{
+
+/// What takes time is as likely as anything else, and a fuzzer has none: without it everything happens at
+/// once.
+void hurry(Scenario &scenario)
+{
+    scenario.link = {};
+    for (Rule &rule : scenario.rules) {
+        rule.delay = {};
+    }
+    for (Port &port : scenario.ports) {
+        port.delay = {};
+    }
+}
+
+/// Some of each kind of operation on both units, on the first port that opens.
+void play(const Scenario &scenario)
+{
+    Simulation &played{simulation()};
+    for (const Port &port : scenario.ports) {
+        veltrix_sdk::IDeviceControl *const device{played.manager.openDevice(port.name.c_str())};
+        if (device == nullptr) {
+            continue;
+        }
+        for (const std::int32_t target : {0, 1}) {
+            device->setTarget(target);
+            std::uint8_t identity{0};
+            device->connect(&identity);
+            veltrix_sdk::Temperatures temperatures{};
+            veltrix_sdk::OperatingInfo info{};
+            veltrix_sdk::ZoomConfig zoom{};
+            veltrix_sdk::Warp warp{};
+            for (int round{0}; round < 3; ++round) {
+                device->getTemperatures(&temperatures);
+                device->getOperatingInfo(&info);
+                device->getZoomConfig(&zoom);
+                device->configureZoom(&zoom);
+                device->getWarp(&warp);
+                device->getEdgeCorrection();
+                device->setGamma(device->getGamma() + 1);
+                device->setColorLut(device->getColorLut());
+            }
+        }
+        played.manager.closeDevice(device);
+        return;
+    }
+}
+
+} // namespace
 
 /// Whatever is taken for a scenario can be played; a refusal is one line that names the file.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
@@ -23,9 +73,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         }
         return 0;
     }
-    // A memory file is the folder's business, not the parser's.
     auto &scenario = std::get<Scenario>(read);
+    // A memory file is the folder's business, not the parser's.
     scenario.memoryFile.clear();
+    hurry(scenario);
     simulation().start(scenario);
+    play(scenario);
     return 0;
 }
