@@ -87,7 +87,7 @@ std::string Entry::text() const
     const auto *const text = node->as_string();
     if (text == nullptr || text->get().empty() ||
         std::any_of(text->get().begin(), text->get().end(), isControl)) {
-        fail("takes a text of one line");
+        fail("takes a text that is not empty and of one line");
     }
     return text->get();
 }
@@ -116,7 +116,9 @@ std::optional<Value> Entry::value() const
     if (const auto *const number = node->as_floating_point()) {
         return number->get();
     }
-    if (const auto *const text = node->as_string()) {
+    // A text ends for the program where the contract's texts end.
+    if (const auto *const text = node->as_string();
+        text != nullptr && text->get().find('\0') == std::string::npos) {
         return text->get();
     }
     return std::nullopt;

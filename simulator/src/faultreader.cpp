@@ -71,7 +71,7 @@ ArgumentRange readArgument(const Entry &entry)
 [[noreturn]] void failUnknownOperation(const Entry &entry, const std::string &name)
 {
     if (name.find('*') != std::string::npos) {
-        entry.fail("fits no operation of the device: " + inQuotes(name));
+        entry.fail("fits no operation of the device: " + inQuotes(name) + "; the others take no *");
     }
     std::vector<std::string> names;
     for (const Operation &operation : allOperations()) {
@@ -112,6 +112,9 @@ constexpr Setting<Rule> faultSettings[]{
     {"after",
      [](const Entry &entry, Rule &rule) {
          rule.after = entry.text();
+         if (rule.after.find('*') != std::string::npos) {
+             entry.fail("takes one operation, and no pattern");
+         }
          if (findOperation(rule.after) == nullptr) {
              failUnknownOperation(entry, rule.after);
          }

@@ -8,8 +8,10 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <optional>
+#include <system_error>
 #include <utility>
 
 namespace veltrix_simulator
@@ -30,6 +32,11 @@ bool isPath(std::string_view nameOrPath)
 /// read.
 std::optional<std::string> bytesOf(const std::string &path)
 {
+    // A pipe would keep the program waiting for ever.
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(path, error)) {
+        return std::nullopt;
+    }
     std::ifstream file{path, std::ios::binary};
     std::string bytes(largestScenario + 1, '\0');
     file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
@@ -61,7 +68,8 @@ std::variant<Scenario, std::string> findScenario(const std::string &nameOrPath)
         const std::optional<std::string> text = bytesOf(nameOrPath);
         return text ? read(*text, nameOrPath, nameOrPath)
                     : "the scenario file " + inQuotes(nameOrPath) +
-                          " cannot be read; name a file that can be, or a scenario that the simulator "
+                          " is no file or cannot be read; name a file that can be, or a scenario that the "
+                          "simulator "
                           "brings along, such as \"default\"";
     }
     std::vector<std::string> names;

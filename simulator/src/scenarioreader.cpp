@@ -142,6 +142,18 @@ constexpr Setting<Drift> driftSettings[]{
      }},
 };
 
+/// Two lives of one value would work against each other.
+void refuseSecondLife(const Entry &key, const Life &life)
+{
+    const auto livesBy = [name = key.text()](const auto &each) {
+        return each.key == name;
+    };
+    if (std::any_of(life.drifts.begin(), life.drifts.end(), livesBy) ||
+        std::any_of(life.counters.begin(), life.counters.end(), livesBy)) {
+        key.fail("drifts or counts already: " + inQuotes(key.text()));
+    }
+}
+
 void readDrift(const Entry &entry, Life &life)
 {
     Drift drift;
@@ -150,6 +162,7 @@ void readDrift(const Entry &entry, Life &life)
         entry.demandOneOf({std::string{setting.key}});
     }
     const Kind kind{kindOfNumber(*entry.find("key"))};
+    refuseSecondLife(*entry.find("key"), life);
     const Entry end = *entry.find("end");
     const std::optional<Value> value = convert(*end.value(), kind);
     if (!value) {
@@ -178,6 +191,7 @@ void readCounter(const Entry &entry, Life &life)
     for (const auto &setting : counterSettings) {
         entry.demandOneOf({std::string{setting.key}});
     }
+    refuseSecondLife(*entry.find("key"), life);
     life.counters.push_back(std::move(counter));
 }
 
@@ -241,6 +255,16 @@ constexpr Setting<Scenario> scenarioSettings[]{
      }},
 };
 
+/// A life that never goes on would look like one that is very slow.
+void refuseLifeWithoutTime(const Entry &file, const Scenario &scenario)
+{
+    const Life &life{scenario.life};
+    const bool lives{!life.drifts.empty() || !life.counters.empty()};
+    if (lives && life.timePerCall.count() == 0 && scenario.link.kind == Link::Kind::None) {
+        file.find("life")->fail("needs millisecondsPerCall or a link: without them no time goes by");
+    }
+}
+
 /// What of the text does not even get to the parser.
 std::optional<ScenarioError> objectionToSize(std::string_view text, const std::string &fileName)
 {
@@ -281,7 +305,9 @@ std::variant<Scenario, ScenarioError> readScenario(std::string_view text, const 
     }
     try {
         Scenario scenario;
-        readTable(Entry{std::get<toml::table>(parsed), {}, fileName}, scenarioSettings, scenario);
+        const Entry file{std::get<toml::table>(parsed), {}, fileName};
+        readTable(file, scenarioSettings, scenario);
+        refuseLifeWithoutTime(file, scenario);
         return scenario;
     } catch (ScenarioError &error) {
         return std::move(error);

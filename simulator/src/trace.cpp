@@ -8,10 +8,31 @@
 
 #include <chrono>
 #include <cstdlib>
+#include <filesystem>
 #include <iostream>
+#include <system_error>
 
 namespace veltrix_simulator
 {
+namespace
+{
+
+constexpr std::string_view beginning{R"({"trace":1,)"};
+
+/// Whether writing there destroys nothing but an earlier trace.
+bool isTraceOrNothing(const std::string &name)
+{
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(name, error)) {
+        return true;
+    }
+    std::ifstream existing{name, std::ios::binary};
+    std::string bytes(beginning.size(), '\0');
+    existing.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    return existing.gcount() == 0 || bytes == beginning;
+}
+
+} // namespace
 
 void Trace::start(std::string_view scenario, std::uint64_t seed)
 {
@@ -23,7 +44,8 @@ void Trace::start(std::string_view scenario, std::uint64_t seed)
     if (!isOn()) {
         return;
     }
-    std::string header{R"({"trace":1,"scenario":)"};
+    std::string header{beginning};
+    header.append(R"("scenario":)");
     appendJsonText(header, scenario);
     header.append(R"(,"seed":)").append(std::to_string(seed)).append(R"(,"time":")");
     header.append(formatTime(std::chrono::system_clock::now(), Precision::Microseconds)).append("\"}\n");
@@ -44,6 +66,15 @@ void Trace::open(const std::string &name)
     file.close();
     file.clear();
     if (name.empty()) {
+        return;
+    }
+    // Whoever mixes up two variables must not lose a scenario or a memory.
+    if (!isTraceOrNothing(name)) {
+        std::cerr
+            << "veltrix.sdk: \"" << name
+            << "\" is no trace, and is left as it is; set VELTRIX_SIMULATOR_TRACE to another file, or delete "
+               "this one. The program goes on without a trace.\n"
+            << std::flush;
         return;
     }
     file.open(name, std::ios::binary | std::ios::trunc);

@@ -46,6 +46,12 @@ bool isBeginning(std::string_view wrong, std::string_view name)
     return wrong.size() >= 3 && name.substr(0, wrong.size()) == wrong;
 }
 
+/// Whether a name has the letters of another in another order, such as "sede" for "seed".
+bool isMixedUp(std::string_view wrong, std::string_view name)
+{
+    return wrong.size() == name.size() && std::is_permutation(wrong.begin(), wrong.end(), name.begin());
+}
+
 /// Whether a byte is inside a character of UTF-8, not at its beginning.
 bool continuesCharacter(char byte)
 {
@@ -103,7 +109,8 @@ std::string nearest(std::string_view wrong, const std::vector<std::string> &know
     std::size_t least{std::max<std::size_t>(wrong.size() / 3, 1) + 1};
     std::string found;
     for (const std::string &name : known) {
-        const std::size_t away{isBeginning(wrong, name) ? 1 : distance(wrong, name)};
+        const std::size_t away{isBeginning(wrong, name) || isMixedUp(wrong, name) ? 1
+                                                                                  : distance(wrong, name)};
         if (away < least && away < name.size()) {
             least = away;
             found = name;

@@ -130,7 +130,7 @@ void ScenarioChoiceTest::processPlays_data()
           "veltrix.sdk: wrong.toml:2:1: \"lynk\" is unknown here; did you mean \"link\"?\n");
     plays(
         "missing file", "./missing", broken,
-        R"(veltrix.sdk: the scenario file "./missing" cannot be read; name a file that can be, or a scenario )"
+        R"(veltrix.sdk: the scenario file "./missing" is no file or cannot be read; name a file that can be, or a scenario )"
         "that the simulator brings along, such as \"default\"\n");
     plays("unknown name", "no-port", broken,
           R"(veltrix.sdk: there is no scenario "no-port"; did you mean "no-ports"?)" + cure() + '\n');
@@ -209,7 +209,7 @@ void ScenarioChoiceTest::refusedScenarioIsNamed_data()
     QTest::addColumn<QString>("nameOrPath");
     QTest::addColumn<QString>("message");
     const QString unreadable =
-        R"(" cannot be read; name a file that can be, or a scenario that the simulator )"
+        R"(" is no file or cannot be read; name a file that can be, or a scenario that the simulator )"
         R"(brings along, such as "default")";
     const QString wrong = directory.filePath("wrong.toml");
     QTest::newRow("name") << "zzz"

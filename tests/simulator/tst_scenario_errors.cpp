@@ -57,6 +57,7 @@ void ScenarioErrorsTest::fileIsRefusedWith_data()
     };
 
     refuses("unknown key", "seeed = 1", R"(flaky.toml:1:1: "seeed" is unknown here; did you mean "seed"?)");
+    refuses("mixed up key", "sede = 1", R"(flaky.toml:1:1: "sede" is unknown here; did you mean "seed"?)");
     refuses("unknown table", "[lynk]\nkind = \"none\"",
             R"(flaky.toml:1:2: "lynk" is unknown here; did you mean "link"?)");
     refuses("nothing like it", "zzzzzzzz = 1",
@@ -123,7 +124,7 @@ void ScenarioErrorsTest::fileIsRefusedWith_data()
             R"(flaky.toml:1:1: "port" is a list of tables, so each is headed [[port]])");
     refuses("port without a name", "[[port]]\nopening = \"opens\"", R"(flaky.toml:1:1: "port" lacks "name")");
     refuses("port with an empty name", "[[port]]\nname = \"\"",
-            R"(flaky.toml:2:8: "port.name" takes a text of one line)");
+            R"(flaky.toml:2:8: "port.name" takes a text that is not empty and of one line)");
     refuses("port twice", "[[port]]\nname = \"A\"\n[[port]]\nname = \"A\"",
             R"(flaky.toml:4:8: "port.name" stands here twice: "A")");
     refuses("unknown opening", "[[port]]\nname = \"A\"\nopening = \"open\"",
@@ -166,8 +167,11 @@ void ScenarioErrorsTest::fileIsRefusedWith_data()
     refuses(
         "operation like no other", effectOn("xyz", R"("refuse")"),
         R"(flaky.toml:2:13: "fault.operation" knows no operation "xyz"; simulator/README.md tells what there is)");
-    refuses("pattern without operations", effectOn("frob*", R"("refuse")"),
-            R"(flaky.toml:2:13: "fault.operation" fits no operation of the device: "frob*")");
+    refuses(
+        "pattern without operations", effectOn("frob*", R"("refuse")"),
+        R"(flaky.toml:2:13: "fault.operation" fits no operation of the device: "frob*"; the others take no *)");
+    refuses("pattern after", fault(R"(after = "get*")"),
+            R"(flaky.toml:4:9: "fault.after" takes one operation, and no pattern)");
     refuses("unknown operation after", fault(R"(after = "setTargets")"),
             R"(flaky.toml:4:9: "fault.after" knows no operation "setTargets"; did you mean "setTarget"?)");
     refuses("unknown target", fault(R"(target = "cam")"),
@@ -244,10 +248,19 @@ void ScenarioErrorsTest::fileIsRefusedWith_data()
             R"(flaky.toml:4:35: "fault.argument.minimum" is above the maximum)");
     refuses("memory without a file", "[memory]", R"(flaky.toml:1:1: "memory" lacks "file")");
     refuses("file without a name", R"(memory.file = "")",
-            R"(flaky.toml:1:15: "memory.file" takes a text of one line)");
+            R"(flaky.toml:1:15: "memory.file" takes a text that is not empty and of one line)");
     refuses("drift of an unknown key", "[[life.drift]]\nkey = \"camera.gama\"\nend = 1\nhalfTimeSeconds = 1",
             R"(flaky.toml:2:7: "life.drift.key" knows no number of a unit "camera.gama"; did you mean )"
             R"("camera.gamma"?)");
+    refuses("life without time", "[[life.counter]]\nkey = \"camera.gamma\"\nintervalSeconds = 1",
+            R"(flaky.toml:1:1: "life" needs millisecondsPerCall or a link: without them no time goes by)");
+    refuses(
+        "two lives of one value",
+        "life.millisecondsPerCall = 1\n[[life.drift]]\nkey = \"camera.gamma\"\nend = 1\nhalfTimeSeconds = 1\n"
+        "[[life.counter]]\nkey = \"camera.gamma\"\nintervalSeconds = 1",
+        R"(flaky.toml:7:7: "life.counter.key" drifts or counts already: "camera.gamma")");
+    refuses("text that ends early", R"(configuration.communicationType = "UA\u0000RT")",
+            R"(flaky.toml:1:35: "configuration.communicationType" takes a text)");
     refuses("drift of a switch", "[[life.drift]]\nkey = \"camera.polarity\"\nend = 1\nhalfTimeSeconds = 1",
             R"(flaky.toml:2:7: "life.drift.key" knows no number of a unit "camera.polarity"; did you mean )"
             R"("camera.identity"?)");

@@ -240,14 +240,17 @@ void ScenarioReaderTest::keySets_data()
         "100000 us");
     sets(
         "drift",
-        "[[life.drift]]\nkey = \"camera.temperatures.sensorMillikelvin\"\nend = 310150\nhalfTimeSeconds = 60",
+        "life.millisecondsPerCall = 1\n[[life.drift]]\nkey = \"camera.temperatures.sensorMillikelvin\"\nend "
+        "= 310150\nhalfTimeSeconds = 60",
         [](const Scenario &s) {
             const Drift &drift = s.life.drifts.at(0);
             return drift.key + " to " + number(drift.end) + " in " + us(drift.halfTime);
         },
         "camera.temperatures.sensorMillikelvin to 310150 in 60000000 us");
     sets(
-        "counter", "[[life.counter]]\nkey = \"camera.operatingInfo.operatingMinutes\"\nintervalSeconds = 60",
+        "counter",
+        "life.millisecondsPerCall = 1\n[[life.counter]]\nkey = "
+        "\"camera.operatingInfo.operatingMinutes\"\nintervalSeconds = 60",
         [](const Scenario &s) {
             const Counter &counter = s.life.counters.at(0);
             return counter.key + " in " + us(counter.interval);

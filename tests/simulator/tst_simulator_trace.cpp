@@ -116,6 +116,7 @@ private slots:
     void durationIsThatOfTheCall();
     void powerOnIsAHeader();
     void fileIsReplaced();
+    void otherFileIsLeftAlone();
     void nothingIsWrittenUnasked();
     void unwritableFileIsNamedOnce_data();
     void unwritableFileIsNamedOnce();
@@ -278,6 +279,24 @@ void SimulatorTraceTest::fileIsReplaced()
     const QStringList first = linesOf(name);
     QVERIFY(Run({{variable, name}}).hasSucceeded());
     QCOMPARE(linesOf(name), first);
+}
+
+void SimulatorTraceTest::otherFileIsLeftAlone()
+{
+    const QTemporaryDir directory;
+    const QString name = directory.filePath("mixed-up.toml");
+    QFile file{name};
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("seed = 7\n");
+    file.close();
+    Run run{{{variable, name}}};
+    QVERIFY(run.hasSucceeded());
+    QCOMPARE(contentOf(name), QByteArray{"seed = 7\n"});
+    QCOMPARE(
+        QString::fromLocal8Bit(run.process.readAllStandardError()),
+        "veltrix.sdk: \"" + name +
+            "\" is no trace, and is left as it is; set VELTRIX_SIMULATOR_TRACE to another file, or delete "
+            "this one. The program goes on without a trace.\n");
 }
 
 void SimulatorTraceTest::nothingIsWrittenUnasked()
