@@ -104,6 +104,8 @@ void ScenarioChoiceTest::init()
     Simulator::instance().reset();
     write(directory.filePath("mine.toml"),
           "configuration.expertMode = false\nport = [{ name = \"COM7\" }]\n");
+    write(directory.filePath("forgetful.toml"), "memory.file = \"damaged.json\"\n");
+    write(directory.filePath("damaged.json"), "[]");
     write(directory.filePath("wrong.toml"), "seed = 1\nlynk.kind = \"none\"\n");
 }
 
@@ -132,6 +134,10 @@ void ScenarioChoiceTest::processPlays_data()
         "missing file", "./missing", broken,
         R"(veltrix.sdk: the scenario file "./missing" is no file or cannot be read; name a file that can be, or a scenario )"
         "that the simulator brings along, such as \"default\"\n");
+    plays("damaged memory", "forgetful.toml", broken,
+          "veltrix.sdk: the memory file \"damaged.json\" cannot be used: it is no object; repair it, "
+          "or delete "
+          "it to begin with an empty memory.\n");
     plays("unknown name", "no-port", broken,
           R"(veltrix.sdk: there is no scenario "no-port"; did you mean "no-ports"?)" + cure() + '\n');
 }
@@ -144,6 +150,9 @@ void ScenarioChoiceTest::processPlays()
     const Output output = play(variable, directory.path());
     QCOMPARE(output.found, found);
     QCOMPARE(output.errors, errors);
+    QFile damaged{directory.filePath("damaged.json")};
+    QVERIFY(damaged.open(QIODevice::ReadOnly));
+    QCOMPARE(damaged.readAll(), QByteArray{"[]"});
 }
 
 void ScenarioChoiceTest::refusalIsLoggedOnce()
