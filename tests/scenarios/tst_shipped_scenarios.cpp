@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QDoubleSpinBox>
 #include <QPlainTextEdit>
+#include <QProcess>
 #include <QSerialPortInfo>
 #include <QTest>
 
@@ -24,7 +25,7 @@ QList<QSerialPortInfo> QSerialPortInfo::availablePorts()
 namespace
 {
 
-/// One thing that the operator does; without a condition the operator can always do it.
+/// One thing that the operator does.
 struct Step
 {
     const char *name;
@@ -127,6 +128,7 @@ private slots:
     void showWhatTheyPromise_data();
     void showWhatTheyPromise();
     void everyStoryHasItsScenario();
+    void everyScenarioIsListed();
 };
 
 void ShippedScenariosTest::showWhatTheyPromise_data()
@@ -167,6 +169,29 @@ void ShippedScenariosTest::everyStoryHasItsScenario()
         return names;
     };
     QCOMPARE(namesIn(QStringLiteral(EXPECTATIONS)), namesIn(QStringLiteral(SCENARIOS)));
+}
+
+void ShippedScenariosTest::everyScenarioIsListed()
+{
+    QStringList expected;
+    const QDir folder{QStringLiteral(SCENARIOS)};
+    for (const QFileInfo &info : folder.entryInfoList({QStringLiteral("*.toml")})) {
+        QFile file{info.filePath()};
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString description{QString::fromUtf8(file.readAll()).split(QLatin1Char{'\n'}).value(2).mid(2)};
+        QVERIFY2(!description.isEmpty(), qPrintable(info.fileName()));
+        expected.append(info.completeBaseName().leftJustified(25) + description);
+    }
+    QProcess run;
+    run.start(QStringLiteral(RUN_SCRIPT), {QStringLiteral("--scenarios")});
+    QVERIFY(run.waitForFinished());
+    QCOMPARE(QString::fromUtf8(run.readAllStandardOutput()).trimmed().split(QLatin1Char{'\n'}), expected);
+    QCOMPARE(run.exitCode(), 0);
+
+    run.start(QStringLiteral(RUN_SCRIPT), {QStringLiteral("--scenarois")});
+    QVERIFY(run.waitForFinished());
+    QVERIFY(run.readAllStandardError().startsWith("scripts/run: there is no option --scenarois\n"));
+    QCOMPARE(run.exitCode(), 2);
 }
 
 QTEST_MAIN(ShippedScenariosTest)

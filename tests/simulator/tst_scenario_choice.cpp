@@ -11,6 +11,10 @@
 
 #include <stdexcept>
 
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
+
 using veltrix_simulator::Simulator;
 using veltrix_simulator::Value;
 
@@ -229,6 +233,12 @@ void ScenarioChoiceTest::refusedScenarioIsNamed_data()
                           << R"(the scenario file "./zzz)" + unreadable;
     QTest::newRow("folder") << "./"
                             << R"(the scenario file "./)" + unreadable;
+#ifdef Q_OS_UNIX
+    // Nobody writes into it: whoever opens it waits.
+    const QString pipe = directory.filePath("pipe.toml");
+    QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    QTest::newRow("pipe") << pipe << "the scenario file \"" + pipe + unreadable;
+#endif
     QTest::newRow("file") << wrong << wrong + R"(:2:1: "lynk" is unknown here; did you mean "link"?)";
 }
 
