@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The numbers that the contract fixes: identity, targets, rates, and the range of every setting.
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+namespace veltrix_sdk
+{
+
+/// The whole numbers from minimum to maximum, both included.
+struct Range
+{
+    std::int32_t minimum;
+    std::int32_t maximum;
+};
+
+/// What a KR camera answers to connect; any other number is no camera of ours.
+inline constexpr std::uint8_t krIdentity{21};
+
+/// The units, as setTarget takes them.
+inline constexpr std::int32_t targetBlendUnit{0};
+inline constexpr std::int32_t targetCamera{1};
+
+/// The only communication type that the program can use.
+inline constexpr const char *uartCommunication{"UART"};
+
+/// Bits per second of the link to the device.
+inline constexpr std::array<std::int32_t, 2> linkBaudRates{9600, 115200};
+/// Bits per second of the camera's own MAVLink port.
+inline constexpr std::array<std::int32_t, 5> mavlinkBaudRates{9600, 115200, 230400, 460800, 921600};
+/// Hertz.
+inline constexpr std::array<std::uint8_t, 5> frameRatesHz{9, 25, 30, 50, 60};
+
+/// 1 in 16.16 fixed point.
+inline constexpr std::int32_t fixedPointOne{65536};
+
+/// The sensor, in pixels.
+inline constexpr std::uint32_t sensorColumns{640};
+inline constexpr std::uint32_t sensorRows{480};
+
+/// The regions of interest and the video streams that have a warp matrix.
+inline constexpr std::uint32_t regionCount{4};
+inline constexpr std::int32_t warpStreamCount{3};
+
+// Indices of lists; device_control.h and records.h say what each stands for.
+inline constexpr Range videoOutputRange{0, 8};
+inline constexpr Range edgeTypeRange{0, 2};
+inline constexpr Range zoomMethodRange{0, 1};
+inline constexpr Range contrastTypeRange{0, 1};
+inline constexpr Range colorLutRange{0, 7};
+inline constexpr Range videoModeRange{0, 2};
+inline constexpr Range startingModeRange{0, 3};
+
+/// 16.16 fixed point: 0.5 to 2.5.
+inline constexpr Range gammaRange{fixedPointOne / 2, fixedPointOne * 5 / 2};
+inline constexpr Range clheRange{0, 30000};
+inline constexpr Range lutTemporalFilterRange{0, 8};
+/// Percent.
+inline constexpr Range ahcGainLimitRange{0, 100};
+
+inline constexpr Range edgeGainRange{0, 1024};
+inline constexpr Range edgeThresholdRange{0, 255};
+/// The second threshold is what the camera makes of the one that is set: so much more.
+inline constexpr std::int32_t edgeThresholdDistance{40};
+
+inline constexpr Range zoomFactorRange{1, 8};
+/// Pixels of the output, which is larger than the sensor.
+inline constexpr Range zoomXCenterRange{0, 1280};
+inline constexpr Range zoomYCenterRange{0, 1024};
+
+/// Pixels.
+inline constexpr Range regionColumnRange{0, sensorColumns - 1};
+inline constexpr Range regionRowRange{0, sensorRows - 1};
+
+/// Percent.
+inline constexpr Range visibleAgcRange{0, 100};
+inline constexpr Range visibleClheThresholdRange{0, 65535};
+/// Percent.
+inline constexpr Range visibleClheFilterRange{0, 100};
+
+/// A coefficient of a warp matrix.
+inline constexpr Range warpCoefficientRange{-32768, 65536};
+
+/// The numbers that every transfer of the table of bad pixels takes, and the code of each direction.
+inline constexpr std::uint32_t bprFirstNumber{4096};
+inline constexpr std::uint32_t bprSecondNumber{16384};
+inline constexpr std::uint8_t bprReadCode{9};
+inline constexpr std::uint8_t bprWriteCode{8};
+
+/// What saveBlendUnitParameters saves.
+inline constexpr std::uint8_t saveUserParameters{0};
+inline constexpr std::uint8_t saveExpertParameters{1};
+
+} // namespace veltrix_sdk
