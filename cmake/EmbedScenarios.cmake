@@ -12,7 +12,7 @@ foreach(file IN LISTS files)
 endforeach()
 
 file(WRITE ${OUTPUT} "// The scenarios of simulator/scenarios; written by cmake/EmbedScenarios.cmake.
-#include \"scenariolibrary.h\"
+#include \"scenarios/scenariolibrary.h\"
 
 namespace veltrix_simulator
 {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // Throws bytes at the parser of the tables of bad pixels.
-#include "bprfile.h"
+#include "units/bprfile.h"
 
 #include <cstdint>
 #include <cstdlib>

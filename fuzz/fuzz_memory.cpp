@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // Throws bytes at the parser of the files of saved parameters.
-#include "memoryfile.h"
+#include "units/memoryfile.h"
 
 #include <cstdint>
 #include <cstdlib>

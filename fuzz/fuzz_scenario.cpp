@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // Throws bytes at the parser of scenario files, and plays what it takes for one.
-#include "scenarioreader.h"
+#include "scenarios/scenarioreader.h"
 #include "simulation.h"
 
 #include <cstdint>

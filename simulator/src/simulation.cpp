@@ -3,7 +3,7 @@
 // The simulated SDK as a whole: its root object and everything behind it.
 #include "simulation.h"
 
-#include "scenariolibrary.h"
+#include "scenarios/scenariolibrary.h"
 
 #include <cstdlib>
 #include <iostream>

@@ -3,14 +3,14 @@
 // The simulated SDK as a whole: its root object and everything behind it.
 #pragma once
 
-#include "configuration.h"
-#include "core.h"
-#include "device.h"
-#include "devicemanager.h"
-#include "logoutput.h"
-#include "memory.h"
-#include "scenario.h"
-#include "state.h"
+#include "calls/core.h"
+#include "contract/configuration.h"
+#include "contract/device.h"
+#include "contract/devicemanager.h"
+#include "output/logoutput.h"
+#include "scenarios/scenario.h"
+#include "units/memory.h"
+#include "units/state.h"
 #include "veltrix_sdk/sdk.h"
 
 #include <string_view>

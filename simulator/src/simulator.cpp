@@ -3,8 +3,8 @@
 // The simulator's own interface, on top of the simulation.
 #include "veltrix_simulator/simulator.h"
 
-#include "faults.h"
-#include "scenariolibrary.h"
+#include "faults/faults.h"
+#include "scenarios/scenariolibrary.h"
 #include "simulation.h"
 
 #include <stdexcept>

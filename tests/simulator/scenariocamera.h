@@ -3,7 +3,7 @@
 // The simulator started on a scenario, with the device open.
 #pragma once
 
-#include "scenario.h"
+#include "scenarios/scenario.h"
 #include "simulation.h"
 
 #include <QString>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // What is said of a scenario file that cannot be played.
-#include "scenarioreader.h"
+#include "scenarios/scenarioreader.h"
 
 #include <QtTest>
 

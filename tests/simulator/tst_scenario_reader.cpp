@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // What the keys of a scenario file set.
-#include "scenarioreader.h"
-#include "state.h"
+#include "scenarios/scenarioreader.h"
+#include "units/state.h"
 
 #include <QFile>
 #include <QRegularExpression>

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // Effects: what a call does and answers when a rule hits it.
+#include "faults/wrongvalues.h"
 #include "scenariocamera.h"
-#include "wrongvalues.h"
 
 #include <QElapsedTimer>
 #include <QRegularExpression>

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // The link: how long a call and an opening take.
-#include "link.h"
 #include "scenariocamera.h"
+#include "time/link.h"
 
 #include <QElapsedTimer>
 #include <QtTest>

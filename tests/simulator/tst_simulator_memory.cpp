@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // Saved parameters: what comes back after a power cycle, and files that are damaged or half written.
-#include "memoryfile.h"
-#include "replacefile.h"
+#include "output/replacefile.h"
 #include "simulation.h"
+#include "units/memoryfile.h"
 #include "veltrix_sdk/sdk.h"
 
 #include <QFile>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // The operations as a scenario names them, and what rules cannot be applied to them.
-#include "rules.h"
+#include "faults/rules.h"
 
 #include <QtTest>
 

@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The file of all calls that VELTRIX_SIMULATOR_TRACE names.
+#include "calls/trace.h"
+
+#include "calls/calljson.h"
+#include "output/clock.h"
+
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+#include <iostream>
+#include <system_error>
+
+namespace veltrix_simulator
+{
+namespace
+{
+
+constexpr std::string_view beginning{R"({"trace":1,)"};
+
+/// Whether writing there destroys nothing but an earlier trace.
+bool isTraceOrNothing(const std::string &name)
+{
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(name, error)) {
+        return true;
+    }
+    std::ifstream existing{name, std::ios::binary};
+    std::string bytes(beginning.size(), '\0');
+    existing.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    return existing.gcount() == 0 || bytes == beginning;
+}
+
+} // namespace
+
+void Trace::start(std::string_view scenario, std::uint64_t seed)
+{
+    const char *const variable = std::getenv("VELTRIX_SIMULATOR_TRACE");
+    const std::string name{variable != nullptr ? variable : ""};
+    if (name != fileName) {
+        open(name);
+    }
+    if (!isOn()) {
+        return;
+    }
+    std::string header{beginning};
+    header.append(R"("scenario":)");
+    appendJsonText(header, scenario);
+    header.append(R"(,"seed":)").append(std::to_string(seed)).append(R"(,"time":")");
+    header.append(formatTime(std::chrono::system_clock::now(), Precision::Microseconds)).append("\"}\n");
+    write(header);
+}
+
+void Trace::write(std::string_view line)
+{
+    file << line << std::flush;
+    if (!file) {
+        refuse();
+    }
+}
+
+void Trace::open(const std::string &name)
+{
+    fileName = name;
+    file.close();
+    file.clear();
+    if (name.empty()) {
+        return;
+    }
+    // Whoever mixes up two variables must not lose a scenario or a memory.
+    if (!isTraceOrNothing(name)) {
+        std::cerr
+            << "veltrix.sdk: \"" << name
+            << "\" is no trace, and is left as it is; set VELTRIX_SIMULATOR_TRACE to another file, or delete "
+               "this one. The program goes on without a trace.\n"
+            << std::flush;
+        return;
+    }
+    file.open(name, std::ios::binary | std::ios::trunc);
+    if (!file) {
+        refuse();
+    }
+}
+
+void Trace::refuse()
+{
+    file.close();
+    std::cerr << "veltrix.sdk: cannot write the trace file \"" << fileName
+              << "\"; set VELTRIX_SIMULATOR_TRACE to a file that can be written. The program goes on without "
+                 "a trace.\n"
+              << std::flush;
+}
+
+} // namespace veltrix_simulator

@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The simulated device manager.
+#include "contract/devicemanager.h"
+
+#include "time/link.h"
+
+#include <algorithm>
+#include <cstdint>
+
+namespace veltrix_simulator
+{
+
+veltrix_sdk::IDeviceControl *SimulatedDeviceManager::openDevice(const char *portName)
+{
+    const auto open = [&]() -> veltrix_sdk::IDeviceControl * {
+        const Port *const port = findPort(portName);
+        if (state.deviceOpen || port == nullptr) {
+            return nullptr;
+        }
+        pause(port->delay);
+        if (port->opening == Port::Opening::Refused) {
+            return nullptr;
+        }
+        state.open(port->opening == Port::Opening::Silent);
+        return &device;
+    };
+    return core.call(Interface::Manager, __func__, open, portName);
+}
+
+void SimulatedDeviceManager::closeDevice(veltrix_sdk::IDeviceControl *closed)
+{
+    const auto close = [&] {
+        if (!state.deviceOpen || closed != &device) {
+            return;
+        }
+        state.deviceOpen = false;
+        for (Unit &unit : state.units) {
+            unit.badPixels.close(static_cast<std::uint32_t>(unit[Field::serialNumber]), log);
+        }
+    };
+    core.call(Interface::Manager, __func__, close, closed);
+}
+
+const Port *SimulatedDeviceManager::findPort(const char *name) const
+{
+    if (name == nullptr) {
+        return nullptr;
+    }
+    const auto found = std::find_if(state.ports.begin(), state.ports.end(),
+                                    [&](const Port &port) { return port.name == name; });
+    return found == state.ports.end() ? nullptr : &*found;
+}
+
+} // namespace veltrix_simulator

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The simulated device manager.
+#pragma once
+
+#include "calls/core.h"
+#include "output/logoutput.h"
+#include "units/state.h"
+#include "veltrix_sdk/device_control.h"
+#include "veltrix_sdk/device_manager.h"
+
+namespace veltrix_simulator
+{
+
+/// Opens the one device on the simulator's ports, one at a time.
+class SimulatedDeviceManager final : public veltrix_sdk::IDeviceManager
+{
+public:
+    SimulatedDeviceManager(Core &itsCore, State &itsState, LogOutput &itsLog,
+                           veltrix_sdk::IDeviceControl &itsDevice)
+        : core{itsCore}, state{itsState}, log{itsLog}, device{itsDevice}
+    {}
+
+    veltrix_sdk::IDeviceControl *openDevice(const char *portName) override;
+    void closeDevice(veltrix_sdk::IDeviceControl *closed) override;
+
+private:
+    const Port *findPort(const char *name) const;
+
+    Core &core;
+    State &state;
+    LogOutput &log;
+    veltrix_sdk::IDeviceControl &device;
+};
+
+} // namespace veltrix_simulator

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The faults that tests add, as rules.
+#include "faults/faults.h"
+
+#include "operations/operations.h"
+
+#include <stdexcept>
+#include <utility>
+
+namespace veltrix_simulator
+{
+
+Rule ruleOf(Fault fault)
+{
+    Rule rule;
+    rule.from = fault.from;
+    rule.times = fault.times;
+    rule.leavesOutputs = fault.leavesOutputs;
+    if (fault.operation.empty()) {
+        if (fault.answer) {
+            throw std::invalid_argument{
+                "an answer belongs to one operation; every operation can only be refused"};
+        }
+        for (const Operation *const operation : operationsMatching("*")) {
+            rule.operations.emplace_back(operation->name);
+        }
+        return rule;
+    }
+    const Operation *const operation = findOperation(fault.operation);
+    if (operation == nullptr) {
+        throw std::invalid_argument{"the contract has no operation \"" + fault.operation + '"'};
+    }
+    // Where nothing is answered, to refuse is to do nothing, with nothing for an answer.
+    if (!fault.answer && operation->answer.empty()) {
+        fault.answer.emplace();
+    }
+    if (fault.answer) {
+        rule.effect = Effect::Answer;
+        rule.answer = *std::move(fault.answer);
+    }
+    rule.operations.push_back(std::move(fault.operation));
+    return rule;
+}
+
+} // namespace veltrix_simulator

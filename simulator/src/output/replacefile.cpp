@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// Writing a file so that it is never half written.
+#include "output/replacefile.h"
+
+#include <fcntl.h>
+#include <filesystem>
+#include <fstream>
+#include <ios>
+#include <system_error>
+
+#if defined(_WIN32)
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
+namespace veltrix_simulator
+{
+namespace
+{
+
+#if defined(_WIN32)
+int openForFlush(const std::filesystem::path &path)
+{
+    return _wopen(path.c_str(), _O_RDWR | _O_BINARY);
+}
+constexpr auto flush = _commit;
+constexpr auto closeAgain = _close;
+#else
+int openForFlush(const std::filesystem::path &path)
+{
+    return open(path.c_str(), O_RDWR | O_CLOEXEC);
+}
+constexpr auto flush = fsync;
+constexpr auto closeAgain = close;
+#endif
+
+/// Waits until the disk has the file.
+bool flushToDisk(const std::filesystem::path &path)
+{
+    const int file{openForFlush(path)};
+    if (file < 0) {
+        return false;
+    }
+    const bool flushed{flush(file) == 0};
+    return closeAgain(file) == 0 && flushed;
+}
+
+bool write(const std::filesystem::path &path, std::string_view content)
+{
+    std::ofstream file{path, std::ios::binary | std::ios::trunc};
+    file << content;
+    file.close();
+    return !file.fail();
+}
+
+} // namespace
+
+std::string temporaryNameFor(const std::string &name)
+{
+    return name + ".tmp";
+}
+
+std::optional<std::string> replaceFile(const std::string &name, std::string_view content)
+{
+    const std::filesystem::path temporary{std::filesystem::u8path(temporaryNameFor(name))};
+    // The disk has the content before the name leads to it: else a power failure could leave an empty file.
+    if (!write(temporary, content) || !flushToDisk(temporary)) {
+        return "the file \"" + temporaryNameFor(name) + "\" cannot be written";
+    }
+    std::error_code error;
+    std::filesystem::rename(temporary, std::filesystem::u8path(name), error);
+    if (error) {
+        std::error_code ignored;
+        std::filesystem::remove(temporary, ignored);
+        return "the file \"" + name + "\" cannot be replaced: " + error.message();
+    }
+    return std::nullopt;
+}
+
+} // namespace veltrix_simulator

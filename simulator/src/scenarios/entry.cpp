@@ -1,0 +1,229 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// An entry of a scenario file: a value with the key that leads to it.
+#include "scenarios/entry.h"
+
+#include "output/wording.h"
+
+#include <algorithm>
+#include <cmath>
+#include <sstream>
+#include <tuple>
+
+namespace veltrix_simulator
+{
+namespace
+{
+
+std::string range(double minimum, double maximum)
+{
+    std::ostringstream text;
+    text.imbue(std::locale::classic());
+    text.precision(15);
+    text << " from " << minimum << " to " << maximum;
+    return text.str();
+}
+
+bool stands(const toml::node &node, const toml::node &before)
+{
+    const toml::source_position &here = node.source().begin;
+    const toml::source_position &there = before.source().begin;
+    return std::tie(here.line, here.column) > std::tie(there.line, there.column);
+}
+
+} // namespace
+
+void Entry::failAt(const toml::source_position &position, std::string text) const
+{
+    throw ScenarioError{*file, std::max<std::size_t>(position.line, 1),
+                        std::max<std::size_t>(position.column, 1), path, std::move(text)};
+}
+
+void Entry::fail(std::string text) const
+{
+    failAt(node->source().begin, std::move(text));
+}
+
+bool Entry::boolean() const
+{
+    const auto *const boolean = node->as_boolean();
+    if (boolean == nullptr) {
+        fail("takes true or false");
+    }
+    return boolean->get();
+}
+
+std::int64_t Entry::integer(std::int64_t minimum, std::int64_t maximum) const
+{
+    const auto *const integer = node->as_integer();
+    if (integer == nullptr || integer->get() < minimum || integer->get() > maximum) {
+        fail("takes an integer from " + std::to_string(minimum) + " to " + std::to_string(maximum));
+    }
+    return integer->get();
+}
+
+double Entry::number(double minimum, double maximum) const
+{
+    const std::optional<double> number = node->is_number() ? node->value<double>() : std::optional<double>{};
+    // Written so that NaN is out of range.
+    if (!number || !(*number >= minimum && *number <= maximum)) {
+        fail("takes a number" + range(minimum, maximum));
+    }
+    return *number;
+}
+
+std::chrono::microseconds Entry::milliseconds(double minimum, double maximum) const
+{
+    return std::chrono::microseconds{std::llround(number(minimum, maximum) * 1e3)};
+}
+
+std::chrono::microseconds Entry::seconds(double minimum, double maximum) const
+{
+    return std::chrono::microseconds{std::llround(number(minimum, maximum) * 1e6)};
+}
+
+std::string Entry::text() const
+{
+    const auto *const text = node->as_string();
+    if (text == nullptr || text->get().empty() ||
+        std::any_of(text->get().begin(), text->get().end(), isControl)) {
+        fail("takes a text that is not empty and of one line");
+    }
+    return text->get();
+}
+
+std::size_t Entry::choice(const std::vector<std::string> &names) const
+{
+    const auto *const text = node->as_string();
+    if (text == nullptr) {
+        fail("takes " + alternatives(names));
+    }
+    const auto found = std::find(names.begin(), names.end(), text->get());
+    if (found == names.end()) {
+        fail("takes " + alternatives(names) + ", not " + inQuotes(text->get()));
+    }
+    return static_cast<std::size_t>(found - names.begin());
+}
+
+std::optional<Value> Entry::value() const
+{
+    if (const auto *const boolean = node->as_boolean()) {
+        return boolean->get();
+    }
+    if (const auto *const integer = node->as_integer()) {
+        return integer->get();
+    }
+    if (const auto *const number = node->as_floating_point()) {
+        return number->get();
+    }
+    // A text ends for the program where the contract's texts end.
+    if (const auto *const text = node->as_string();
+        text != nullptr && text->get().find('\0') == std::string::npos) {
+        return text->get();
+    }
+    return std::nullopt;
+}
+
+std::vector<Entry> Entry::elements() const
+{
+    const auto *const array = node->as_array();
+    if (array == nullptr) {
+        fail("takes a list");
+    }
+    std::vector<Entry> elements;
+    for (const toml::node &element : *array) {
+        elements.emplace_back(element, path, *file);
+    }
+    return elements;
+}
+
+std::vector<Entry> Entry::entries() const
+{
+    const auto *const table = node->as_table();
+    if (table == nullptr) {
+        fail("takes a table");
+    }
+    std::vector<Entry> entries;
+    for (const auto &[key, child] : *table) {
+        entries.push_back(under(key, child));
+    }
+    return entries;
+}
+
+std::optional<Entry> Entry::find(std::string_view key) const
+{
+    const auto *const table = node->as_table();
+    if (table == nullptr) {
+        fail("takes a table");
+    }
+    const auto found = table->find(key);
+    return found == table->end() ? std::nullopt : std::optional{under(found->first, found->second)};
+}
+
+void Entry::refuseUnknown(const std::vector<std::string> &known) const
+{
+    for (const Entry &entry : entries()) {
+        const std::string_view key = std::string_view{entry.path}.substr(path.empty() ? 0 : path.size() + 1);
+        if (std::find(known.begin(), known.end(), key) == known.end()) {
+            failUnknown(key, known);
+        }
+    }
+}
+
+void Entry::failUnknown(std::string_view key, const std::vector<std::string> &known) const
+{
+    const auto found = node->as_table()->find(key);
+    under(found->first, found->second)
+        .failAt(found->first.source().begin, "is unknown here" + suggestion(key, known));
+}
+
+void Entry::refuseStrangers(std::string_view chooser, std::string_view chosen,
+                            const std::vector<Belonging> &belongings) const
+{
+    for (const Belonging &belonging : belongings) {
+        std::vector<std::string> choices;
+        for (const Belonging &other : belongings) {
+            if (other.key == belonging.key) {
+                choices.emplace_back(other.choice);
+            }
+        }
+        const std::optional<Entry> entry = find(belonging.key);
+        if (entry && std::find(choices.begin(), choices.end(), chosen) == choices.end()) {
+            entry->fail("belongs to " + std::string{chooser} + ' ' + alternatives(choices) + ", not to " +
+                        inQuotes(chosen));
+        }
+    }
+}
+
+void Entry::refuseTwoOf(const std::vector<std::string> &keys) const
+{
+    std::optional<Entry> first;
+    for (const std::string &key : keys) {
+        const std::optional<Entry> entry = find(key);
+        if (first && entry) {
+            const bool inOrder{stands(*entry->node, *first->node)};
+            const Entry &later{inOrder ? *entry : *first};
+            later.fail("cannot stand beside " + inQuotes((inOrder ? *first : *entry).lastKey()));
+        }
+        first = entry ? entry : first;
+    }
+}
+
+void Entry::demandOneOf(const std::vector<std::string> &keys) const
+{
+    if (std::none_of(keys.begin(), keys.end(), [&](const std::string &key) { return find(key); })) {
+        fail("lacks " + alternatives(keys));
+    }
+}
+
+std::string Entry::origin() const
+{
+    return *file + ':' + std::to_string(node->source().begin.line);
+}
+
+Entry Entry::under(const toml::key &key, const toml::node &child) const
+{
+    return {child, path.empty() ? std::string{key.str()} : path + '.' + std::string{key.str()}, *file};
+}
+
+} // namespace veltrix_simulator

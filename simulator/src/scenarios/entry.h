@@ -1,0 +1,115 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// An entry of a scenario file: a value with the key that leads to it.
+#pragma once
+
+#include "scenarios/scenarioreader.h"
+#include "scenarios/tomltext.h"
+
+#include <chrono>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace veltrix_simulator
+{
+
+/// A key and what another key has to be for it: `answer` belongs to the effect "answer". A key may belong to
+/// several.
+struct Belonging
+{
+    std::string_view key;
+    std::string_view choice;
+};
+
+/// A value with the key that leads to it. What does not fit is thrown as a ScenarioError with the position
+/// of what is wrong.
+class Entry
+{
+public:
+    Entry(const toml::node &itsNode, std::string itsPath, const std::string &itsFile)
+        : node{&itsNode}, path{std::move(itsPath)}, file{&itsFile}
+    {}
+
+    [[noreturn]] void fail(std::string text) const;
+
+    bool boolean() const;
+    std::int64_t integer(std::int64_t minimum, std::int64_t maximum) const;
+    double number(double minimum, double maximum) const;
+    /// A number of milliseconds or of seconds.
+    std::chrono::microseconds milliseconds(double minimum, double maximum) const;
+    std::chrono::microseconds seconds(double minimum, double maximum) const;
+    /// A text that is not empty and has no control characters.
+    std::string text() const;
+    /// The place of the text among the names.
+    std::size_t choice(const std::vector<std::string> &names) const;
+    /// A bool, an integer, a number or a text.
+    std::optional<Value> value() const;
+
+    bool isList() const { return node->is_array(); }
+    /// The elements of an array, each under the key of the array.
+    std::vector<Entry> elements() const;
+    /// The entries of a table.
+    std::vector<Entry> entries() const;
+    std::optional<Entry> find(std::string_view key) const;
+
+    /// What a table may not have: other keys than the known ones; a key without what it belongs to; two of
+    /// the keys of which there can be one.
+    void refuseUnknown(const std::vector<std::string> &known) const;
+    void refuseStrangers(std::string_view chooser, std::string_view chosen,
+                         const std::vector<Belonging> &belongings) const;
+    void refuseTwoOf(const std::vector<std::string> &keys) const;
+    /// Refuses a table that has none of the keys.
+    void demandOneOf(const std::vector<std::string> &keys) const;
+    /// Refuses a key that the table has.
+    [[noreturn]] void failUnknown(std::string_view key, const std::vector<std::string> &known) const;
+
+    const std::string &keyPath() const { return path; }
+    /// The part of the path after the last dot.
+    std::string_view lastKey() const { return std::string_view{path}.substr(path.rfind('.') + 1); }
+    /// Such as `flaky.toml:12`.
+    std::string origin() const;
+
+private:
+    [[noreturn]] void failAt(const toml::source_position &position, std::string text) const;
+    Entry under(const toml::key &key, const toml::node &child) const;
+
+    const toml::node *node;
+    std::string path;
+    const std::string *file;
+};
+
+/// One key of a table and what it does to the target.
+template <typename Target>
+struct Setting
+{
+    std::string_view key;
+    void (*read)(const Entry &entry, Target &target);
+};
+
+template <typename Target, std::size_t count>
+std::vector<std::string> keysOf(const Setting<Target> (&settings)[count])
+{
+    std::vector<std::string> keys;
+    for (const Setting<Target> &setting : settings) {
+        keys.emplace_back(setting.key);
+    }
+    return keys;
+}
+
+/// Reads a table, whose keys are those of the settings.
+template <typename Target, std::size_t count>
+void readTable(const Entry &table, const Setting<Target> (&settings)[count], Target &target)
+{
+    table.refuseUnknown(keysOf(settings));
+    for (const Setting<Target> &setting : settings) {
+        if (const std::optional<Entry> entry = table.find(setting.key)) {
+            setting.read(*entry, target);
+        }
+    }
+}
+
+} // namespace veltrix_simulator

@@ -1,0 +1,261 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// Reads a fault of a scenario file.
+#include "scenarios/faultreader.h"
+
+#include "faults/rules.h"
+#include "output/wording.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <limits>
+#include <optional>
+
+namespace veltrix_simulator
+{
+namespace
+{
+
+constexpr std::size_t mostPatterns{64};
+constexpr std::int64_t lastCall{1'000'000'000};
+constexpr double longestDelay{10'000};
+constexpr double largestNumber{1e300};
+
+/// In the order of Effect.
+const std::vector<std::string> &effectNames()
+{
+    static const std::vector<std::string> names{"refuse", "answer",           "stuck",   "wrong", "garbage",
+                                                "late",   "lostOnPowerCycle", "cableOut"};
+    return names;
+}
+
+const std::vector<Belonging> &belongings()
+{
+    static const std::vector<Belonging> list{
+        {"answer", "answer"}, {"leavesOutputs", "answer"}, {"delayMilliseconds", "late"}};
+    return list;
+}
+
+std::size_t readCall(const Entry &entry)
+{
+    return static_cast<std::size_t>(entry.integer(1, lastCall));
+}
+
+constexpr Setting<ArgumentRange> argumentSettings[]{
+    {"place",
+     [](const Entry &entry, ArgumentRange &argument) {
+         argument.place = static_cast<std::size_t>(entry.integer(1, 100)) - 1;
+     }},
+    {"minimum",
+     [](const Entry &entry, ArgumentRange &argument) {
+         argument.minimum = entry.number(-largestNumber, largestNumber);
+     }},
+    {"maximum",
+     [](const Entry &entry, ArgumentRange &argument) {
+         argument.maximum = entry.number(-largestNumber, largestNumber);
+     }},
+};
+
+ArgumentRange readArgument(const Entry &entry)
+{
+    ArgumentRange argument{0, std::numeric_limits<double>::lowest(), std::numeric_limits<double>::max()};
+    readTable(entry, argumentSettings, argument);
+    entry.demandOneOf({"place"});
+    entry.demandOneOf({"minimum", "maximum"});
+    if (argument.minimum > argument.maximum) {
+        entry.find("minimum")->fail("is above the maximum");
+    }
+    return argument;
+}
+
+[[noreturn]] void failUnknownOperation(const Entry &entry, const std::string &name)
+{
+    if (name.find('*') != std::string::npos) {
+        entry.fail("fits no operation of the device: " + inQuotes(name) + "; the others take no *");
+    }
+    std::vector<std::string> names;
+    for (const Operation &operation : allOperations()) {
+        names.emplace_back(operation.name);
+    }
+    entry.fail("knows no operation " + inQuotes(name) + suggestion(name, names));
+}
+
+std::vector<Value> readAnswer(const Entry &entry)
+{
+    std::vector<Value> answer;
+    for (const Entry &element : entry.elements()) {
+        std::optional<Value> value = element.value();
+        if (!value) {
+            element.fail("takes true, false, numbers and texts");
+        }
+        answer.push_back(*std::move(value));
+    }
+    return answer;
+}
+
+constexpr Setting<Rule> faultSettings[]{
+    // Which operations a pattern means depends on the rest of the rule.
+    {"operation",
+     [](const Entry & /*entry*/, Rule & /*rule*/) {
+     }},
+    {"operations",
+     [](const Entry & /*entry*/, Rule & /*rule*/) {
+     }},
+    {"target",
+     [](const Entry &entry, Rule &rule) {
+         rule.target = static_cast<int>(entry.choice({"blendUnit", "camera"}));
+     }},
+    {"argument",
+     [](const Entry &entry, Rule &rule) {
+         rule.argument = readArgument(entry);
+     }},
+    {"after",
+     [](const Entry &entry, Rule &rule) {
+         rule.after = entry.text();
+         if (rule.after.find('*') != std::string::npos) {
+             entry.fail("takes one operation, and no pattern");
+         }
+         if (findOperation(rule.after) == nullptr) {
+             failUnknownOperation(entry, rule.after);
+         }
+     }},
+    {"once",
+     [](const Entry &entry, Rule &rule) {
+         if (!entry.boolean()) {
+             entry.fail("takes true, or is left out");
+         }
+         rule.times = 1;
+     }},
+    {"onCall",
+     [](const Entry &entry, Rule &rule) {
+         rule.from = readCall(entry);
+         rule.times = 1;
+     }},
+    {"fromCall",
+     [](const Entry &entry, Rule &rule) {
+         rule.from = readCall(entry);
+     }},
+    {"times",
+     [](const Entry &entry, Rule &rule) {
+         rule.times = readCall(entry);
+     }},
+    {"everyCall",
+     [](const Entry &entry, Rule &rule) {
+         rule.from = rule.every = readCall(entry);
+     }},
+    {"probability",
+     [](const Entry &entry, Rule &rule) {
+         rule.probability = entry.number(0, 1);
+         if (rule.probability == 0) {
+             entry.fail("takes a number above 0: a fault without a chance never happens");
+         }
+     }},
+    {"effect",
+     [](const Entry &entry, Rule &rule) {
+         rule.effect = static_cast<Effect>(entry.choice(effectNames()));
+     }},
+    {"answer",
+     [](const Entry &entry, Rule &rule) {
+         rule.answer = readAnswer(entry);
+     }},
+    {"leavesOutputs",
+     [](const Entry &entry, Rule &rule) {
+         rule.leavesOutputs = entry.boolean();
+     }},
+    {"delayMilliseconds",
+     [](const Entry &entry, Rule &rule) {
+         rule.delay = entry.milliseconds(0, longestDelay);
+     }},
+};
+
+/// Fails where the rule does not fit the operation.
+[[noreturn]] void failObjection(const Entry &fault, const Entry &pattern, Rule rule,
+                                const Operation &operation)
+{
+    const std::string reason = "does not fit: " + objection(rule, operation);
+    const std::optional<Entry> argument = fault.find("argument");
+    rule.argument.reset();
+    if (argument && objection(rule, operation).empty()) {
+        argument->fail(reason);
+    }
+    const std::optional<Entry> answer = fault.find("answer");
+    (answer ? *answer : pattern).fail(reason);
+}
+
+/// Adds what the pattern means to the operations of the rule: the operation of this name or, when it has a
+/// `*`, those of the device's that the rule can be applied to.
+void appendOperations(const Entry &fault, const Entry &entry, Rule &rule)
+{
+    const std::string pattern = entry.text();
+    std::vector<const Operation *> matching = operationsMatching(pattern);
+    if (matching.empty()) {
+        failUnknownOperation(entry, pattern);
+    }
+    const Operation &first{*matching.front()};
+    matching.erase(std::remove_if(matching.begin(), matching.end(),
+                                  [&](const Operation *each) { return !objection(rule, *each).empty(); }),
+                   matching.end());
+    if (matching.empty()) {
+        failObjection(fault, entry, rule, first);
+    }
+    for (const Operation *const operation : matching) {
+        const std::string name{operation->name};
+        if (std::find(rule.operations.begin(), rule.operations.end(), name) == rule.operations.end()) {
+            rule.operations.push_back(name);
+        }
+    }
+}
+
+void readOperations(const Entry &fault, Rule &rule)
+{
+    fault.refuseTwoOf({"operation", "operations"});
+    fault.demandOneOf({"operation", "operations"});
+    if (const std::optional<Entry> operation = fault.find("operation")) {
+        appendOperations(fault, *operation, rule);
+        return;
+    }
+    const Entry operations = *fault.find("operations");
+    const std::vector<Entry> patterns = operations.elements();
+    if (patterns.empty() || patterns.size() > mostPatterns) {
+        operations.fail("takes a list of 1 to " + std::to_string(mostPatterns) + " operations");
+    }
+    for (const Entry &pattern : patterns) {
+        appendOperations(fault, pattern, rule);
+    }
+}
+
+} // namespace
+
+Rule readFault(const Entry &fault)
+{
+    Rule rule;
+    rule.origin = fault.origin();
+    readTable(fault, faultSettings, rule);
+    fault.demandOneOf({"effect"});
+    fault.refuseTwoOf({"once", "onCall", "fromCall", "everyCall"});
+    fault.refuseTwoOf({"once", "onCall", "everyCall", "times"});
+    const std::string &effect = effectNames()[static_cast<std::size_t>(rule.effect)];
+    fault.refuseStrangers("effect", effect, belongings());
+    if (rule.effect == Effect::Answer) {
+        fault.demandOneOf({"answer"});
+    }
+    if (rule.effect == Effect::Late) {
+        fault.demandOneOf({"delayMilliseconds"});
+    }
+    readOperations(fault, rule);
+    return rule;
+}
+
+std::vector<std::string> faultKeys()
+{
+    std::vector<std::string> keys;
+    for (const std::string &key : keysOf(faultSettings)) {
+        keys.push_back("fault." + key);
+    }
+    for (const std::string &key : keysOf(argumentSettings)) {
+        keys.push_back("fault.argument." + key);
+    }
+    return keys;
+}
+
+} // namespace veltrix_simulator

@@ -1,0 +1,336 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// Reads a scenario file.
+#include "scenarios/scenarioreader.h"
+
+#include "output/wording.h"
+#include "scenarios/entry.h"
+#include "scenarios/faultreader.h"
+#include "scenarios/statereader.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <limits>
+#include <optional>
+
+namespace veltrix_simulator
+{
+namespace
+{
+
+// Keys with dots nest as deeply as a line is long.
+constexpr std::size_t longestLine{512};
+constexpr std::size_t mostEntries{256};
+
+// No call takes longer than a minute, even when all comes together.
+constexpr double longestPart{10'000};
+constexpr double longestOpening{60'000};
+constexpr double oneDay{86'400'000};
+constexpr double tenYears{315'360'000};
+
+/// In the order of Link::Kind.
+const std::vector<std::string> &linkKinds()
+{
+    static const std::vector<std::string> names{"none", "fixed", "serial"};
+    return names;
+}
+
+const std::vector<Belonging> &linkBelongings()
+{
+    static const std::vector<Belonging> list{
+        {"millisecondsPerCall", "fixed"}, {"bytesPerCommand", "serial"},
+        {"baudRate", "serial"},           {"thinkTimeMilliseconds", "serial"},
+        {"jitterMilliseconds", "fixed"},  {"jitterMilliseconds", "serial"}};
+    return list;
+}
+
+constexpr Setting<Link> linkSettings[]{
+    {"kind",
+     [](const Entry &entry, Link &link) {
+         link.kind = static_cast<Link::Kind>(entry.choice(linkKinds()));
+     }},
+    {"millisecondsPerCall",
+     [](const Entry &entry, Link &link) {
+         link.perCall = entry.milliseconds(0, longestPart);
+     }},
+    {"bytesPerCommand",
+     [](const Entry &entry, Link &link) {
+         link.bytesPerCommand = static_cast<std::uint32_t>(entry.integer(1, 1024));
+     }},
+    {"baudRate",
+     [](const Entry &entry, Link &link) {
+         link.baudRate = static_cast<std::int32_t>(entry.integer(1200, 921600));
+     }},
+    {"thinkTimeMilliseconds",
+     [](const Entry &entry, Link &link) {
+         link.thinkTime = entry.milliseconds(0, longestPart);
+     }},
+    {"jitterMilliseconds",
+     [](const Entry &entry, Link &link) {
+         link.jitter = entry.milliseconds(0, longestPart);
+     }},
+};
+
+Link readLink(const Entry &entry)
+{
+    Link link;
+    readTable(entry, linkSettings, link);
+    entry.demandOneOf({"kind"});
+    entry.refuseStrangers("kind", linkKinds()[static_cast<std::size_t>(link.kind)], linkBelongings());
+    if (link.kind == Link::Kind::Fixed) {
+        entry.demandOneOf({"millisecondsPerCall"});
+    }
+    return link;
+}
+
+constexpr Setting<Port> portSettings[]{
+    {"name",
+     [](const Entry &entry, Port &port) {
+         port.name = entry.text();
+     }},
+    {"opening",
+     [](const Entry &entry, Port &port) {
+         port.opening = static_cast<Port::Opening>(entry.choice({"opens", "refused", "silent"}));
+     }},
+    {"delayMilliseconds",
+     [](const Entry &entry, Port &port) {
+         port.delay = entry.milliseconds(0, longestOpening);
+     }},
+};
+
+/// The tables of a list such as `[[port]]`.
+std::vector<Entry> tablesOf(const Entry &list)
+{
+    if (!list.isList()) {
+        list.fail("is a list of tables, so each is headed [[" + list.keyPath() + "]]");
+    }
+    std::vector<Entry> tables = list.elements();
+    if (tables.size() > mostEntries) {
+        tables[mostEntries].fail("stands here more than " + std::to_string(mostEntries) + " times");
+    }
+    return tables;
+}
+
+void readPorts(const Entry &list, std::vector<Port> &ports)
+{
+    ports.clear();
+    for (const Entry &entry : tablesOf(list)) {
+        Port port;
+        readTable(entry, portSettings, port);
+        entry.demandOneOf({"name"});
+        if (std::any_of(ports.begin(), ports.end(),
+                        [&](const Port &other) { return other.name == port.name; })) {
+            entry.find("name")->fail("stands here twice: " + inQuotes(port.name));
+        }
+        ports.push_back(std::move(port));
+    }
+}
+
+constexpr Setting<Drift> driftSettings[]{
+    {"key",
+     [](const Entry &entry, Drift &drift) {
+         kindOfNumber(entry);
+         drift.key = entry.text();
+     }},
+    {"end",
+     [](const Entry &entry, Drift &drift) {
+         drift.end = entry.number(-1e300, 1e300);
+     }},
+    {"halfTimeSeconds",
+     [](const Entry &entry, Drift &drift) {
+         drift.halfTime = entry.seconds(0.001, tenYears);
+     }},
+};
+
+/// Two lives of one value would work against each other.
+void refuseSecondLife(const Entry &key, const Life &life)
+{
+    const auto livesBy = [name = key.text()](const auto &each) {
+        return each.key == name;
+    };
+    if (std::any_of(life.drifts.begin(), life.drifts.end(), livesBy) ||
+        std::any_of(life.counters.begin(), life.counters.end(), livesBy)) {
+        key.fail("drifts or counts already: " + inQuotes(key.text()));
+    }
+}
+
+void readDrift(const Entry &entry, Life &life)
+{
+    Drift drift;
+    readTable(entry, driftSettings, drift);
+    for (const auto &setting : driftSettings) {
+        entry.demandOneOf({std::string{setting.key}});
+    }
+    const Kind kind{kindOfNumber(*entry.find("key"))};
+    refuseSecondLife(*entry.find("key"), life);
+    const Entry end = *entry.find("end");
+    const std::optional<Value> value = convert(*end.value(), kind);
+    if (!value) {
+        end.fail("takes " + std::string{describe(kind)});
+    }
+    drift.end = toNumber(*value);
+    life.drifts.push_back(std::move(drift));
+}
+
+constexpr Setting<Counter> counterSettings[]{
+    {"key",
+     [](const Entry &entry, Counter &counter) {
+         kindOfNumber(entry);
+         counter.key = entry.text();
+     }},
+    {"intervalSeconds",
+     [](const Entry &entry, Counter &counter) {
+         counter.interval = entry.seconds(0.001, tenYears);
+     }},
+};
+
+void readCounter(const Entry &entry, Life &life)
+{
+    Counter counter;
+    readTable(entry, counterSettings, counter);
+    for (const auto &setting : counterSettings) {
+        entry.demandOneOf({std::string{setting.key}});
+    }
+    refuseSecondLife(*entry.find("key"), life);
+    life.counters.push_back(std::move(counter));
+}
+
+constexpr Setting<Life> lifeSettings[]{
+    {"millisecondsPerCall",
+     [](const Entry &entry, Life &life) {
+         life.timePerCall = entry.milliseconds(0, oneDay);
+     }},
+    {"drift",
+     [](const Entry &entry, Life &life) {
+         for (const Entry &each : tablesOf(entry)) {
+             readDrift(each, life);
+         }
+     }},
+    {"counter",
+     [](const Entry &entry, Life &life) {
+         for (const Entry &each : tablesOf(entry)) {
+             readCounter(each, life);
+         }
+     }},
+};
+
+constexpr Setting<std::string> memorySettings[]{
+    {"file",
+     [](const Entry &entry, std::string &file) {
+         file = entry.text();
+     }},
+};
+
+constexpr Setting<Scenario> scenarioSettings[]{
+    {"seed",
+     [](const Entry &entry, Scenario &scenario) {
+         scenario.seed =
+             static_cast<std::uint64_t>(entry.integer(0, std::numeric_limits<std::int64_t>::max()));
+     }},
+    {"configuration", readConfiguration},
+    {"camera", readUnit},
+    {"blendUnit", readUnit},
+    {"port",
+     [](const Entry &entry, Scenario &scenario) {
+         readPorts(entry, scenario.ports);
+     }},
+    {"link",
+     [](const Entry &entry, Scenario &scenario) {
+         scenario.link = readLink(entry);
+     }},
+    {"fault",
+     [](const Entry &entry, Scenario &scenario) {
+         for (const Entry &each : tablesOf(entry)) {
+             scenario.rules.push_back(readFault(each));
+         }
+     }},
+    {"memory",
+     [](const Entry &entry, Scenario &scenario) {
+         readTable(entry, memorySettings, scenario.memoryFile);
+         entry.demandOneOf({"file"});
+     }},
+    {"life",
+     [](const Entry &entry, Scenario &scenario) {
+         readTable(entry, lifeSettings, scenario.life);
+     }},
+};
+
+/// A life that never goes on would look like one that is very slow.
+void refuseLifeWithoutTime(const Entry &file, const Scenario &scenario)
+{
+    const Life &life{scenario.life};
+    const bool lives{!life.drifts.empty() || !life.counters.empty()};
+    if (lives && life.timePerCall.count() == 0 && scenario.link.kind == Link::Kind::None) {
+        file.find("life")->fail("needs millisecondsPerCall or a link: without them no time goes by");
+    }
+}
+
+/// What of the text does not even get to the parser.
+std::optional<ScenarioError> objectionToSize(std::string_view text, const std::string &fileName)
+{
+    if (text.size() > largestScenario) {
+        return ScenarioError{fileName, 1, 1, {}, "a scenario is not larger than 256 KiB"};
+    }
+    std::size_t line{1};
+    std::size_t begin{0};
+    while (begin < text.size()) {
+        const std::size_t end{std::min(text.find('\n', begin), text.size())};
+        if (end - begin > longestLine) {
+            return ScenarioError{
+                fileName, line, longestLine + 1, {}, "a line is not longer than 512 bytes; break it up"};
+        }
+        begin = end + 1;
+        ++line;
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+std::string ScenarioError::message() const
+{
+    return file + ':' + std::to_string(line) + ':' + std::to_string(column) + ": " +
+           (key.empty() ? "" : inQuotes(key) + ' ') + text;
+}
+
+std::variant<Scenario, ScenarioError> readScenario(std::string_view text, const std::string &fileName)
+{
+    if (std::optional<ScenarioError> error = objectionToSize(text, fileName)) {
+        return *std::move(error);
+    }
+    const std::variant<toml::table, TomlError> parsed = parseToml(text);
+    if (const auto *const error = std::get_if<TomlError>(&parsed)) {
+        return ScenarioError{
+            fileName, error->line, error->column, {}, "this is not TOML: " + oneLine(error->reason, 200)};
+    }
+    try {
+        Scenario scenario;
+        const Entry file{std::get<toml::table>(parsed), {}, fileName};
+        readTable(file, scenarioSettings, scenario);
+        refuseLifeWithoutTime(file, scenario);
+        return scenario;
+    } catch (ScenarioError &error) {
+        return std::move(error);
+    }
+}
+
+std::vector<std::string> scenarioKeys()
+{
+    std::vector<std::string> keys = faultKeys();
+    const auto append = [&](const std::string &prefix, const std::vector<std::string> &added) {
+        for (const std::string &key : added) {
+            keys.push_back(prefix + key);
+        }
+    };
+    append("", keysOf(scenarioSettings));
+    append("port.", keysOf(portSettings));
+    append("link.", keysOf(linkSettings));
+    append("memory.", keysOf(memorySettings));
+    append("life.", keysOf(lifeSettings));
+    append("life.drift.", keysOf(driftSettings));
+    append("life.counter.", keysOf(counterSettings));
+    keys.insert(keys.end(), {"camera.badPixels", "blendUnit.badPixels"});
+    return keys;
+}
+
+} // namespace veltrix_simulator

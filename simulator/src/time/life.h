@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// What the time that goes by does to the units.
+#pragma once
+
+#include "scenarios/scenario.h"
+#include "units/state.h"
+
+#include <chrono>
+#include <vector>
+
+namespace veltrix_simulator
+{
+
+/// The units' own time, and the values that it changes.
+class UnitTime
+{
+public:
+    /// Throws std::invalid_argument when a key is no number of a unit, a drift has no finite end or a time
+    /// is not longer than zero.
+    explicit UnitTime(const Life &life);
+
+    bool passes() const { return !drifts.empty() || !counters.empty(); }
+
+    /// One call of the device, which took so long on the link.
+    void pass(std::chrono::microseconds onLink, State &state);
+
+private:
+    struct Drifting
+    {
+        void pass(std::chrono::microseconds time, double &number);
+
+        double end;
+        double halfTime; ///< Microseconds.
+        UnitPlace place;
+        double exact{0}; ///< Where it stands between two numbers that its kind holds.
+        double shown{0}; ///< What it was set to last; another number was set by somebody else.
+        bool started{false};
+    };
+
+    struct Counting
+    {
+        void pass(std::chrono::microseconds time, double &number);
+
+        std::chrono::microseconds interval;
+        UnitPlace place;
+        std::chrono::microseconds sinceLast{0};
+    };
+
+    std::chrono::microseconds timePerCall;
+    std::vector<Drifting> drifts;
+    std::vector<Counting> counters;
+};
+
+} // namespace veltrix_simulator

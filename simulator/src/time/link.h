@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The time that the link takes.
+#pragma once
+
+#include "scenarios/scenario.h"
+#include "values/randomness.h"
+
+#include <chrono>
+#include <cstdint>
+
+namespace veltrix_simulator
+{
+
+/// No call takes longer than this, whatever a scenario says.
+inline constexpr std::chrono::microseconds longestCall{std::chrono::seconds{60}};
+
+/// The duration as a call can take it: from nothing to longestCall.
+std::chrono::microseconds bounded(std::chrono::microseconds duration);
+
+/// Lets the caller wait so long, bounded.
+void pause(std::chrono::microseconds duration);
+
+class LinkTime
+{
+public:
+    LinkTime(const Link &itsLink, std::uint64_t seed) : link{itsLink}, jitter{seed, "link"} {}
+
+    bool passes() const { return link.kind != Link::Kind::None; }
+
+    /// What the next call takes, bounded, at this many bits per second; the link's own rate goes before.
+    std::chrono::microseconds next(std::int32_t baudRate);
+
+private:
+    Link link;
+    Random jitter;
+};
+
+} // namespace veltrix_simulator

@@ -1,0 +1,262 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// Everything that the simulated devices and the configuration hold.
+#include "units/state.h"
+
+#include <algorithm>
+#include <optional>
+#include <stdexcept>
+#include <variant>
+
+namespace veltrix_simulator
+{
+namespace
+{
+
+constexpr std::array<std::string_view, 2> unitPrefixes{"blendUnit.", "camera."};
+constexpr std::string_view configurationPrefix{"configuration."};
+constexpr std::string_view communicationTypeKey{"communicationType"};
+
+/// Where a key leads.
+struct CommunicationTypePlace
+{
+};
+using Place = std::variant<UnitPlace, ConfigurationField, Word, CommunicationTypePlace>;
+
+template <typename Table>
+const typename Table::value_type *findRow(const Table &table, std::string_view key)
+{
+    const auto row =
+        std::find_if(table.begin(), table.end(), [&](const auto &each) { return each.key == key; });
+    return row == table.end() ? nullptr : &*row;
+}
+
+/// The rest of the key when it begins with the prefix.
+std::optional<std::string_view> without(std::string_view prefix, std::string_view key)
+{
+    return key.substr(0, prefix.size()) == prefix ? std::optional{key.substr(prefix.size())} : std::nullopt;
+}
+
+std::optional<Place> findPlace(std::string_view key)
+{
+    for (std::size_t target{0}; target < unitPrefixes.size(); ++target) {
+        const auto name = without(unitPrefixes[target], key);
+        if (const auto *const row = name ? findRow(unitFields, *name) : nullptr) {
+            return UnitPlace{target, row->id};
+        }
+    }
+    if (const auto name = without(configurationPrefix, key)) {
+        if (const auto *const row = findRow(configurationFields, *name)) {
+            return row->id;
+        }
+        if (const auto *const row = findRow(configurationWords, *name)) {
+            return row->word;
+        }
+        if (*name == communicationTypeKey) {
+            return CommunicationTypePlace{};
+        }
+    }
+    return std::nullopt;
+}
+
+Place placeOf(std::string_view key)
+{
+    if (const std::optional<Place> place = findPlace(key)) {
+        return *place;
+    }
+    throw std::invalid_argument{"no value of the simulator has the key \"" + std::string{key} + '"'};
+}
+
+Kind kindOf(const Place &place)
+{
+    struct
+    {
+        Kind operator()(const UnitPlace &unit) const { return rowOf(unit.field).kind; }
+        Kind operator()(ConfigurationField field) const { return rowOf(field).kind; }
+        Kind operator()(Word /*word*/) const { return Kind::Signed32; }
+        Kind operator()(CommunicationTypePlace /*place*/) const { return Kind::Text; }
+    } const kind;
+    return std::visit(kind, place);
+}
+
+} // namespace
+
+std::pair<double, double> Allowed::interval(const Words &words) const
+{
+    return {minimumWord != nullptr ? words.*minimumWord : minimum,
+            maximumWord != nullptr ? words.*maximumWord : maximum};
+}
+
+bool Allowed::accepts(double number, const Words &words) const
+{
+    if (anything) {
+        return true;
+    }
+    if (listed != nullptr) {
+        return std::find(listed, listed + listLength, number) != listed + listLength;
+    }
+    const auto [lowest, highest] = interval(words);
+    return number >= lowest && number <= highest;
+}
+
+void State::reset()
+{
+    target = 0;
+    deviceOpen = false;
+    silent = false;
+    cableOut = false;
+    storesAreLost = false;
+    lost.clear();
+    baudRateIsChosen = false;
+    ports = {{"SIM1"}};
+    for (std::size_t unit{0}; unit < units.size(); ++unit) {
+        std::transform(unitFields.begin(), unitFields.end(), units[unit].values.begin(),
+                       [&](const UnitField &row) { return row.defaults[unit]; });
+        units[unit].badPixels = BadPixelMemory{};
+    }
+    units[1].badPixels.declareFactoryPixels();
+    std::transform(configurationFields.begin(), configurationFields.end(), configuration.begin(),
+                   [](const ConfigurationFieldRow &row) { return row.defaultValue; });
+    communicationType = "UART";
+    words = {};
+    for (const WordRow &row : configurationWords) {
+        words.*row.word = row.defaultValue;
+    }
+}
+
+void State::set(std::string_view key, const Value &value)
+{
+    const Place place = placeOf(key);
+    const std::optional<Value> converted = convert(value, kindOf(place));
+    if (!converted) {
+        throw std::invalid_argument{'"' + std::string{key} + "\" takes " +
+                                    std::string{describe(kindOf(place))}};
+    }
+    struct
+    {
+        State &state;
+        const Value &value;
+        void operator()(const UnitPlace &unit) const
+        {
+            state[unit] = toNumber(value);
+            if (const auto found = state.findLost(unit); found != state.lost.end()) {
+                state.lost.erase(found);
+            }
+        }
+        void operator()(ConfigurationField field) const
+        {
+            state[field] = toNumber(value);
+            state.baudRateIsChosen = state.baudRateIsChosen || field == ConfigurationField::baudRate;
+        }
+        void operator()(Word word) const
+        {
+            state.words.*word = static_cast<std::int32_t>(std::get<std::int64_t>(value));
+        }
+        void operator()(CommunicationTypePlace /*place*/) const
+        {
+            state.communicationType = std::get<std::string>(value);
+        }
+    } const assign{*this, *converted};
+    std::visit(assign, place);
+}
+
+Value State::get(std::string_view key) const
+{
+    const Place place = placeOf(key);
+    struct
+    {
+        const State &state;
+        Kind kind;
+        Value operator()(const UnitPlace &unit) const
+        {
+            return toValue(state.units[unit.target][unit.field], kind);
+        }
+        Value operator()(ConfigurationField field) const
+        {
+            return toValue(state.configuration[static_cast<std::size_t>(field)], kind);
+        }
+        Value operator()(Word word) const { return std::int64_t{state.words.*word}; }
+        Value operator()(CommunicationTypePlace /*place*/) const { return state.communicationType; }
+    } const read{*this, kindOf(place)};
+    return std::visit(read, place);
+}
+
+std::vector<std::string> State::keys()
+{
+    std::vector<std::string> keys;
+    const auto append = [&](std::string_view prefix, const auto &table) {
+        for (const auto &row : table) {
+            keys.emplace_back(prefix).append(row.key);
+        }
+    };
+    for (const std::string_view prefix : unitPrefixes) {
+        append(prefix, unitFields);
+    }
+    append(configurationPrefix, configurationFields);
+    append(configurationPrefix, configurationWords);
+    keys.emplace_back(configurationPrefix).append(communicationTypeKey);
+    return keys;
+}
+
+UnitPlace State::placeOfNumber(std::string_view key)
+{
+    const Place place = placeOf(key);
+    const auto *const unit = std::get_if<UnitPlace>(&place);
+    if (unit == nullptr || rowOf(unit->field).kind == Kind::Boolean) {
+        throw std::invalid_argument{'"' + std::string{key} + "\" is no number of a unit"};
+    }
+    return *unit;
+}
+
+void State::open(bool isSilent)
+{
+    target = 0;
+    deviceOpen = true;
+    silent = isSilent;
+    cableOut = false;
+    for (const Lost &each : lost) {
+        (*this)[each.place] = each.earlier;
+    }
+    lost.clear();
+}
+
+std::int32_t State::linkBaudRate() const
+{
+    const auto field = baudRateIsChosen ? ConfigurationField::baudRate : ConfigurationField::defaultBaudRate;
+    return static_cast<std::int32_t>(configuration[static_cast<std::size_t>(field)]);
+}
+
+void State::setBaudRate(std::int32_t baudRate)
+{
+    (*this)[ConfigurationField::baudRate] = baudRate;
+    baudRateIsChosen = true;
+}
+
+void State::put(Field field, double number)
+{
+    const UnitPlace place{static_cast<std::size_t>(target), field};
+    if (storesAreLost || !lost.empty()) {
+        const auto found = findLost(place);
+        if (storesAreLost && found == lost.end()) {
+            lost.push_back({place, (*this)[place]});
+        } else if (!storesAreLost && found != lost.end()) {
+            lost.erase(found);
+        }
+    }
+    (*this)[place] = number;
+}
+
+std::vector<State::Lost>::iterator State::findLost(const UnitPlace &place)
+{
+    return std::find_if(lost.begin(), lost.end(), [&](const Lost &each) {
+        return each.place.target == place.target && each.place.field == place.field;
+    });
+}
+
+std::optional<Kind> State::kindAt(std::string_view key)
+{
+    const std::optional<Place> place = findPlace(key);
+    return place ? std::optional{kindOf(*place)} : std::nullopt;
+}
+
+} // namespace veltrix_simulator

@@ -1,0 +1,119 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// Everything that the simulated devices and the configuration hold.
+#pragma once
+
+#include "scenarios/scenario.h"
+#include "units/badpixels.h"
+#include "units/configurationfields.h"
+#include "units/unitfields.h"
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace veltrix_simulator
+{
+
+/// One unit: its values, each exact in a double whatever its kind, and its bad pixels.
+struct Unit
+{
+    std::array<double, unitFields.size()> values{};
+    BadPixelMemory badPixels;
+
+    double &operator[](Field field) { return values[static_cast<std::size_t>(field)]; }
+    double operator[](Field field) const { return values[static_cast<std::size_t>(field)]; }
+};
+
+/// A value of a unit.
+struct UnitPlace
+{
+    std::size_t target;
+    Field field;
+};
+
+/// The state behind all objects of the contract.
+class State
+{
+public:
+    /// The words are a part of the configuration object, which the program writes in place.
+    explicit State(veltrix_sdk::ConfigurationWords &itsWords) : words{itsWords} {}
+
+    /// Power-on state.
+    void reset();
+
+    /// The unit that the current target selects.
+    Unit &addressed() { return units[static_cast<std::size_t>(target)]; }
+
+    /// Whether the addressed unit accepts the numbers for the fields from `first` on.
+    template <typename... Numbers>
+    bool accepts(Field first, Numbers... numbers) const
+    {
+        std::size_t place{0};
+        return (rowOf(first + place++).allowed.accepts(static_cast<double>(numbers), words) && ...);
+    }
+
+    /// Stores the numbers in the fields from `first` on, all or, when one is out of range, none.
+    template <typename... Numbers>
+    bool store(Field first, Numbers... numbers)
+    {
+        if (!accepts(first, numbers...)) {
+            return false;
+        }
+        std::size_t place{0};
+        (put(first + place++, static_cast<double>(numbers)), ...);
+        return true;
+    }
+
+    double &operator[](ConfigurationField field) { return configuration[static_cast<std::size_t>(field)]; }
+
+    /// Values by key, as Simulator::set(), get() and keys() have them.
+    void set(std::string_view key, const Value &value);
+    Value get(std::string_view key) const;
+    static std::vector<std::string> keys();
+    /// What the value of a key is; nothing when there is no such key.
+    static std::optional<Kind> kindAt(std::string_view key);
+
+    /// Where a unit holds the number of this key. Throws std::invalid_argument when no unit has it or it is
+    /// a bool.
+    static UnitPlace placeOfNumber(std::string_view key);
+    double &operator[](const UnitPlace &place) { return units[place.target][place.field]; }
+
+    /// Power comes back and the device is open: the Blend Unit is addressed, and what only seemed to be
+    /// kept is as it was.
+    void open(bool isSilent);
+
+    /// Bits per second of the link: what was set last, else the default.
+    std::int32_t linkBaudRate() const;
+    void setBaudRate(std::int32_t baudRate);
+
+    int target{0}; ///< 0 the Blend Unit, 1 the camera.
+    bool deviceOpen{false};
+    bool silent{false};        ///< The device that is open never answers.
+    bool cableOut{false};      ///< Nothing reaches the device until it is opened again.
+    bool storesAreLost{false}; ///< What is stored now lasts until the device is opened again.
+    std::array<Unit, 2> units{};
+    std::array<double, configurationFields.size()> configuration{};
+    std::vector<Port> ports;
+    std::string communicationType;
+    veltrix_sdk::ConfigurationWords &words;
+
+private:
+    /// What a value was before the stores that do not last.
+    struct Lost
+    {
+        UnitPlace place;
+        double earlier;
+    };
+
+    /// Stores a number of the addressed unit, for good or not.
+    void put(Field field, double number);
+    std::vector<Lost>::iterator findLost(const UnitPlace &place);
+
+    std::vector<Lost> lost;
+    bool baudRateIsChosen{false};
+};
+
+} // namespace veltrix_simulator
