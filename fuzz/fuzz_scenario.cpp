@@ -19,7 +19,7 @@ namespace
 void hurry(Scenario &scenario)
 {
     scenario.link = {};
-    for (Rule &rule : scenario.rules) {
+    for (FaultRule &rule : scenario.faults) {
         rule.delay = {};
     }
     for (Port &port : scenario.ports) {

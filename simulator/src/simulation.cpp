@@ -15,32 +15,6 @@
 namespace veltrix_simulator
 {
 
-bool SimulatedSdk::initialize()
-{
-    const auto bringUp = [&] {
-        log.write(veltrix_sdk::severity_trace, "Simulated SDK ready");
-        return true;
-    };
-    return core.call(Interface::Root, __func__, bringUp);
-}
-
-veltrix_sdk::ISdkConfiguration *SimulatedSdk::getConfiguration()
-{
-    return core.call(Interface::Root, __func__, [&] { return &configuration; });
-}
-
-veltrix_sdk::IDeviceManager *SimulatedSdk::getDeviceManager()
-{
-    return core.call(Interface::Root, __func__, [&] { return &manager; });
-}
-
-// The caller's pointer stays as it is: setting it to null is the caller's business.
-void SimulatedSdk::releaseDeviceManager(veltrix_sdk::IDeviceManager **released)
-{
-    core.call(
-        Interface::Root, __func__, [] {}, released);
-}
-
 Simulation::Simulation()
 {
     const std::variant<Scenario, std::string> chosen = chosenScenario();
@@ -55,7 +29,7 @@ Simulation::Simulation()
     }
 }
 
-// Another scenario than the one that was asked for would look like it.
+// The default scenario in the place of the wrong one would pass for the camera that was asked for.
 void Simulation::refuseToOpen(const char *reason)
 {
     log.write(veltrix_sdk::severity_error, reason);
@@ -81,7 +55,7 @@ void Simulation::start(const Scenario &scenario)
 
 void Simulation::announceUnfired(const Scenario &scenario)
 {
-    if (!scenario.rules.empty()) {
+    if (!scenario.faults.empty()) {
         static const bool isAnnounced{std::atexit([] { simulation().reportUnfired(); }) == 0};
         static_cast<void>(isAnnounced);
     }
@@ -95,7 +69,7 @@ void Simulation::reset()
 void Simulation::powerOn(const Scenario &scenario)
 {
     state.reset();
-    core.start(scenario);
+    path.start(scenario);
     state.ports = scenario.ports;
     for (const auto &[key, value] : scenario.values) {
         state.set(key, value);
@@ -112,7 +86,7 @@ void Simulation::powerOn(const Scenario &scenario)
     if (const std::optional<std::string> damage = memory.restore(state, scenario.memoryFile)) {
         throw std::invalid_argument{*damage};
     }
-    core.trace.start(scenario.name, scenario.seed);
+    path.trace.start(scenario.name, scenario.seed);
 }
 
 BadPixelMemory &Simulation::badPixelsOf(int target)
@@ -125,7 +99,7 @@ BadPixelMemory &Simulation::badPixelsOf(int target)
 
 void Simulation::reportUnfired()
 {
-    for (const std::string &origin : core.rules.unfired()) {
+    for (const std::string &origin : path.faults.unfired()) {
         const std::string report = origin + ": this fault never happened";
         log.write(veltrix_sdk::severity_warning, report);
         std::cerr << "veltrix.sdk: " << report << '\n' << std::flush;
@@ -134,13 +108,13 @@ void Simulation::reportUnfired()
 
 veltrix_sdk::IVeltrixSdk *Simulation::root()
 {
-    return core.call(Interface::Root, "get_instance", [&]() -> veltrix_sdk::IVeltrixSdk * { return &sdk; });
+    return path.call(OperationId::get_instance, {}, [&]() -> veltrix_sdk::IVeltrixSdk * { return &sdk; });
 }
 
 void Simulation::completeRecord(veltrix_sdk::severity_level severity, std::string_view text)
 {
-    core.call(
-        Interface::Log, "log", [&] { log.write(severity, text); }, static_cast<int>(severity), text);
+    path.call(OperationId::log, {static_cast<std::int32_t>(severity), text},
+              [&] { log.write(severity, text); });
 }
 
 const char *const *Simulation::portNames()

@@ -3,10 +3,11 @@
 // The simulated SDK as a whole: its root object and everything behind it.
 #pragma once
 
-#include "calls/core.h"
+#include "calls/callpath.h"
 #include "contract/configuration.h"
 #include "contract/device.h"
 #include "contract/devicemanager.h"
+#include "contract/sdkroot.h"
 #include "output/logoutput.h"
 #include "scenarios/scenario.h"
 #include "units/memory.h"
@@ -19,28 +20,8 @@
 namespace veltrix_simulator
 {
 
-class SimulatedSdk final : public veltrix_sdk::IVeltrixSdk
-{
-public:
-    SimulatedSdk(Core &itsCore, LogOutput &itsLog, veltrix_sdk::ISdkConfiguration &itsConfiguration,
-                 veltrix_sdk::IDeviceManager &itsManager)
-        : core{itsCore}, log{itsLog}, configuration{itsConfiguration}, manager{itsManager}
-    {}
-
-    bool initialize() override;
-    veltrix_sdk::ISdkConfiguration *getConfiguration() override;
-    veltrix_sdk::IDeviceManager *getDeviceManager() override;
-    void releaseDeviceManager(veltrix_sdk::IDeviceManager **released) override;
-
-private:
-    Core &core;
-    LogOutput &log;
-    veltrix_sdk::ISdkConfiguration &configuration;
-    veltrix_sdk::IDeviceManager &manager;
-};
-
 /// All objects of the simulation; there is one set in a process. The objects of the contract refer to the
-/// state and the core, which stand behind them because they need the objects' words and addresses.
+/// state and the path of calls, which stand behind them because they need the objects' words and addresses.
 struct Simulation
 {
     /// Power-on with the scenario that the environment chooses.
@@ -63,12 +44,12 @@ struct Simulation
 
     LogOutput log;
     Memory memory;
-    SimulatedConfiguration configuration{core, state};
-    SimulatedDevice device{core, state, log, memory};
-    SimulatedDeviceManager manager{core, state, log, device};
-    SimulatedSdk sdk{core, log, configuration, manager};
+    SimulatedConfiguration configuration{path, state};
+    SimulatedDevice device{path, state, log, memory};
+    SimulatedDeviceManager manager{path, state, log, device};
+    SimulatedSdk sdk{path, log, configuration, manager};
     State state{configuration.words};
-    Core core{state, {&sdk, &configuration, &manager, &device}};
+    CallPath path{state, {&sdk, &configuration, &manager, &device}};
     std::vector<const char *> names; ///< What portNames() returned last.
 
 private:

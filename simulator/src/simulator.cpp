@@ -3,7 +3,7 @@
 // The simulator's own interface, on top of the simulation.
 #include "veltrix_simulator/simulator.h"
 
-#include "faults/faults.h"
+#include "faults/testfault.h"
 #include "scenarios/scenariolibrary.h"
 #include "simulation.h"
 
@@ -49,22 +49,22 @@ void Simulator::loadScenario(const std::string &nameOrPath)
 
 const std::vector<Call> &Simulator::journal() const
 {
-    return impl->simulation.core.journal;
+    return impl->simulation.path.journal;
 }
 
 void Simulator::clearJournal()
 {
-    impl->simulation.core.journal.clear();
+    impl->simulation.path.journal.clear();
 }
 
 void Simulator::setJournalEnabled(bool enabled)
 {
-    impl->simulation.core.journalEnabled = enabled;
+    impl->simulation.path.journalEnabled = enabled;
 }
 
 std::size_t Simulator::callsWhileNotOpen() const
 {
-    return impl->simulation.core.callsWhileNotOpen;
+    return impl->simulation.path.callsWhileNotOpen;
 }
 
 bool Simulator::isDeviceOpen() const
@@ -97,17 +97,17 @@ void Simulator::setPorts(std::vector<std::string> ports)
 
 void Simulator::addFault(Fault fault)
 {
-    impl->simulation.core.rules.add(ruleOf(std::move(fault)));
+    impl->simulation.path.faults.add(ruleOf(std::move(fault)));
 }
 
 void Simulator::clearFaults()
 {
-    impl->simulation.core.rules.clear();
+    impl->simulation.path.faults.clear();
 }
 
 std::vector<std::string> Simulator::unfiredFaults() const
 {
-    return impl->simulation.core.rules.unfired();
+    return impl->simulation.path.faults.unfired();
 }
 
 } // namespace veltrix_simulator

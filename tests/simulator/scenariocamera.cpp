@@ -23,18 +23,18 @@ void ScenarioCamera::open()
     simulation.state.target = 1;
 }
 
-Scenario scenarioWith(const char *operation, Effect effect)
+Scenario scenarioWith(OperationId operation, Effect effect)
 {
     Scenario scenario;
-    Rule rule;
+    FaultRule rule;
     rule.operations = {operation};
     rule.effect = effect;
     rule.origin = "test.toml:1";
-    scenario.rules.push_back(rule);
+    scenario.faults.push_back(rule);
     return scenario;
 }
 
 QString lastCall(const ScenarioCamera &camera)
 {
-    return QString::fromStdString(camera.simulation.core.journal.back().text);
+    return QString::fromStdString(camera.simulation.path.journal.back().text);
 }

@@ -27,7 +27,8 @@ private:
 };
 
 /// A scenario with one rule: `effect` for the operation.
-veltrix_simulator::Scenario scenarioWith(const char *operation, veltrix_simulator::Effect effect);
+veltrix_simulator::Scenario scenarioWith(veltrix_simulator::OperationId operation,
+                                         veltrix_simulator::Effect effect);
 
 /// The text of the latest call.
 QString lastCall(const ScenarioCamera &camera);

@@ -88,34 +88,38 @@ std::string ports(const Scenario &scenario)
 /// When the first rule hits.
 std::string when(const Scenario &scenario)
 {
-    const Rule &rule = scenario.rules.at(0);
+    const FaultRule &rule = scenario.faults.at(0);
     return "from " + std::to_string(rule.from) + " times " + std::to_string(rule.times) + " every " +
            std::to_string(rule.every) + " chance " + number(rule.probability);
 }
 
 std::string operations(const Scenario &scenario)
 {
-    return text(scenario.rules.at(0).operations);
+    std::vector<std::string> names;
+    for (const OperationId operation : scenario.faults.at(0).operations) {
+        names.emplace_back(nameOf(operation).name);
+    }
+    return text(names);
 }
 
 std::string argument(const Scenario &scenario)
 {
-    const ArgumentRange range = scenario.rules.at(0).argument.value();
+    const ArgumentRange range = scenario.faults.at(0).argument.value();
     return std::to_string(range.place) + ": " + number(range.minimum) + " to " + number(range.maximum);
 }
 
 std::string effect(const Scenario &scenario)
 {
-    return std::to_string(static_cast<int>(scenario.rules.at(0).effect));
+    return std::to_string(static_cast<int>(scenario.faults.at(0).effect));
 }
 
 std::string answer(const Scenario &scenario)
 {
     std::vector<std::string> values;
-    for (const Value &value : scenario.rules.at(0).answer) {
+    for (const Value &value : scenario.faults.at(0).answer) {
         values.push_back(text(value));
     }
-    return text(values) + (scenario.rules.at(0).leavesOutputs ? " alone" : "");
+    return text(values) + (scenario.faults.at(0).leavesOutputs ? " alone" : "");
 }
 
 /// A fault with these lines.
@@ -197,10 +201,10 @@ void ScenarioReaderTest::keySets_data()
          operations, "setGainCorrection setClhe");
     sets(
         "target camera", fault(R"(target = "camera")"),
-        [](const Scenario &s) { return std::to_string(s.rules.at(0).target.value()); }, "1");
+        [](const Scenario &s) { return std::to_string(s.faults.at(0).target.value()); }, "1");
     sets(
         "target Blend Unit", fault(R"(target = "blendUnit")"),
-        [](const Scenario &s) { return std::to_string(s.rules.at(0).target.value()); }, "0");
+        [](const Scenario &s) { return std::to_string(s.faults.at(0).target.value()); }, "0");
     sets("argument", fault("argument = { place = 1, minimum = 0, maximum = 100.5 }"), argument,
          "0: 0 to 100.5");
     sets("argument without an upper end", fault("argument = { place = 1, minimum = 7 }"), argument,
@@ -208,7 +212,8 @@ void ScenarioReaderTest::keySets_data()
     sets("argument without a lower end", fault("argument = { place = 1, maximum = 7 }"), argument,
          "0: -1.79769e+308 to 7");
     sets(
-        "after", fault(R"(after = "setTarget")"), [](const Scenario &s) { return s.rules.at(0).after; },
+        "after", fault(R"(after = "setTarget")"),
+        [](const Scenario &s) { return std::string{nameOf(s.faults.at(0).after.value()).name}; },
         "setTarget");
 
     sets("always", fault(""), when, "from 1 times 0 every 1 chance 1");
@@ -228,7 +233,7 @@ void ScenarioReaderTest::keySets_data()
     sets("garbage", effectOn("getGamma", R"("garbage")"), effect, "4");
     sets(
         "late", effectOn("getGamma", "\"late\"\ndelayMilliseconds = 2.5"),
-        [](const Scenario &s) { return effect(s) + ": " + us(s.rules.at(0).delay); }, "5: 2500 us");
+        [](const Scenario &s) { return effect(s) + ": " + us(s.faults.at(0).delay); }, "5: 2500 us");
     sets("lostOnPowerCycle", effectOn("setGamma", R"("lostOnPowerCycle")"), effect, "6");
     sets("cableOut", effectOn("getGamma", R"("cableOut")"), effect, "7");
 
@@ -299,7 +304,7 @@ void ScenarioReaderTest::nothingIsTheDefault()
     QCOMPARE(scenario.seed, std::uint64_t{0});
     QCOMPARE(ports(scenario), std::string{"SIM1:0:0 us"});
     QVERIFY(scenario.values.empty());
-    QVERIFY(scenario.rules.empty());
+    QVERIFY(scenario.faults.empty());
     QVERIFY(scenario.unitsWithPixels.empty());
     QVERIFY(scenario.memoryFile.empty());
 }
@@ -313,7 +318,7 @@ void ScenarioReaderTest::patternMeansWhatTheEffectFits()
 void ScenarioReaderTest::ruleKnowsItsOrigin()
 {
     const auto result = readScenario(("\n\n" + fault("")).toStdString(), "folder/test.toml");
-    QCOMPARE(std::get<Scenario>(result).rules.at(0).origin, std::string{"folder/test.toml:3"});
+    QCOMPARE(std::get<Scenario>(result).faults.at(0).origin, std::string{"folder/test.toml:3"});
 }
 
 void ScenarioReaderTest::readmeListsEveryKey()

@@ -70,15 +70,15 @@ private slots:
 
 void SimulatorEffectsTest::refuse()
 {
-    const ScenarioCamera c{scenarioWith("setGamma", Effect::Refuse)};
+    const ScenarioCamera c{scenarioWith(OperationId::setGamma, Effect::Refuse)};
     QVERIFY(!c.device.setGamma(144179));
     QCOMPARE(gammaOf(c), 65536U);
 }
 
 void SimulatorEffectsTest::answer()
 {
-    Scenario scenario = scenarioWith("getVideoMode", Effect::Answer);
-    scenario.rules.front().answer = {true, std::int64_t{3}};
+    Scenario scenario = scenarioWith(OperationId::getVideoMode, Effect::Answer);
+    scenario.faults.front().answer = {true, std::int64_t{3}};
     const ScenarioCamera c{scenario};
     std::uint8_t mode{77};
     QVERIFY(c.device.getVideoMode(&mode));
@@ -87,9 +87,9 @@ void SimulatorEffectsTest::answer()
 
 void SimulatorEffectsTest::answerThatLeavesOutputs()
 {
-    Scenario scenario = scenarioWith("getVideoMode", Effect::Answer);
-    scenario.rules.front().answer = {true};
-    scenario.rules.front().leavesOutputs = true;
+    Scenario scenario = scenarioWith(OperationId::getVideoMode, Effect::Answer);
+    scenario.faults.front().answer = {true};
+    scenario.faults.front().leavesOutputs = true;
     const ScenarioCamera c{scenario};
     std::uint8_t mode{77};
     QVERIFY(c.device.getVideoMode(&mode));
@@ -108,7 +108,7 @@ void SimulatorEffectsTest::stuck_data()
 void SimulatorEffectsTest::stuck()
 {
     QFETCH(const QString, operation);
-    const ScenarioCamera c{scenarioWith(operation.toStdString().c_str(), Effect::Stuck)};
+    const ScenarioCamera c{scenarioWith(findOperation(operation.toStdString())->id, Effect::Stuck)};
     const QStringList before = wholeState(c);
     const veltrix_sdk::ZoomConfig zoom{2, 11, 22, 1};
     const std::map<QString, std::function<bool()>> calls{
@@ -144,7 +144,7 @@ void SimulatorEffectsTest::stuck()
     QVERIFY(calls.at(operation)());
     QCOMPARE(wholeState(c), before);
     QCOMPARE(c.device.getSerialNumber(), 10417U);
-    c.simulation.core.rules.clear();
+    c.simulation.path.faults.clear();
     QVERIFY(calls.at(operation)());
     QVERIFY(wholeState(c) != before || c.device.getSerialNumber() == 2063U);
 }
@@ -173,8 +173,8 @@ void SimulatorEffectsTest::wrong()
     QFETCH(const QString, operation);
     QFETCH(const QString, right);
     QFETCH(const QString, wrong);
-    Scenario scenario = scenarioWith(operation.toStdString().c_str(), Effect::Wrong);
-    scenario.rules.front().times = 3;
+    Scenario scenario = scenarioWith(findOperation(operation.toStdString())->id, Effect::Wrong);
+    scenario.faults.front().times = 3;
     const ScenarioCamera c{scenario};
     const auto call = [&] {
         std::uint8_t number{0};
@@ -230,7 +230,7 @@ void SimulatorEffectsTest::wrong()
 
 void SimulatorEffectsTest::wrongLeavesTheStateAlone()
 {
-    const ScenarioCamera c{scenarioWith("getGamma", Effect::Wrong)};
+    const ScenarioCamera c{scenarioWith(OperationId::getGamma, Effect::Wrong)};
     const QStringList before = wholeState(c);
     QVERIFY(c.device.getGamma() != 65536U);
     QCOMPARE(wholeState(c), before);
@@ -306,9 +306,10 @@ void SimulatorEffectsTest::wrongWithoutARangeIsNear()
 
 void SimulatorEffectsTest::garbageIsOfItsType()
 {
-    Scenario scenario = scenarioWith("getTemperatures", Effect::Garbage);
-    scenario.rules.front().operations = {"getTemperatures", "getEdgeCorrection", "getGamma",
-                                         "getPolarity",     "getDefaultGamma",   "getCommunicationType"};
+    Scenario scenario = scenarioWith(OperationId::getTemperatures, Effect::Garbage);
+    scenario.faults.front().operations = {OperationId::getTemperatures, OperationId::getEdgeCorrection,
+                                          OperationId::getGamma,        OperationId::getPolarity,
+                                          OperationId::getDefaultGamma, OperationId::getCommunicationType};
     const ScenarioCamera c{scenario};
     std::set<bool> results;
     std::set<std::uint32_t> gammas;
@@ -337,7 +338,7 @@ void SimulatorEffectsTest::garbageIsOfItsType()
 void SimulatorEffectsTest::garbageIsThatOfTheSeed()
 {
     const auto answers = [](std::uint64_t seed) {
-        Scenario scenario = scenarioWith("getGamma", Effect::Garbage);
+        Scenario scenario = scenarioWith(OperationId::getGamma, Effect::Garbage);
         scenario.seed = seed;
         const ScenarioCamera c{scenario};
         std::vector<std::uint32_t> numbers;
@@ -352,8 +353,8 @@ void SimulatorEffectsTest::garbageIsThatOfTheSeed()
 
 void SimulatorEffectsTest::late()
 {
-    Scenario scenario = scenarioWith("setGamma", Effect::Late);
-    scenario.rules.front().delay = std::chrono::milliseconds{30};
+    Scenario scenario = scenarioWith(OperationId::setGamma, Effect::Late);
+    scenario.faults.front().delay = std::chrono::milliseconds{30};
     const ScenarioCamera c{scenario};
     QElapsedTimer timer;
     timer.start();
@@ -364,8 +365,8 @@ void SimulatorEffectsTest::late()
 
 void SimulatorEffectsTest::lostOnPowerCycle()
 {
-    Scenario scenario = scenarioWith("setGamma", Effect::LostOnPowerCycle);
-    scenario.rules.front().times = 2;
+    Scenario scenario = scenarioWith(OperationId::setGamma, Effect::LostOnPowerCycle);
+    scenario.faults.front().times = 2;
     ScenarioCamera c{scenario};
     QVERIFY(c.device.setGamma(100000));
     QVERIFY(c.device.setGamma(120000));
@@ -382,8 +383,8 @@ void SimulatorEffectsTest::lostOnPowerCycle()
 
 void SimulatorEffectsTest::lostUntilItIsKept()
 {
-    Scenario scenario = scenarioWith("setGamma", Effect::LostOnPowerCycle);
-    scenario.rules.front().every = 2;
+    Scenario scenario = scenarioWith(OperationId::setGamma, Effect::LostOnPowerCycle);
+    scenario.faults.front().every = 2;
     ScenarioCamera c{scenario};
     QVERIFY(c.device.setGamma(100000));
     QVERIFY(c.device.setGamma(100000));
@@ -397,7 +398,7 @@ void SimulatorEffectsTest::lostUntilItIsKept()
 
 void SimulatorEffectsTest::lostRecordAndUnit()
 {
-    ScenarioCamera c{scenarioWith("configureZoom", Effect::LostOnPowerCycle)};
+    ScenarioCamera c{scenarioWith(OperationId::configureZoom, Effect::LostOnPowerCycle)};
     const QStringList before = wholeState(c);
     const veltrix_sdk::ZoomConfig zoom{2, 11, 22, 1};
     QVERIFY(c.device.configureZoom(&zoom));
@@ -410,9 +411,9 @@ void SimulatorEffectsTest::lostRecordAndUnit()
 
 void SimulatorEffectsTest::cableOut()
 {
-    Scenario scenario = scenarioWith("getGamma", Effect::CableOut);
-    scenario.rules.front().from = 2;
-    scenario.rules.front().times = 1;
+    Scenario scenario = scenarioWith(OperationId::getGamma, Effect::CableOut);
+    scenario.faults.front().from = 2;
+    scenario.faults.front().times = 1;
     ScenarioCamera c{scenario};
     QCOMPARE(gammaOf(c), 65536U);
     QCOMPARE(gammaOf(c), 0U);
@@ -422,7 +423,7 @@ void SimulatorEffectsTest::cableOut()
     QVERIFY(!c.device.setClhe(1));
     QVERIFY(c.configuration.isExpertMode());
     QVERIFY(c.simulation.state.deviceOpen);
-    QCOMPARE(c.simulation.core.callsWhileNotOpen, std::size_t{0});
+    QCOMPARE(c.simulation.path.callsWhileNotOpen, std::size_t{0});
     c.reopen();
     QCOMPARE(gammaOf(c), 65536U);
     QCOMPARE(c.device.getClhe(), 2000U);
@@ -431,7 +432,7 @@ void SimulatorEffectsTest::cableOut()
 void SimulatorEffectsTest::cableOutIsAtOnce()
 {
     // With the link's time this would take an hour and a half, and the test would not be let run so long.
-    Scenario scenario = scenarioWith("getGamma", Effect::CableOut);
+    Scenario scenario = scenarioWith(OperationId::getGamma, Effect::CableOut);
     scenario.link.kind = Link::Kind::Fixed;
     scenario.link.perCall = std::chrono::seconds{60};
     const ScenarioCamera c{scenario};

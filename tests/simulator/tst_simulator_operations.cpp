@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // The operations as a scenario names them, and what rules cannot be applied to them.
-#include "faults/rules.h"
+#include "faults/applicability.h"
 
 #include <QtTest>
 
@@ -10,7 +10,7 @@
 
 using namespace veltrix_simulator;
 
-using Change = std::function<void(Rule &rule)>;
+using Change = std::function<void(FaultRule &rule)>;
 Q_DECLARE_METATYPE(Change)
 
 class SimulatorOperationsTest : public QObject
@@ -138,7 +138,7 @@ void SimulatorOperationsTest::objections_data()
     };
     const auto effect = [&](const char *operation, const char *what, Effect wanted, const char *message) {
         row(
-            operation, what, [wanted](Rule &rule) { rule.effect = wanted; }, message);
+            operation, what, [wanted](FaultRule &rule) { rule.effect = wanted; }, message);
     };
     effect("setGamma", "refuse", Effect::Refuse, "");
     effect("openDevice", "refuse", Effect::Refuse, "");
@@ -176,7 +176,7 @@ void SimulatorOperationsTest::objections_data()
 
     const auto answer = [&](const char *operation, const char *what, const std::vector<Value> &values,
                             const char *message) {
-        const auto change = [values](Rule &rule) {
+        const auto change = [values](FaultRule &rule) {
             rule.effect = Effect::Answer;
             rule.answer = values;
         };
@@ -187,7 +187,7 @@ void SimulatorOperationsTest::objections_data()
     answer("getGamma", "nothing", {}, "an answer of \"getGamma\" has 1 values, not 0");
     answer("getGamma", "a bool", {true},
            "value 1 of an answer of \"getGamma\" is an integer from 0 to 4294967295");
-    const auto resultAlone = [](Rule &rule) {
+    const auto resultAlone = [](FaultRule &rule) {
         rule.effect = Effect::Answer;
         rule.answer = {true};
         rule.leavesOutputs = true;
@@ -195,28 +195,26 @@ void SimulatorOperationsTest::objections_data()
     row("getWarp", "the result alone", resultAlone, "");
 
     row(
-        "getGamma", "a unit", [](Rule &rule) { rule.target = 0; }, "");
+        "getGamma", "a unit", [](FaultRule &rule) { rule.target = 0; }, "");
     row(
-        "getGamma", "a third unit", [](Rule &rule) { rule.target = 2; }, "there is no unit 2, only 0 and 1");
+        "getGamma", "a third unit", [](FaultRule &rule) { rule.target = 2; },
+        "there is no unit 2, only 0 and 1");
     row(
-        "openDevice", "a unit", [](Rule &rule) { rule.target = 0; },
+        "openDevice", "a unit", [](FaultRule &rule) { rule.target = 0; },
         "\"openDevice\" is no operation of the device, and only those address a unit");
     row(
-        "getGamma", "after another", [](Rule &rule) { rule.after = "openDevice"; }, "");
+        "getGamma", "after another", [](FaultRule &rule) { rule.after = OperationId::openDevice; }, "");
     row(
-        "getGamma", "after an unknown one", [](Rule &rule) { rule.after = "open"; },
-        "the contract has no operation \"open\"");
-    row(
-        "getGamma", "too likely", [](Rule &rule) { rule.probability = 1.5; },
+        "getGamma", "too likely", [](FaultRule &rule) { rule.probability = 1.5; },
         "a probability goes from 0 to 1");
     row(
         "getGamma", "as likely as no number",
-        [](Rule &rule) { rule.probability = std::numeric_limits<double>::quiet_NaN(); },
+        [](FaultRule &rule) { rule.probability = std::numeric_limits<double>::quiet_NaN(); },
         "a probability goes from 0 to 1");
     const auto argument = [&](const char *operation, const char *what, const ArgumentRange &range,
                               const char *message) {
         row(
-            operation, what, [range](Rule &rule) { rule.argument = range; }, message);
+            operation, what, [range](FaultRule &rule) { rule.argument = range; }, message);
     };
     argument("setRoiX1", "the last argument", {4, 0, 1}, "");
     argument("setRoiX1", "an argument too many", {5, 0, 1},
@@ -235,12 +233,12 @@ void SimulatorOperationsTest::objections()
     QFETCH(const QString, operation);
     QFETCH(const Change, change);
     QFETCH(const QString, message);
-    Rule rule;
-    rule.operations = {operation.toStdString()};
-    change(rule);
-    const Operation *const found = findOperation(rule.operations.front());
+    FaultRule rule;
+    const Operation *const found = findOperation(operation.toStdString());
     QVERIFY(found != nullptr);
-    QCOMPARE(QString::fromStdString(objection(rule, *found)), message);
+    rule.operations = {found->id};
+    change(rule);
+    QCOMPARE(QString::fromStdString(reasonAgainst(rule, *found)), message);
 }
 
 QTEST_GUILESS_MAIN(SimulatorOperationsTest)

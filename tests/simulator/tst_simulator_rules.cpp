@@ -12,12 +12,12 @@ using namespace veltrix_simulator;
 namespace
 {
 
-using Change = std::function<void(Rule &rule)>;
+using Change = std::function<void(FaultRule &rule)>;
 
-Scenario refusing(const char *operation, const Change &change)
+Scenario refusing(OperationId operation, const Change &change)
 {
     Scenario scenario = scenarioWith(operation, Effect::Refuse);
-    change(scenario.rules.front());
+    change(scenario.faults.front());
     return scenario;
 }
 
@@ -40,8 +40,8 @@ Scenario inverted(Scenario scenario)
 
 Scenario byChance(double probability, std::uint64_t seed)
 {
-    Scenario scenario =
-        inverted(refusing("getPolarity", [&](Rule &rule) { rule.probability = probability; }));
+    Scenario scenario = inverted(
+        refusing(OperationId::getPolarity, [&](FaultRule &rule) { rule.probability = probability; }));
     scenario.seed = seed;
     return scenario;
 }
@@ -82,57 +82,57 @@ void SimulatorRulesTest::hitsTheCallsItIsFor_data()
         QTest::addRow("%s", name) << change << QString{results};
     };
     row(
-        "always", [](Rule & /*rule*/) {}, "ffffffff");
+        "always", [](FaultRule & /*rule*/) {}, "ffffffff");
     row(
-        "from the first, said as 0", [](Rule &rule) { rule.from = 0; }, "ffffffff");
+        "from the first, said as 0", [](FaultRule &rule) { rule.from = 0; }, "ffffffff");
     row(
-        "from the third", [](Rule &rule) { rule.from = 3; }, "TTffffff");
+        "from the third", [](FaultRule &rule) { rule.from = 3; }, "TTffffff");
     row(
-        "three times", [](Rule &rule) { rule.times = 3; }, "fffTTTTT");
+        "three times", [](FaultRule &rule) { rule.times = 3; }, "fffTTTTT");
     row(
-        "every second", [](Rule &rule) { rule.every = 2; }, "fTfTfTfT");
+        "every second", [](FaultRule &rule) { rule.every = 2; }, "fTfTfTfT");
     row(
-        "every, said as 0", [](Rule &rule) { rule.every = 0; }, "ffffffff");
+        "every, said as 0", [](FaultRule &rule) { rule.every = 0; }, "ffffffff");
     row(
         "every third from the second",
-        [](Rule &rule) {
+        [](FaultRule &rule) {
             rule.from = 2;
             rule.every = 3;
         },
         "TfTTfTTf");
     row(
         "every second of four from the third",
-        [](Rule &rule) {
+        [](FaultRule &rule) {
             rule.from = 3;
             rule.times = 4;
             rule.every = 2;
         },
         "TTfTfTTT");
     row(
-        "never by chance", [](Rule &rule) { rule.probability = 0; }, "TTTTTTTT");
+        "never by chance", [](FaultRule &rule) { rule.probability = 0; }, "TTTTTTTT");
     row(
-        "in the other unit", [](Rule &rule) { rule.target = 0; }, "TTTTTTTT");
+        "in the other unit", [](FaultRule &rule) { rule.target = 0; }, "TTTTTTTT");
     row(
-        "in this unit", [](Rule &rule) { rule.target = 1; }, "ffffffff");
+        "in this unit", [](FaultRule &rule) { rule.target = 1; }, "ffffffff");
     row(
-        "after what never comes", [](Rule &rule) { rule.after = "setGamma"; }, "TTTTTTTT");
+        "after what never comes", [](FaultRule &rule) { rule.after = OperationId::setGamma; }, "TTTTTTTT");
     row(
-        "after itself", [](Rule &rule) { rule.after = "getPolarity"; }, "Tfffffff");
+        "after itself", [](FaultRule &rule) { rule.after = OperationId::getPolarity; }, "Tfffffff");
     row(
-        "after opening", [](Rule &rule) { rule.after = "openDevice"; }, "ffffffff");
+        "after opening", [](FaultRule &rule) { rule.after = OperationId::openDevice; }, "ffffffff");
 }
 
 void SimulatorRulesTest::hitsTheCallsItIsFor()
 {
     QFETCH(const Change, change);
     QFETCH(const QString, results);
-    const ScenarioCamera c{inverted(refusing("getPolarity", change))};
+    const ScenarioCamera c{inverted(refusing(OperationId::getPolarity, change))};
     QCOMPARE(polarities(c, 8), results);
 }
 
 void SimulatorRulesTest::hitsOneUnit()
 {
-    const ScenarioCamera c{inverted(refusing("getPolarity", [](Rule &rule) {
+    const ScenarioCamera c{inverted(refusing(OperationId::getPolarity, [](FaultRule &rule) {
         rule.target = 1;
         rule.from = 2;
     }))};
@@ -175,8 +175,8 @@ void SimulatorRulesTest::hitsAnArgumentInARange()
     QFETCH(const double, minimum);
     QFETCH(const double, maximum);
     QFETCH(const bool, hits);
-    const std::string name = operation.toStdString();
-    const ScenarioCamera c{refusing(name.c_str(), [&](Rule &rule) {
+    const OperationId id{findOperation(operation.toStdString())->id};
+    const ScenarioCamera c{refusing(id, [&](FaultRule &rule) {
         rule.argument = ArgumentRange{static_cast<std::size_t>(place), minimum, maximum};
     })};
     const veltrix_sdk::ZoomConfig zoom{1.5F, 11, 22, 1};
@@ -190,13 +190,13 @@ void SimulatorRulesTest::hitsAnArgumentInARange()
     c.device.getWarp(&warp);
     c.device.configureZoom(nullptr);
     c.device.getWarp(nullptr);
-    QCOMPARE(c.simulation.core.rules.unfired().empty(), hits);
+    QCOMPARE(c.simulation.path.faults.unfired().empty(), hits);
 }
 
 void SimulatorRulesTest::waitsForAnotherOperation()
 {
-    const ScenarioCamera c{inverted(refusing("getPolarity", [](Rule &rule) {
-        rule.after = "setVideoMode";
+    const ScenarioCamera c{inverted(refusing(OperationId::getPolarity, [](FaultRule &rule) {
+        rule.after = OperationId::setVideoMode;
         rule.from = 2;
         rule.times = 1;
     }))};
@@ -209,7 +209,7 @@ void SimulatorRulesTest::waitsForAnotherOperation()
 
 void SimulatorRulesTest::callsThatDoNotFitAreNotCounted()
 {
-    const ScenarioCamera c{refusing("setGamma", [](Rule &rule) {
+    const ScenarioCamera c{refusing(OperationId::setGamma, [](FaultRule &rule) {
         rule.argument = ArgumentRange{0, 100000, 160000};
         rule.from = 2;
     })};
@@ -222,11 +222,11 @@ void SimulatorRulesTest::callsThatDoNotFitAreNotCounted()
 
 void SimulatorRulesTest::lastRuleWins()
 {
-    Scenario scenario = scenarioWith("getColorLut", Effect::Answer);
-    scenario.rules.front().answer = {std::int64_t{5}};
-    scenario.rules.push_back(scenario.rules.front());
-    scenario.rules.back().answer = {std::int64_t{6}};
-    scenario.rules.back().every = 2;
+    Scenario scenario = scenarioWith(OperationId::getColorLut, Effect::Answer);
+    scenario.faults.front().answer = {std::int64_t{5}};
+    scenario.faults.push_back(scenario.faults.front());
+    scenario.faults.back().answer = {std::int64_t{6}};
+    scenario.faults.back().every = 2;
     const ScenarioCamera c{scenario};
     QCOMPARE(int{c.device.getColorLut()}, 6);
     QCOMPARE(int{c.device.getColorLut()}, 5);
@@ -270,9 +270,9 @@ void SimulatorRulesTest::anotherRuleDoesNotShiftChance()
 {
     Scenario scenario = byChance(0.5, 3);
     const QString alone = polarities(ScenarioCamera{scenario}, 40);
-    Rule another = scenario.rules.front();
-    another.operations = {"getGamma"};
-    scenario.rules.insert(scenario.rules.begin(), another);
+    FaultRule another = scenario.faults.front();
+    another.operations = {OperationId::getGamma};
+    scenario.faults.insert(scenario.faults.begin(), another);
     const ScenarioCamera c{scenario};
     QString results;
     for (int call{0}; call < 40; ++call) {
@@ -286,7 +286,7 @@ void SimulatorRulesTest::equalRulesDrawForThemselves()
 {
     Scenario scenario = byChance(0.5, 3);
     const auto alone = polarities(ScenarioCamera{scenario}, 400).count('f');
-    scenario.rules.push_back(scenario.rules.front());
+    scenario.faults.push_back(scenario.faults.front());
     const auto both = polarities(ScenarioCamera{scenario}, 400).count('f');
     QVERIFY2(both > alone + 50, qPrintable(QString::number(both)));
 }
@@ -307,10 +307,10 @@ void SimulatorRulesTest::randomNumbersAreThoseOfEveryMachine()
 
 void SimulatorRulesTest::rulesThatNeverHitAreRemembered()
 {
-    Scenario scenario = scenarioWith("setGamma", Effect::Refuse);
-    scenario.rules.push_back(scenario.rules.front());
-    scenario.rules.back().operations = {"setClhe"};
-    scenario.rules.back().origin = "test.toml:9";
+    Scenario scenario = scenarioWith(OperationId::setGamma, Effect::Refuse);
+    scenario.faults.push_back(scenario.faults.front());
+    scenario.faults.back().operations = {OperationId::setClhe};
+    scenario.faults.back().origin = "test.toml:9";
     const ScenarioCamera c{scenario};
     Simulator &simulator = Simulator::instance();
     const auto unfired = [&] {
@@ -330,12 +330,12 @@ void SimulatorRulesTest::rulesThatNeverHitAreRemembered()
 
 void SimulatorRulesTest::rulesThatAreOverruledNeverHit()
 {
-    Scenario scenario = scenarioWith("setGamma", Effect::Refuse);
-    scenario.rules.push_back(scenario.rules.front());
-    scenario.rules.back().origin = "test.toml:9";
+    Scenario scenario = scenarioWith(OperationId::setGamma, Effect::Refuse);
+    scenario.faults.push_back(scenario.faults.front());
+    scenario.faults.back().origin = "test.toml:9";
     const ScenarioCamera c{scenario};
     c.device.setGamma(65536);
-    QCOMPARE(c.simulation.core.rules.unfired(), std::vector<std::string>{"test.toml:1"});
+    QCOMPARE(c.simulation.path.faults.unfired(), std::vector<std::string>{"test.toml:1"});
 }
 
 void SimulatorRulesTest::wrongRuleIsNamed()
@@ -348,13 +348,11 @@ void SimulatorRulesTest::wrongRuleIsNamed()
         }
         return QString{};
     };
-    QCOMPARE(refusal(scenarioWith("getGama", Effect::Refuse)),
-             QStringLiteral("test.toml:1: the contract has no operation \"getGama\""));
-    QCOMPARE(refusal(scenarioWith("getGamma", Effect::Stuck)),
+    QCOMPARE(refusal(scenarioWith(OperationId::getGamma, Effect::Stuck)),
              QStringLiteral("test.toml:1: \"getGamma\" changes nothing of a unit, so nothing can be stuck"));
-    QCOMPARE(refusal(refusing("getGamma", [](Rule &rule) { rule.operations.clear(); })),
+    QCOMPARE(refusal(refusing(OperationId::getGamma, [](FaultRule &rule) { rule.operations.clear(); })),
              QStringLiteral("test.toml:1: a fault needs an operation"));
-    QVERIFY(simulation().core.rules.isEmpty());
+    QVERIFY(simulation().path.faults.isEmpty());
 }
 
 QTEST_GUILESS_MAIN(SimulatorRulesTest)

@@ -63,7 +63,7 @@ void SimulatorScenarioTest::valuesAreSet()
 
 void SimulatorScenarioTest::resetIsTheDefaultScenario()
 {
-    Scenario scenario = scenarioWith("getGamma", Effect::Refuse);
+    Scenario scenario = scenarioWith(OperationId::getGamma, Effect::Refuse);
     scenario.values.emplace_back("camera.clhe", std::int64_t{1});
     scenario.ports = {{"OTHER"}};
     scenario.link.kind = Link::Kind::Fixed;
@@ -76,7 +76,7 @@ void SimulatorScenarioTest::resetIsTheDefaultScenario()
     QVERIFY(c.device.setTarget(1));
     QCOMPARE(c.device.getGamma(), 65536U);
     QCOMPARE(c.device.getClhe(), 2000U);
-    QVERIFY(!c.simulation.core.takesTime());
+    QVERIFY(!c.simulation.path.takesTime());
 }
 
 void SimulatorScenarioTest::portsAreNamed()
@@ -109,8 +109,8 @@ void SimulatorScenarioTest::portsOpenAsTheyAreSaid()
 
 void SimulatorScenarioTest::silentPortRefusesAll()
 {
-    Scenario scenario = scenarioWith("getClhe", Effect::Answer);
-    scenario.rules.front().answer = {std::int64_t{7}};
+    Scenario scenario = scenarioWith(OperationId::getClhe, Effect::Answer);
+    scenario.faults.front().answer = {std::int64_t{7}};
     scenario.ports = {{"MUTE", Port::Opening::Silent}, {"SIM1"}};
     const ScenarioCamera c{scenario};
     veltrix_sdk::FirmwareVersions versions{1, 1};
@@ -194,7 +194,7 @@ void SimulatorScenarioTest::wrongScenarioIsNamed()
 
 void SimulatorScenarioTest::wrongScenarioLeavesTheDefault()
 {
-    Scenario scenario = scenarioWith("getGamma", Effect::Refuse);
+    Scenario scenario = scenarioWith(OperationId::getGamma, Effect::Refuse);
     scenario.ports = {{"OTHER"}};
     scenario.values = {{"camera.gamma", std::int64_t{1}}, {"camera.gama", std::int64_t{1}}};
     QVERIFY(!refusalOfStarting(scenario).isEmpty());

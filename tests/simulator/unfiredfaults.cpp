@@ -8,11 +8,11 @@ int main(int count, char ** /*arguments*/)
 {
     using namespace veltrix_simulator;
     Scenario scenario;
-    for (const char *const operation : {"setGamma", "setClhe"}) {
-        Rule rule;
+    for (const OperationId operation : {OperationId::setGamma, OperationId::setClhe}) {
+        FaultRule rule;
         rule.operations = {operation};
-        rule.origin = std::string{"flaky.toml:"} + operation;
-        scenario.rules.push_back(rule);
+        rule.origin = "flaky.toml:" + std::string{nameOf(operation).name};
+        scenario.faults.push_back(rule);
     }
     simulation().start(scenario);
     simulation().manager.openDevice("SIM1");

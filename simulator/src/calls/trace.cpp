@@ -3,7 +3,7 @@
 // The file of all calls that VELTRIX_SIMULATOR_TRACE names.
 #include "calls/trace.h"
 
-#include "calls/calljson.h"
+#include "calls/traceline.h"
 #include "output/clock.h"
 
 #include <chrono>
@@ -63,6 +63,7 @@ void Trace::write(std::string_view line)
 void Trace::open(const std::string &name)
 {
     fileName = name;
+    on = false;
     file.close();
     file.clear();
     if (name.empty()) {
@@ -78,13 +79,15 @@ void Trace::open(const std::string &name)
         return;
     }
     file.open(name, std::ios::binary | std::ios::trunc);
-    if (!file) {
+    on = file.is_open();
+    if (!on) {
         refuse();
     }
 }
 
 void Trace::refuse()
 {
+    on = false;
     file.close();
     std::cerr << "veltrix.sdk: cannot write the trace file \"" << fileName
               << "\"; set VELTRIX_SIMULATOR_TRACE to a file that can be written. The program goes on without "

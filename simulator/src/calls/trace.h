@@ -16,7 +16,7 @@ namespace veltrix_simulator
 class Trace
 {
 public:
-    bool isOn() const { return file.is_open(); }
+    bool isOn() const { return on; }
 
     /// Power-on: writes a header. The first one, and the first after the variable has changed, begins the
     /// file anew; the variable is looked at only here.
@@ -31,6 +31,7 @@ private:
 
     std::string fileName;
     std::ofstream file;
+    bool on{false};
 };
 
 } // namespace veltrix_simulator

@@ -25,7 +25,7 @@ veltrix_sdk::IDeviceControl *SimulatedDeviceManager::openDevice(const char *port
         state.open(port->opening == Port::Opening::Silent);
         return &device;
     };
-    return core.call(Interface::Manager, __func__, open, portName);
+    return path.call(OperationId::openDevice, {portName}, open);
 }
 
 void SimulatedDeviceManager::closeDevice(veltrix_sdk::IDeviceControl *closed)
@@ -39,7 +39,7 @@ void SimulatedDeviceManager::closeDevice(veltrix_sdk::IDeviceControl *closed)
             unit.badPixels.close(static_cast<std::uint32_t>(unit[Field::serialNumber]), log);
         }
     };
-    core.call(Interface::Manager, __func__, close, closed);
+    path.call(OperationId::closeDevice, {ObjectPointer{closed}}, close);
 }
 
 const Port *SimulatedDeviceManager::findPort(const char *name) const

@@ -3,7 +3,7 @@
 // The simulated device manager.
 #pragma once
 
-#include "calls/core.h"
+#include "calls/callpath.h"
 #include "output/logoutput.h"
 #include "units/state.h"
 #include "veltrix_sdk/device_control.h"
@@ -16,9 +16,9 @@ namespace veltrix_simulator
 class SimulatedDeviceManager final : public veltrix_sdk::IDeviceManager
 {
 public:
-    SimulatedDeviceManager(Core &itsCore, State &itsState, LogOutput &itsLog,
+    SimulatedDeviceManager(CallPath &itsPath, State &itsState, LogOutput &itsLog,
                            veltrix_sdk::IDeviceControl &itsDevice)
-        : core{itsCore}, state{itsState}, log{itsLog}, device{itsDevice}
+        : path{itsPath}, state{itsState}, log{itsLog}, device{itsDevice}
     {}
 
     veltrix_sdk::IDeviceControl *openDevice(const char *portName) override;
@@ -27,7 +27,7 @@ public:
 private:
     const Port *findPort(const char *name) const;
 
-    Core &core;
+    CallPath &path;
     State &state;
     LogOutput &log;
     veltrix_sdk::IDeviceControl &device;

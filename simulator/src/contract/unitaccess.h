@@ -3,25 +3,26 @@
 // What the device operations are made of: reads and writes of the addressed unit's state.
 #pragma once
 
-#include "calls/core.h"
+#include "calls/callpath.h"
 #include "output/logoutput.h"
 #include "units/memory.h"
 #include "units/state.h"
+#include "veltrix_sdk/numbers.h"
+#include "veltrix_sdk/records.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <tuple>
 #include <type_traits>
 
 namespace veltrix_simulator
 {
 
-/// Each helper is a whole call: it passes the core and works on the unit that the target selects.
+/// Each function is a whole call: it goes the way of all calls and works on the unit that the target selects.
 class UnitAccess
 {
 public:
-    UnitAccess(Core &itsCore, State &itsState, LogOutput &itsLog, Memory &itsMemory)
-        : core{itsCore}, state{itsState}, log{itsLog}, memory{itsMemory}
+    UnitAccess(CallPath &itsPath, State &itsState, LogOutput &itsLog, Memory &itsMemory)
+        : path{itsPath}, state{itsState}, log{itsLog}, memory{itsMemory}
     {}
 
 protected:
@@ -36,126 +37,51 @@ protected:
         y2,
     };
 
-    static constexpr std::size_t roiFields{Field::roi1X1 - Field::roi0X1};
-    static constexpr std::size_t warpFields{Field::warp1A11 - Field::warp0A11};
-    static constexpr std::uint32_t regions{4};
-    static constexpr std::int32_t warpStreams{3};
-    static constexpr double secondThresholdDistance{40};
-    static constexpr std::uint8_t readBprCode{9};
-    static constexpr std::uint8_t writeBprCode{8};
-
-    static bool isBprTransfer(std::uint32_t first, std::uint32_t second)
+    template <typename Function>
+    std::invoke_result_t<const Function &> call(OperationId operation, Parameters parameters,
+                                                const Function &work)
     {
-        return first == 4096 && second == 16384;
-    }
-    static bool isWarpStream(std::int32_t stream) { return stream >= 0 && stream < warpStreams; }
-    static Field warpField(std::int32_t stream)
-    {
-        return Field::warp0A11 + static_cast<std::size_t>(stream) * warpFields;
-    }
-    static Field roiField(std::uint32_t region, RoiCoordinate coordinate)
-    {
-        return Field::roi0X1 + (region * roiFields + static_cast<std::size_t>(coordinate));
-    }
-
-    template <typename Action, typename... Parameters>
-    std::invoke_result_t<Action> call(const char *operation, const Action &action,
-                                      const Parameters &...parameters)
-    {
-        return core.call(Interface::Device, operation, action, parameters...);
+        return path.call(operation, parameters, work);
     }
 
     /// A read of one value as the result.
     template <Field field>
-    TypeOf<rowOf(field).kind> get(const char *operation)
+    TypeOf<rowOf(field).kind> get(OperationId operation)
     {
-        return call(operation, [&] { return static_cast<TypeOf<rowOf(field).kind>>(unit()[field]); });
+        return call(operation, {}, [&] { return static_cast<TypeOf<rowOf(field).kind>>(unit()[field]); });
     }
 
-    /// A read into the record or number that the parameter points to, from the fields from `first` on.
-    template <typename Result = bool, typename Parameter>
-    Result fill(const char *operation, Field first, const Parameter &parameter)
+    /// A read into the number or the record that is the only parameter, from the fields from `first` on.
+    template <typename Result = bool>
+    Result fill(OperationId operation, Field first, Parameters filled)
     {
-        const auto read = [&] {
-            load(first, target(parameter));
+        return call(operation, filled, [&] {
+            load(first, *filled.begin()->filledMemory());
             return Result{1};
-        };
-        return call(operation, read, parameter);
+        });
     }
 
-    /// A write of the numbers into the fields from `first` on.
-    template <typename... Numbers>
-    bool set(const char *operation, Field first, Numbers... numbers)
-    {
-        return call(
-            operation, [&] { return state.store(first, numbers...); }, numbers...);
-    }
+    /// A write of the numbers that the call brings into the fields from `first` on.
+    bool set(OperationId operation, Field first, Parameters parameters);
 
-    /// A write of the record's numbers into the fields from `first` on.
-    template <typename Record>
-    bool set(const char *operation, Field first, const Record *record)
-    {
-        const auto store = [&] {
-            const auto storeFields = [&](const auto &...field) {
-                return state.store(first, record->*field.member...);
-            };
-            return std::apply(storeFields, fieldsOf<Record>);
-        };
-        return call(operation, store, record);
-    }
+    bool configureEdge(OperationId operation, Parameters parameters);
+    veltrix_sdk::EdgeCorrection getEdge(OperationId operation);
 
-    std::uint32_t getRoi(const char *operation, RoiCoordinate coordinate, std::uint32_t region)
-    {
-        const auto read = [&] {
-            return region < regions ? static_cast<std::uint32_t>(unit()[roiField(region, coordinate)]) : 0;
-        };
-        return call(operation, read, region);
-    }
+    std::uint32_t getRoi(OperationId operation, RoiCoordinate coordinate, std::uint32_t region);
+    /// The parameters are the pixels, the number of the region and the enables. Regions are stored by number:
+    /// what the setters call 1 the reader calls 1, whatever each means by it.
+    bool setRoi(OperationId operation, RoiCoordinate coordinate, std::int32_t region, Parameters parameters);
 
-    /// Regions are stored by number: what the setters call 1 the reader calls 1, whatever each means by it.
-    template <typename... Flags>
-    bool setRoi(const char *operation, RoiCoordinate coordinate, std::uint32_t pixels, std::int32_t region,
-                Flags... flags)
-    {
-        const auto number = static_cast<std::uint32_t>(region);
-        const auto store = [&] {
-            return number < regions && state.store(roiField(number, coordinate), pixels) &&
-                   state.store(Field::roi1IncEnabled, flags...);
-        };
-        return call(operation, store, pixels, region, flags...);
-    }
+    /// The parameters are the stream and its coefficients.
+    bool setWarpOf(OperationId operation, std::int32_t stream, Parameters parameters);
+    bool getWarpOf(OperationId operation, veltrix_sdk::Warp *warp);
 
-    bool declare(const char *operation, std::uint32_t column, std::uint32_t row, bool bad)
-    {
-        const auto declarePixel = [&] {
-            return badPixels().declare(serialNumber(), column, row, bad, log);
-        };
-        return call(operation, declarePixel, column, row);
-    }
+    bool select(OperationId operation, std::int32_t target);
 
-    template <typename T>
-    static T &target(const Out<T> &out)
-    {
-        return *out.number;
-    }
-    template <typename Record>
-    static Record &target(Record *const &record)
-    {
-        return *record;
-    }
-
-    /// Fills a record or a number from the fields from `first` on.
-    template <typename T>
-    void load(Field first, T &destination)
-    {
-        if constexpr (isRecord<T>) {
-            std::size_t place{0};
-            forEachField(destination,
-                         [&](const char * /*name*/, auto &field) { load(first + place++, field); });
-        } else {
-            destination = static_cast<T>(unit()[first]);
-        }
-    }
+    bool transferBpr(OperationId operation, std::uint32_t first, std::uint32_t second, std::uint8_t code,
+                     std::uint8_t expectedCode, bool (BadPixelMemory::*transfer)(std::uint32_t, LogOutput &));
+    bool declare(OperationId operation, std::uint32_t column, std::uint32_t row, bool bad);
+    bool save(OperationId operation, std::uint8_t kind);
 
     /// Counts what leaves no other trace in the state.
     bool count(Field field)
@@ -164,11 +90,15 @@ protected:
         return true;
     }
 
+private:
+    /// Fills a number or a record from the fields from `first` on.
+    void load(Field first, const NumbersAt &destination);
+
     Unit &unit() { return state.addressed(); }
     BadPixelMemory &badPixels() { return unit().badPixels; }
     std::uint32_t serialNumber() { return static_cast<std::uint32_t>(unit()[Field::serialNumber]); }
 
-    Core &core;
+    CallPath &path;
     State &state;
     LogOutput &log;
     Memory &memory;

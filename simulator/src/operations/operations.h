@@ -1,32 +1,83 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// The operations of the contract by name, with what each of them takes and answers.
+// The operations of the contract, with what each of them takes and answers.
 #pragma once
 
 #include "values/value.h"
 #include "veltrix_simulator/simulator.h"
 
+#include <cstddef>
 #include <string_view>
 #include <vector>
+
+namespace veltrix_sdk
+{
+class IDeviceControl;
+class IDeviceManager;
+class ISdkConfiguration;
+class IVeltrixSdk;
+} // namespace veltrix_sdk
 
 namespace veltrix_simulator
 {
 
-struct Operation
+/// The operations of the contract, in the order of operations.inc.
+enum class OperationId : std::size_t
+{
+#define FUNCTION(name, ...) name,
+#define OPERATION(object, name) name,
+#include "operations/operations.inc"
+    count,
+};
+
+/// The interface that a class of the contract is.
+template <typename Object>
+inline constexpr Interface interfaceOf = Interface::Root;
+template <>
+inline constexpr Interface interfaceOf<veltrix_sdk::ISdkConfiguration> = Interface::Configuration;
+template <>
+inline constexpr Interface interfaceOf<veltrix_sdk::IDeviceManager> = Interface::Manager;
+template <>
+inline constexpr Interface interfaceOf<veltrix_sdk::IDeviceControl> = Interface::Device;
+
+/// What every call needs to know of its operation.
+struct OperationName
 {
     std::string_view name;
     Interface interface;
-    /// Its result, if it has one, then the fields of its out-parameters or of the record it returns.
-    std::vector<Kind> answer;
-    /// The numbers and texts that a call brings, the fields of a record in its place.
-    std::vector<Kind> arguments{};
 };
+
+inline constexpr OperationName operationNames[]{
+#define FUNCTION(name, interface, ...) {#name, Interface::interface},
+#define OPERATION(object, name) {#name, interfaceOf<veltrix_sdk::object>},
+#include "operations/operations.inc"
+};
+
+constexpr const OperationName &nameOf(OperationId id)
+{
+    return operationNames[static_cast<std::size_t>(id)];
+}
+
+/// An operation with what it takes and answers.
+struct Operation
+{
+    OperationId id;
+    std::string_view name;
+    Interface interface;
+    /// Its result, if it has one, then the members of its out-parameters or of the record it returns.
+    std::vector<Kind> answer;
+    /// The numbers and texts that a call brings, the members of a record in its place.
+    std::vector<Kind> arguments;
+};
+
+/// All operations, by their id.
+const std::vector<Operation> &allOperations();
+
+/// The operation of an id.
+const Operation &operationOf(OperationId id);
 
 /// The operation of this name; null when there is none.
 const Operation *findOperation(std::string_view name);
-
-/// All operations, in the order of the contract.
-const std::vector<Operation> &allOperations();
 
 /// The operation of this name or, when it has a `*` for any characters, the device operations that fit; in
 /// the order of the contract, empty when there are none.

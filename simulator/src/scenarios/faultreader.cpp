@@ -3,7 +3,9 @@
 // Reads a fault of a scenario file.
 #include "scenarios/faultreader.h"
 
-#include "faults/rules.h"
+#include "faults/applicability.h"
+#include "faults/effects.h"
+#include "operations/operations.h"
 #include "output/wording.h"
 
 #include <algorithm>
@@ -24,8 +26,13 @@ constexpr double largestNumber{1e300};
 /// In the order of Effect.
 const std::vector<std::string> &effectNames()
 {
-    static const std::vector<std::string> names{"refuse", "answer",           "stuck",   "wrong", "garbage",
-                                                "late",   "lostOnPowerCycle", "cableOut"};
+    static const std::vector<std::string> names = [] {
+        std::vector<std::string> list;
+        for (const EffectRow &row : effectRows()) {
+            list.emplace_back(row.name);
+        }
+        return list;
+    }();
     return names;
 }
 
@@ -93,89 +100,91 @@ std::vector<Value> readAnswer(const Entry &entry)
     return answer;
 }
 
-constexpr Setting<Rule> faultSettings[]{
+constexpr Setting<FaultRule> faultSettings[]{
     // Which operations a pattern means depends on the rest of the rule.
     {"operation",
-     [](const Entry & /*entry*/, Rule & /*rule*/) {
+     [](const Entry & /*entry*/, FaultRule & /*rule*/) {
      }},
     {"operations",
-     [](const Entry & /*entry*/, Rule & /*rule*/) {
+     [](const Entry & /*entry*/, FaultRule & /*rule*/) {
      }},
     {"target",
-     [](const Entry &entry, Rule &rule) {
+     [](const Entry &entry, FaultRule &rule) {
          rule.target = static_cast<int>(entry.choice({"blendUnit", "camera"}));
      }},
     {"argument",
-     [](const Entry &entry, Rule &rule) {
+     [](const Entry &entry, FaultRule &rule) {
          rule.argument = readArgument(entry);
      }},
     {"after",
-     [](const Entry &entry, Rule &rule) {
-         rule.after = entry.text();
-         if (rule.after.find('*') != std::string::npos) {
+     [](const Entry &entry, FaultRule &rule) {
+         const std::string name = entry.text();
+         if (name.find('*') != std::string::npos) {
              entry.fail("takes one operation, and no pattern");
          }
-         if (findOperation(rule.after) == nullptr) {
-             failUnknownOperation(entry, rule.after);
+         const Operation *const operation = findOperation(name);
+         if (operation == nullptr) {
+             failUnknownOperation(entry, name);
          }
+         rule.after = operation->id;
      }},
     {"once",
-     [](const Entry &entry, Rule &rule) {
+     [](const Entry &entry, FaultRule &rule) {
          if (!entry.boolean()) {
              entry.fail("takes true, or is left out");
          }
          rule.times = 1;
      }},
     {"onCall",
-     [](const Entry &entry, Rule &rule) {
+     [](const Entry &entry, FaultRule &rule) {
          rule.from = readCall(entry);
          rule.times = 1;
      }},
     {"fromCall",
-     [](const Entry &entry, Rule &rule) {
+     [](const Entry &entry, FaultRule &rule) {
          rule.from = readCall(entry);
      }},
     {"times",
-     [](const Entry &entry, Rule &rule) {
+     [](const Entry &entry, FaultRule &rule) {
          rule.times = readCall(entry);
      }},
     {"everyCall",
-     [](const Entry &entry, Rule &rule) {
+     [](const Entry &entry, FaultRule &rule) {
          rule.from = rule.every = readCall(entry);
      }},
     {"probability",
-     [](const Entry &entry, Rule &rule) {
+     [](const Entry &entry, FaultRule &rule) {
          rule.probability = entry.number(0, 1);
          if (rule.probability == 0) {
              entry.fail("takes a number above 0: a fault without a chance never happens");
          }
      }},
     {"effect",
-     [](const Entry &entry, Rule &rule) {
+     [](const Entry &entry, FaultRule &rule) {
          rule.effect = static_cast<Effect>(entry.choice(effectNames()));
      }},
     {"answer",
-     [](const Entry &entry, Rule &rule) {
+     [](const Entry &entry, FaultRule &rule) {
          rule.answer = readAnswer(entry);
      }},
     {"leavesOutputs",
-     [](const Entry &entry, Rule &rule) {
+     [](const Entry &entry, FaultRule &rule) {
          rule.leavesOutputs = entry.boolean();
      }},
     {"delayMilliseconds",
-     [](const Entry &entry, Rule &rule) {
+     [](const Entry &entry, FaultRule &rule) {
          rule.delay = entry.milliseconds(0, longestDelay);
      }},
 };
 
 /// Fails where the rule does not fit the operation.
-[[noreturn]] void failObjection(const Entry &fault, const Entry &pattern, Rule rule,
-                                const Operation &operation)
+[[noreturn]] void failMisfit(const Entry &fault, const Entry &pattern, FaultRule rule,
+                             const Operation &operation)
 {
-    const std::string reason = "does not fit: " + objection(rule, operation);
+    const std::string reason = "does not fit: " + reasonAgainst(rule, operation);
     const std::optional<Entry> argument = fault.find("argument");
     rule.argument.reset();
-    if (argument && objection(rule, operation).empty()) {
+    if (argument && reasonAgainst(rule, operation).empty()) {
         argument->fail(reason);
     }
     const std::optional<Entry> answer = fault.find("answer");
@@ -184,7 +193,7 @@ constexpr Setting<Rule> faultSettings[]{
 
 /// Adds what the pattern means to the operations of the rule: the operation of this name or, when it has a
 /// `*`, those of the device's that the rule can be applied to.
-void appendOperations(const Entry &fault, const Entry &entry, Rule &rule)
+void appendOperations(const Entry &fault, const Entry &entry, FaultRule &rule)
 {
     const std::string pattern = entry.text();
     std::vector<const Operation *> matching = operationsMatching(pattern);
@@ -193,20 +202,20 @@ void appendOperations(const Entry &fault, const Entry &entry, Rule &rule)
     }
     const Operation &first{*matching.front()};
     matching.erase(std::remove_if(matching.begin(), matching.end(),
-                                  [&](const Operation *each) { return !objection(rule, *each).empty(); }),
+                                  [&](const Operation *each) { return !reasonAgainst(rule, *each).empty(); }),
                    matching.end());
     if (matching.empty()) {
-        failObjection(fault, entry, rule, first);
+        failMisfit(fault, entry, rule, first);
     }
     for (const Operation *const operation : matching) {
-        const std::string name{operation->name};
-        if (std::find(rule.operations.begin(), rule.operations.end(), name) == rule.operations.end()) {
-            rule.operations.push_back(name);
+        if (std::find(rule.operations.begin(), rule.operations.end(), operation->id) ==
+            rule.operations.end()) {
+            rule.operations.push_back(operation->id);
         }
     }
 }
 
-void readOperations(const Entry &fault, Rule &rule)
+void readOperations(const Entry &fault, FaultRule &rule)
 {
     fault.refuseTwoOf({"operation", "operations"});
     fault.demandOneOf({"operation", "operations"});
@@ -226,21 +235,18 @@ void readOperations(const Entry &fault, Rule &rule)
 
 } // namespace
 
-Rule readFault(const Entry &fault)
+FaultRule readFault(const Entry &fault)
 {
-    Rule rule;
+    FaultRule rule;
     rule.origin = fault.origin();
     readTable(fault, faultSettings, rule);
     fault.demandOneOf({"effect"});
     fault.refuseTwoOf({"once", "onCall", "fromCall", "everyCall"});
     fault.refuseTwoOf({"once", "onCall", "everyCall", "times"});
-    const std::string &effect = effectNames()[static_cast<std::size_t>(rule.effect)];
-    fault.refuseStrangers("effect", effect, belongings());
-    if (rule.effect == Effect::Answer) {
-        fault.demandOneOf({"answer"});
-    }
-    if (rule.effect == Effect::Late) {
-        fault.demandOneOf({"delayMilliseconds"});
+    const EffectRow &effect = rowOf(rule.effect);
+    fault.refuseStrangers("effect", effect.name, belongings());
+    if (!effect.neededKey.empty()) {
+        fault.demandOneOf({std::string{effect.neededKey}});
     }
     readOperations(fault, rule);
     return rule;

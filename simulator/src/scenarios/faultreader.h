@@ -3,7 +3,7 @@
 // Reads a fault of a scenario file.
 #pragma once
 
-#include "faults/rule.h"
+#include "faults/faultrule.h"
 #include "scenarios/entry.h"
 
 #include <string>
@@ -12,8 +12,8 @@
 namespace veltrix_simulator
 {
 
-/// The rule of one `[[fault]]`; throws ScenarioError.
-Rule readFault(const Entry &fault);
+/// The fault of one `[[fault]]`; throws ScenarioError.
+FaultRule readFault(const Entry &fault);
 
 /// The keys of a fault, such as "fault.onCall".
 std::vector<std::string> faultKeys();

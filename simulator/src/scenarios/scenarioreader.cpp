@@ -241,7 +241,7 @@ constexpr Setting<Scenario> scenarioSettings[]{
     {"fault",
      [](const Entry &entry, Scenario &scenario) {
          for (const Entry &each : tablesOf(entry)) {
-             scenario.rules.push_back(readFault(each));
+             scenario.faults.push_back(readFault(each));
          }
      }},
     {"memory",

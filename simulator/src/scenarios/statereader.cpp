@@ -68,8 +68,8 @@ void readPixel(const Entry &entry, int target, Scenario &scenario)
     if (numbers.size() != 2) {
         entry.fail("takes a list of a column and a row for each pixel");
     }
-    const std::int64_t column{numbers[0].integer(0, sensorColumns - 1)};
-    const std::int64_t row{numbers[1].integer(0, sensorRows - 1)};
+    const std::int64_t column{numbers[0].integer(0, veltrix_sdk::sensorColumns - 1)};
+    const std::int64_t row{numbers[1].integer(0, veltrix_sdk::sensorRows - 1)};
     scenario.badPixels.push_back(
         {target, static_cast<std::uint32_t>(column), static_cast<std::uint32_t>(row)});
 }

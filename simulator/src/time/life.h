@@ -3,14 +3,39 @@
 // What the time that goes by does to the units.
 #pragma once
 
-#include "scenarios/scenario.h"
 #include "units/state.h"
 
 #include <chrono>
+#include <string>
 #include <vector>
 
 namespace veltrix_simulator
 {
+
+/// A value that goes from where it stands towards an end as the unit's time goes by: half of the way that is
+/// left in every half-time.
+struct Drift
+{
+    std::string key; ///< Of a number of a unit, such as "camera.temperatures.sensorMillikelvin".
+    double end{0};
+    std::chrono::microseconds halfTime{0};
+};
+
+/// A value that grows by one in every interval of the unit's time.
+struct Counter
+{
+    std::string key;
+    std::chrono::microseconds interval{0};
+};
+
+/// The life of the units. Their time does not run by the clock, so that the same calls always get the same
+/// answers: each device call makes it go on by what the call took on the link and by timePerCall.
+struct Life
+{
+    std::chrono::microseconds timePerCall{0};
+    std::vector<Drift> drifts;
+    std::vector<Counter> counters;
+};
 
 /// The units' own time, and the values that it changes.
 class UnitTime

@@ -3,7 +3,6 @@
 // The time that the link takes.
 #pragma once
 
-#include "scenarios/scenario.h"
 #include "values/randomness.h"
 
 #include <chrono>
@@ -20,6 +19,23 @@ std::chrono::microseconds bounded(std::chrono::microseconds duration);
 
 /// Lets the caller wait so long, bounded.
 void pause(std::chrono::microseconds duration);
+
+/// How long a call of the device takes.
+struct Link
+{
+    enum class Kind
+    {
+        None,   ///< No time of its own.
+        Fixed,  ///< perCall.
+        Serial, ///< bytesPerCommand at ten bits a byte and the baud rate, and thinkTime.
+    };
+    Kind kind{Kind::None};
+    std::chrono::microseconds perCall{0};
+    std::uint32_t bytesPerCommand{24}; ///< Command and answer together.
+    std::int32_t baudRate{0};          ///< Bits per second; 0: the rate that the program set last.
+    std::chrono::microseconds thinkTime{0};
+    std::chrono::microseconds jitter{0}; ///< Up to so much more, drawn from the seed; of every kind but None.
+};
 
 class LinkTime
 {

@@ -20,7 +20,7 @@ namespace
 
 constexpr std::size_t pixelAt(std::uint32_t column, std::uint32_t row)
 {
-    return std::size_t{row} * sensorColumns + column;
+    return std::size_t{row} * veltrix_sdk::sensorColumns + column;
 }
 
 bool refuse(LogOutput &log, const std::string &name, const std::string &reason)
@@ -77,7 +77,7 @@ void BadPixelMemory::declareFactoryPixels()
 
 bool BadPixelMemory::declareInUnit(std::uint32_t column, std::uint32_t row)
 {
-    const bool isOnSensor{column < sensorColumns && row < sensorRows};
+    const bool isOnSensor{column < veltrix_sdk::sensorColumns && row < veltrix_sdk::sensorRows};
     if (isOnSensor) {
         unit.set(pixelAt(column, row));
     }
@@ -111,7 +111,7 @@ bool BadPixelMemory::write(std::uint32_t serialNumber, LogOutput &log)
 bool BadPixelMemory::declare(std::uint32_t serialNumber, std::uint32_t column, std::uint32_t row, bool bad,
                              LogOutput &log)
 {
-    if (column >= sensorColumns || row >= sensorRows) {
+    if (column >= veltrix_sdk::sensorColumns || row >= veltrix_sdk::sensorRows) {
         return false;
     }
     if (!local) {

@@ -88,7 +88,8 @@ std::string formatBprFile(const BprFile &file)
         }
     }
     std::string bytes{magic};
-    for (const std::uint32_t number : {fileVersion, sensorColumns, sensorRows, file.serialNumber}) {
+    for (const std::uint32_t number :
+         {fileVersion, veltrix_sdk::sensorColumns, veltrix_sdk::sensorRows, file.serialNumber}) {
         appendNumber(bytes, number);
     }
     appendNumber(bytes, checksum(bytes, table));
@@ -107,7 +108,8 @@ std::variant<BprFile, std::string> parseBprFile(std::string_view bytes)
         return "its version is " + std::to_string(numberAt(bytes, versionOffset)) + " instead of " +
                std::to_string(fileVersion);
     }
-    if (numberAt(bytes, columnsOffset) != sensorColumns || numberAt(bytes, rowsOffset) != sensorRows) {
+    if (numberAt(bytes, columnsOffset) != veltrix_sdk::sensorColumns ||
+        numberAt(bytes, rowsOffset) != veltrix_sdk::sensorRows) {
         return "it is for a sensor of another size";
     }
     const std::string_view table = bytes.substr(tableOffset);

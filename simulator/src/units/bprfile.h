@@ -3,6 +3,8 @@
 // The file that a table of bad pixels is kept in.
 #pragma once
 
+#include "veltrix_sdk/numbers.h"
+
 #include <bitset>
 #include <cstddef>
 #include <cstdint>
@@ -13,11 +15,8 @@
 namespace veltrix_simulator
 {
 
-constexpr std::uint32_t sensorColumns{640};
-constexpr std::uint32_t sensorRows{480};
-
 /// One bit for each pixel of the sensor, row after row; set: the pixel is bad.
-using BprTable = std::bitset<std::size_t{sensorColumns} * sensorRows>;
+using BprTable = std::bitset<std::size_t{veltrix_sdk::sensorColumns} * veltrix_sdk::sensorRows>;
 
 struct BprFile
 {

@@ -3,7 +3,10 @@
 // Everything that the simulated devices and the configuration hold.
 #include "units/state.h"
 
+#include "veltrix_sdk/numbers.h"
+
 #include <algorithm>
+#include <iterator>
 #include <optional>
 #include <stdexcept>
 #include <variant>
@@ -24,11 +27,11 @@ struct CommunicationTypePlace
 using Place = std::variant<UnitPlace, ConfigurationField, Word, CommunicationTypePlace>;
 
 template <typename Table>
-const typename Table::value_type *findRow(const Table &table, std::string_view key)
+auto findRow(const Table &table, std::string_view key) -> decltype(&*std::begin(table))
 {
     const auto row =
-        std::find_if(table.begin(), table.end(), [&](const auto &each) { return each.key == key; });
-    return row == table.end() ? nullptr : &*row;
+        std::find_if(std::begin(table), std::end(table), [&](const auto &each) { return each.key == key; });
+    return row == std::end(table) ? nullptr : &*row;
 }
 
 /// The rest of the key when it begins with the prefix.
@@ -81,24 +84,6 @@ Kind kindOf(const Place &place)
 
 } // namespace
 
-std::pair<double, double> Allowed::interval(const Words &words) const
-{
-    return {minimumWord != nullptr ? words.*minimumWord : minimum,
-            maximumWord != nullptr ? words.*maximumWord : maximum};
-}
-
-bool Allowed::accepts(double number, const Words &words) const
-{
-    if (anything) {
-        return true;
-    }
-    if (listed != nullptr) {
-        return std::find(listed, listed + listLength, number) != listed + listLength;
-    }
-    const auto [lowest, highest] = interval(words);
-    return number >= lowest && number <= highest;
-}
-
 void State::reset()
 {
     target = 0;
@@ -117,7 +102,7 @@ void State::reset()
     units[1].badPixels.declareFactoryPixels();
     std::transform(configurationFields.begin(), configurationFields.end(), configuration.begin(),
                    [](const ConfigurationFieldRow &row) { return row.defaultValue; });
-    communicationType = "UART";
+    communicationType = veltrix_sdk::uartCommunication;
     words = {};
     for (const WordRow &row : configurationWords) {
         words.*row.word = row.defaultValue;
@@ -232,18 +217,27 @@ void State::setBaudRate(std::int32_t baudRate)
     baudRateIsChosen = true;
 }
 
-void State::put(Field field, double number)
+bool State::store(Field first, const NumberList &numbers)
 {
-    const UnitPlace place{static_cast<std::size_t>(target), field};
-    if (storesAreLost || !lost.empty()) {
-        const auto found = findLost(place);
-        if (storesAreLost && found == lost.end()) {
-            lost.push_back({place, (*this)[place]});
-        } else if (!storesAreLost && found != lost.end()) {
-            lost.erase(found);
+    for (std::size_t place{0}; place < numbers.size(); ++place) {
+        if (!rowOf(first + place).allowed.accepts(numbers[place], words)) {
+            return false;
         }
     }
-    (*this)[place] = number;
+    for (std::size_t place{0}; place < numbers.size(); ++place) {
+        put(first + place, numbers[place]);
+    }
+    return true;
+}
+
+void State::noteLost(const UnitPlace &place)
+{
+    const auto found = findLost(place);
+    if (storesAreLost && found == lost.end()) {
+        lost.push_back({place, (*this)[place]});
+    } else if (!storesAreLost && found != lost.end()) {
+        lost.erase(found);
+    }
 }
 
 std::vector<State::Lost>::iterator State::findLost(const UnitPlace &place)

@@ -3,10 +3,12 @@
 // Everything that the simulated devices and the configuration hold.
 #pragma once
 
-#include "scenarios/scenario.h"
 #include "units/badpixels.h"
 #include "units/configurationfields.h"
+#include "units/port.h"
 #include "units/unitfields.h"
+#include "values/numberlist.h"
+#include "values/value.h"
 
 #include <array>
 #include <optional>
@@ -47,25 +49,9 @@ public:
     /// The unit that the current target selects.
     Unit &addressed() { return units[static_cast<std::size_t>(target)]; }
 
-    /// Whether the addressed unit accepts the numbers for the fields from `first` on.
-    template <typename... Numbers>
-    bool accepts(Field first, Numbers... numbers) const
-    {
-        std::size_t place{0};
-        return (rowOf(first + place++).allowed.accepts(static_cast<double>(numbers), words) && ...);
-    }
-
-    /// Stores the numbers in the fields from `first` on, all or, when one is out of range, none.
-    template <typename... Numbers>
-    bool store(Field first, Numbers... numbers)
-    {
-        if (!accepts(first, numbers...)) {
-            return false;
-        }
-        std::size_t place{0};
-        (put(first + place++, static_cast<double>(numbers)), ...);
-        return true;
-    }
+    /// Stores the numbers in the fields from `first` on, all or, when the addressed unit does not accept one,
+    /// none.
+    bool store(Field first, const NumberList &numbers);
 
     double &operator[](ConfigurationField field) { return configuration[static_cast<std::size_t>(field)]; }
 
@@ -109,7 +95,16 @@ private:
     };
 
     /// Stores a number of the addressed unit, for good or not.
-    void put(Field field, double number);
+    void put(Field field, double number)
+    {
+        const UnitPlace place{static_cast<std::size_t>(target), field};
+        if (storesAreLost || !lost.empty()) {
+            noteLost(place);
+        }
+        (*this)[place] = number;
+    }
+    /// Remembers what the place held if the store is lost later; forgets it if the store is for good.
+    void noteLost(const UnitPlace &place);
     std::vector<Lost>::iterator findLost(const UnitPlace &place);
 
     std::vector<Lost> lost;

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// The faults that tests add, as rules.
-#include "faults/faults.h"
+// A fault that a test adds, as the simulator has its own.
+#include "faults/testfault.h"
 
 #include "operations/operations.h"
 
@@ -11,9 +11,9 @@
 namespace veltrix_simulator
 {
 
-Rule ruleOf(Fault fault)
+FaultRule ruleOf(Fault fault)
 {
-    Rule rule;
+    FaultRule rule;
     rule.from = fault.from;
     rule.times = fault.times;
     rule.leavesOutputs = fault.leavesOutputs;
@@ -23,7 +23,7 @@ Rule ruleOf(Fault fault)
                 "an answer belongs to one operation; every operation can only be refused"};
         }
         for (const Operation *const operation : operationsMatching("*")) {
-            rule.operations.emplace_back(operation->name);
+            rule.operations.push_back(operation->id);
         }
         return rule;
     }
@@ -39,7 +39,7 @@ Rule ruleOf(Fault fault)
         rule.effect = Effect::Answer;
         rule.answer = *std::move(fault.answer);
     }
-    rule.operations.push_back(std::move(fault.operation));
+    rule.operations.push_back(operation->id);
     return rule;
 }
 

@@ -1,65 +1,33 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// Whether a rule fits an operation.
-#include "faults/rules.h"
+// Whether a fault can be applied to an operation.
+#include "faults/applicability.h"
+
+#include "faults/effects.h"
+#include "values/value.h"
 
 #include <algorithm>
 #include <cstddef>
+#include <vector>
 
 namespace veltrix_simulator
 {
 namespace
 {
 
-bool isOfDevice(const Operation &operation)
-{
-    return operation.interface == Interface::Device;
-}
-
-bool answersSomething(const Operation &operation)
-{
-    return !operation.answer.empty();
-}
-
-bool readsNumbers(const Operation &operation)
-{
-    return readsValues(operation) && operation.answer.front() != Kind::Text;
-}
-
-/// What an effect asks of an operation, and how an author reads that it is not so.
-struct Demand
-{
-    Effect effect;
-    bool (*isMet)(const Operation &operation);
-    const char *otherwise;
-};
-
-constexpr Demand demands[]{
-    {Effect::Refuse, answersSomething, "answers nothing, so it cannot refuse"},
-    {Effect::Stuck, isCommand, "changes nothing of a unit, so nothing can be stuck"},
-    {Effect::Wrong, readsNumbers, "reads no number, so nothing that it reads can be wrong"},
-    {Effect::Garbage, answersSomething, "answers nothing, so it cannot answer garbage"},
-    {Effect::Late, isOfDevice, "is no operation of the device, and only those can be late"},
-    {Effect::LostOnPowerCycle, storesValues, "sets no value of a unit, so nothing can be lost"},
-    {Effect::CableOut, isOfDevice, "is no operation of the device, and only those use the cable"},
-};
-
 std::string inQuotes(const Operation &operation)
 {
     return '"' + std::string{operation.name} + '"';
 }
 
-std::string objectionToEffect(const Rule &rule, const Operation &operation)
+std::string reasonInEffect(const FaultRule &rule, const Operation &operation)
 {
-    for (const Demand &demand : demands) {
-        if (demand.effect == rule.effect && !demand.isMet(operation)) {
-            return inQuotes(operation) + ' ' + demand.otherwise;
-        }
-    }
-    return {};
+    const EffectRow &row = rowOf(rule.effect);
+    return row.fits == nullptr || row.fits(operation) ? std::string{}
+                                                      : inQuotes(operation) + ' ' + row.misfit;
 }
 
-std::string objectionToAnswer(const Rule &rule, const Operation &operation)
+std::string reasonInAnswer(const FaultRule &rule, const Operation &operation)
 {
     const std::vector<Value> &answer = rule.answer;
     const std::size_t expected{rule.leavesOutputs ? std::min<std::size_t>(operation.answer.size(), 1)
@@ -77,7 +45,7 @@ std::string objectionToAnswer(const Rule &rule, const Operation &operation)
     return {};
 }
 
-std::string objectionToArgument(const ArgumentRange &argument, const Operation &operation)
+std::string reasonInArgument(const ArgumentRange &argument, const Operation &operation)
 {
     const std::size_t count{operation.arguments.size()};
     if (argument.place >= count) {
@@ -102,30 +70,27 @@ std::string objectionToArgument(const ArgumentRange &argument, const Operation &
     return {};
 }
 
-std::string objectionToTrigger(const Rule &rule, const Operation &operation)
+std::string reasonInTrigger(const FaultRule &rule, const Operation &operation)
 {
-    if (rule.target && !isOfDevice(operation)) {
+    if (rule.target && operation.interface != Interface::Device) {
         return inQuotes(operation) + " is no operation of the device, and only those address a unit";
     }
     if (rule.target && *rule.target != 0 && *rule.target != 1) {
         return "there is no unit " + std::to_string(*rule.target) + ", only 0 and 1";
     }
-    if (!rule.after.empty() && findOperation(rule.after) == nullptr) {
-        return "the contract has no operation \"" + rule.after + '"';
-    }
     if (!(rule.probability >= 0 && rule.probability <= 1)) {
         return "a probability goes from 0 to 1";
     }
-    return rule.argument ? objectionToArgument(*rule.argument, operation) : std::string{};
+    return rule.argument ? reasonInArgument(*rule.argument, operation) : std::string{};
 }
 
 } // namespace
 
-std::string objection(const Rule &rule, const Operation &operation)
+std::string reasonAgainst(const FaultRule &rule, const Operation &operation)
 {
-    std::string found = rule.effect == Effect::Answer ? objectionToAnswer(rule, operation)
-                                                      : objectionToEffect(rule, operation);
-    return found.empty() ? objectionToTrigger(rule, operation) : found;
+    const std::string reason =
+        rule.effect == Effect::Answer ? reasonInAnswer(rule, operation) : reasonInEffect(rule, operation);
+    return reason.empty() ? reasonInTrigger(rule, operation) : reason;
 }
 
 } // namespace veltrix_simulator

@@ -1,0 +1,160 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The way that every call of the contract goes.
+#include "calls/callpath.h"
+
+#include "calls/journaltext.h"
+#include "calls/traceline.h"
+#include "faults/alteredstate.h"
+#include "faults/effects.h"
+#include "values/value.h"
+
+#include <chrono>
+#include <variant>
+
+namespace veltrix_simulator
+{
+namespace
+{
+
+constexpr std::ptrdiff_t journalCapacity{200'000};
+
+/// Hands out the values of an answer one after the other.
+class AnswerReader
+{
+public:
+    explicit AnswerReader(const std::vector<Value> &itsAnswer) : answer{itsAnswer} {}
+
+    const Value &next() { return answer[place++]; }
+
+    void fill(const NumbersAt &numbers)
+    {
+        for (const Member &member : numbers.members()) {
+            numbers.set(member, toNumber(next()));
+        }
+    }
+
+private:
+    const std::vector<Value> &answer;
+    std::size_t place{0};
+};
+
+} // namespace
+
+void CallPath::start(const Scenario &scenario)
+{
+    journal.clear();
+    journalEnabled = true;
+    callsWhileNotOpen = 0;
+    link = LinkTime{scenario.link, scenario.seed};
+    unitTime = UnitTime{scenario.life};
+    faults.start(scenario.seed);
+    for (const FaultRule &fault : scenario.faults) {
+        faults.add(fault);
+    }
+}
+
+void CallPath::pass(OperationId operation, Parameters parameters, const ResultPlace &result, const Work &work)
+{
+    const int target{state.target};
+    const CallTime begun{trace.isOn() ? CallTime::now() : CallTime{}};
+    const bool isOfDevice{nameOf(operation).interface == Interface::Device};
+    const bool isOpen{!isOfDevice || state.deviceOpen};
+    const bool isAnswered{isOpen && (!isOfDevice || deviceAnswers())};
+    callsWhileNotOpen += isOpen ? 0 : 1;
+
+    std::optional<PlannedEffect> planned;
+    if (isAnswered && !faults.isEmpty()) {
+        planned = plan(operation, parameters);
+    }
+    if (isOfDevice && isOpen) {
+        letTimePass();
+    }
+    const bool isAllThere{prepare(parameters, planned && planned->leavesOutputs)};
+    if (isAnswered && isAllThere) {
+        if (planned) {
+            workUnder(*planned, parameters, result, work);
+        } else {
+            work();
+        }
+    }
+
+    if (journalEnabled) {
+        keepInJournal(operation, target, isOpen, parameters, result);
+    }
+    if (trace.isOn()) {
+        writeToTrace(operation, target, isOpen, parameters, result, begun);
+    }
+}
+
+void CallPath::workUnder(const PlannedEffect &planned, Parameters parameters, const ResultPlace &result,
+                         const Work &work)
+{
+    if (planned.answer) {
+        answer(planned, parameters, result);
+    } else if (rowOf(planned.effect).works) {
+        const AlteredState altered{state, planned};
+        work();
+    }
+}
+
+void CallPath::passTime()
+{
+    const std::chrono::microseconds onLink = link.next(state.linkBaudRate());
+    pause(onLink);
+    unitTime.pass(onLink, state);
+}
+
+std::optional<PlannedEffect> CallPath::plan(OperationId operation, Parameters parameters)
+{
+    std::optional<PlannedEffect> planned = faults.match(operation, state.target, numbersOf(parameters));
+    if (planned) {
+        if (const auto strike = rowOf(planned->effect).strike) {
+            strike(state);
+        }
+    }
+    return planned;
+}
+
+void CallPath::answer(const PlannedEffect &planned, Parameters parameters, const ResultPlace &result)
+{
+    AnswerReader reader{*planned.answer};
+    if (const auto *const numbers = std::get_if<NumbersAt>(&result.content())) {
+        reader.fill(*numbers);
+    } else if (const auto *const text = std::get_if<ResultPlace::Text>(&result.content())) {
+        heldText = std::get<std::string>(reader.next());
+        *text->place = heldText.c_str();
+    } else if (const auto *const object = std::get_if<ResultPlace::Object>(&result.content())) {
+        object->write(object->place, std::get<bool>(reader.next()) ? &objects : nullptr);
+    }
+    if (planned.leavesOutputs) {
+        return;
+    }
+    for (const Parameter &parameter : parameters) {
+        if (const NumbersAt *const filled = parameter.filledMemory()) {
+            reader.fill(*filled);
+        }
+    }
+}
+
+void CallPath::keepInJournal(OperationId operation, int target, bool isOpen, Parameters parameters,
+                             const ResultPlace &result)
+{
+    // A program that runs for days never takes its journal.
+    if (static_cast<std::ptrdiff_t>(journal.size()) >= journalCapacity) {
+        journal.erase(journal.begin(), journal.begin() + journalCapacity / 2);
+    }
+    const OperationName &name = nameOf(operation);
+    writeJournalText(line, name.name, isOpen, objects, parameters, result);
+    journal.push_back({name.interface, std::string{name.name}, target, line});
+}
+
+void CallPath::writeToTrace(OperationId operation, int target, bool isOpen, Parameters parameters,
+                            const ResultPlace &result, const CallTime &begun)
+{
+    const OperationName &name = nameOf(operation);
+    writeTraceLine(line, begun, {name.interface, name.name, target, isOpen}, objects, parameters, result);
+    trace.write(line);
+}
+
+} // namespace veltrix_simulator

@@ -1,0 +1,146 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The way that every call of the contract goes.
+#pragma once
+
+#include "calls/objects.h"
+#include "calls/parameter.h"
+#include "calls/trace.h"
+#include "calls/traceline.h"
+#include "faults/activefaults.h"
+#include "faults/plannedeffect.h"
+#include "operations/operations.h"
+#include "scenarios/scenario.h"
+#include "time/life.h"
+#include "time/link.h"
+#include "units/state.h"
+#include "veltrix_simulator/simulator.h"
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+namespace veltrix_simulator
+{
+
+/// The work of one call: a function object that lives as long as the call.
+class Work
+{
+public:
+    template <typename Function>
+    explicit Work(const Function &itsFunction)
+        : function{&itsFunction}, run{[](const void *called) {
+              (*static_cast<const Function *>(called))();
+          }}
+    {}
+
+    void operator()() const { run(function); }
+
+private:
+    const void *function;
+    void (*run)(const void *called);
+};
+
+/// Counts the calls, lets the time of the link and of the units pass, applies the faults, keeps the journal
+/// and writes the trace, for all operations alike.
+class CallPath
+{
+public:
+    CallPath(State &itsState, const Objects &itsObjects) : state{itsState}, objects{itsObjects} {}
+
+    /// Power-on: an empty journal, switched on, and the scenario's link, life and faults. Throws
+    /// std::invalid_argument when one of them cannot be played.
+    void start(const Scenario &scenario);
+
+    /// Runs one operation, whose parameters are given in its own order. The work runs only when the call
+    /// reaches what it was made on, nothing that it reads or fills in is missing, and no fault is in the way.
+    /// What it has to fill in is zero before.
+    template <typename Function>
+    std::invoke_result_t<const Function &> call(OperationId operation, Parameters parameters,
+                                                const Function &work)
+    {
+        using Result = std::invoke_result_t<const Function &>;
+        // The short way of a call that nothing can happen to, so that a program measured on the simulator is
+        // measured alone.
+        if (goesTheShortWay() && prepare(parameters, false)) {
+            return work();
+        }
+        if constexpr (std::is_void_v<Result>) {
+            pass(operation, parameters, ResultPlace{}, Work{work});
+        } else {
+            Result result{zero<Result>()};
+            const auto answer = [&] {
+                result = work();
+            };
+            pass(operation, parameters, ResultPlace{&result}, Work{answer});
+            return result;
+        }
+    }
+
+    /// Whether calls of the device wait or make the units' values go on.
+    bool takesTime() const { return link.passes() || unitTime.passes(); }
+
+    std::vector<Call> journal;
+    bool journalEnabled{true};
+    std::size_t callsWhileNotOpen{0};
+    ActiveFaults faults;
+    Trace trace;
+
+private:
+    void pass(OperationId operation, Parameters parameters, const ResultPlace &result, const Work &work);
+
+    /// Whether a call is neither kept nor written, waited for or hit by a fault, whatever it is made on.
+    bool goesTheShortWay() const
+    {
+        return !journalEnabled && !trace.isOn() && faults.isEmpty() && !takesTime() && state.deviceOpen &&
+               deviceAnswers();
+    }
+
+    /// Whether the device that is open takes part in what goes over the link.
+    bool deviceAnswers() const { return !state.cableOut && !state.silent; }
+
+    /// Lets the time of a device call pass. Without a cable the driver gives up at once.
+    void letTimePass()
+    {
+        if (!state.cableOut && takesTime()) {
+            passTime();
+        }
+    }
+    void passTime();
+
+    /// What the faults make of a call.
+    std::optional<PlannedEffect> plan(OperationId operation, Parameters parameters);
+
+    /// Does what a fault makes of the work.
+    void workUnder(const PlannedEffect &planned, Parameters parameters, const ResultPlace &result,
+                   const Work &work);
+    /// Puts the values of an effect's answer into the result and into what the call fills in.
+    void answer(const PlannedEffect &planned, Parameters parameters, const ResultPlace &result);
+
+    void keepInJournal(OperationId operation, int target, bool isOpen, Parameters parameters,
+                       const ResultPlace &result);
+    void writeToTrace(OperationId operation, int target, bool isOpen, Parameters parameters,
+                      const ResultPlace &result, const CallTime &begun);
+
+    /// A refused text is empty, not null: its callers read it without asking.
+    template <typename Result>
+    static Result zero()
+    {
+        if constexpr (std::is_same_v<Result, const char *>) {
+            return "";
+        } else {
+            return Result{};
+        }
+    }
+
+    State &state;
+    const Objects objects;
+    LinkTime link{{}, 0};
+    UnitTime unitTime{{}};
+    std::string line;     ///< Text of the latest call; kept for its storage.
+    std::string heldText; ///< Text that the latest answer handed out.
+};
+
+} // namespace veltrix_simulator

@@ -1,0 +1,102 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// One call as the journal's line.
+#include "calls/journaltext.h"
+
+#include "calls/callwriter.h"
+
+#include <cstddef>
+
+namespace veltrix_simulator
+{
+namespace
+{
+
+/// The form of the journal.
+class JournalForm
+{
+public:
+    explicit JournalForm(std::string &itsLine) : line{itsLine} {}
+
+    template <typename T>
+    void argument(const T &value)
+    {
+        if (line.back() != '(') {
+            line.append(", ");
+        }
+        append(value);
+    }
+
+    void endArguments() { line.push_back(')'); }
+
+    template <typename T>
+    void result(const T &value)
+    {
+        line.append(" -> ");
+        append(value);
+    }
+
+    void output(const char *name, const Number &number)
+    {
+        line.append(" {").append(name).push_back('=');
+        append(number);
+        line.push_back('}');
+    }
+
+    void output(const NumbersAt &record)
+    {
+        line.push_back(' ');
+        append(record);
+    }
+
+private:
+    void append(std::nullptr_t) { line.append("null"); }
+
+    void append(const Number &number)
+    {
+        if (number.kind == Kind::Boolean) {
+            line.append(number.value != 0.0 ? "true" : "false");
+        } else {
+            appendNumber(line, number);
+        }
+    }
+
+    void append(std::string_view text)
+    {
+        line.push_back('"');
+        for (const char character : text) {
+            if (character == '"' || character == '\\' || character == '\n') {
+                line.push_back('\\');
+            }
+            line.push_back(character == '\n' ? 'n' : character);
+        }
+        line.push_back('"');
+    }
+
+    void append(const ObjectName &object) { line.append(object.text); }
+
+    void append(const NumbersAt &record)
+    {
+        const char *separator{"{"};
+        for (const Member &member : record.members()) {
+            line.append(separator).append(member.name).push_back('=');
+            append(Number{member.kind, record.at(member)});
+            separator = ", ";
+        }
+        line.push_back('}');
+    }
+
+    std::string &line;
+};
+
+} // namespace
+
+void writeJournalText(std::string &line, std::string_view operation, bool isOpen, const Objects &objects,
+                      Parameters parameters, const ResultPlace &result)
+{
+    line.assign(isOpen ? "" : "NOT OPEN: ").append(operation).push_back('(');
+    JournalForm form{line};
+    CallWriter{form, objects}.write(parameters, result);
+}
+
+} // namespace veltrix_simulator

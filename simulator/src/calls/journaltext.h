@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// One call as the journal's line.
+#pragma once
+
+#include "calls/objects.h"
+#include "calls/parameter.h"
+
+#include <string>
+#include <string_view>
+
+namespace veltrix_simulator
+{
+
+/// Makes the line of one call, such as `getVideoMode() -> true {mode=2}`; `NOT OPEN: ` stands before a call
+/// of a device that is not open.
+void writeJournalText(std::string &line, std::string_view operation, bool isOpen, const Objects &objects,
+                      Parameters parameters, const ResultPlace &result);
+
+} // namespace veltrix_simulator

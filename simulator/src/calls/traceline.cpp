@@ -1,0 +1,125 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// One call as a line of the trace.
+#include "calls/traceline.h"
+
+#include "calls/callwriter.h"
+#include "output/clock.h"
+
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <nlohmann/json.hpp>
+
+namespace veltrix_simulator
+{
+namespace
+{
+
+// In the order of Interface.
+constexpr std::array<const char *, 5> interfaceNames{"root", "configuration", "manager", "device", "log"};
+
+/// The form of the trace.
+class TraceForm
+{
+public:
+    explicit TraceForm(std::string &itsLine) : line{itsLine} {}
+
+    template <typename T>
+    void argument(const T &value)
+    {
+        if (line.back() != '[') {
+            line.push_back(',');
+        }
+        append(value);
+    }
+
+    void endArguments() { line.push_back(']'); }
+
+    template <typename T>
+    void result(const T &value)
+    {
+        line.append(R"(,"result":)");
+        append(value);
+    }
+
+    void output(const char *name, const Number &number)
+    {
+        line.append(hasOutputs ? "," : R"(,"outputs":{)");
+        hasOutputs = true;
+        appendMember(name, number);
+    }
+
+    void output(const NumbersAt &record)
+    {
+        for (const Member &member : record.members()) {
+            output(member.name, {member.kind, record.at(member)});
+        }
+    }
+
+    void end() { line.append(hasOutputs ? "}}\n" : "}\n"); }
+
+private:
+    void append(std::nullptr_t) { line.append("null"); }
+
+    void append(const Number &number)
+    {
+        if (number.kind == Kind::Boolean) {
+            line.append(number.value != 0.0 ? "true" : "false");
+        } else if (std::isfinite(number.value)) {
+            appendNumber(line, number);
+        } else {
+            line.append(std::isnan(number.value) ? R"("nan")" : number.value > 0 ? R"("inf")" : R"("-inf")");
+        }
+    }
+
+    void append(std::string_view text) { appendJsonText(line, text); }
+
+    void append(const ObjectName &object) { appendJsonText(line, object.text); }
+
+    void append(const NumbersAt &record)
+    {
+        char separator{'{'};
+        for (const Member &member : record.members()) {
+            line.push_back(separator);
+            appendMember(member.name, {member.kind, record.at(member)});
+            separator = ',';
+        }
+        line.push_back('}');
+    }
+
+    void appendMember(const char *name, const Number &number)
+    {
+        line.append(1, '"').append(name).append("\":");
+        append(number);
+    }
+
+    std::string &line;
+    bool hasOutputs{false};
+};
+
+} // namespace
+
+void appendJsonText(std::string &line, std::string_view text)
+{
+    using nlohmann::json;
+    line.append(json(text).dump(-1, ' ', false, json::error_handler_t::replace));
+}
+
+void writeTraceLine(std::string &line, const CallTime &begun, const CallOrigin &origin,
+                    const Objects &objects, Parameters parameters, const ResultPlace &result)
+{
+    using namespace std::chrono;
+    const auto took = duration_cast<microseconds>(steady_clock::now() - begun.steady);
+    line.assign(R"({"time":")").append(formatTime(begun.timeOfDay, Precision::Microseconds));
+    line.append(R"(","microseconds":)").append(std::to_string(took.count()));
+    line.append(R"(,"interface":")").append(interfaceNames[static_cast<std::size_t>(origin.interface)]);
+    line.append(R"(","target":)").append(std::to_string(origin.target));
+    line.append(R"(,"operation":")").append(origin.operation);
+    line.append(origin.isOpen ? R"(","arguments":[)" : R"(","notOpen":true,"arguments":[)");
+    TraceForm form{line};
+    CallWriter{form, objects}.write(parameters, result);
+    form.end();
+}
+
+} // namespace veltrix_simulator

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The simulated root of the SDK.
+#include "contract/sdkroot.h"
+
+namespace veltrix_simulator
+{
+
+bool SimulatedSdk::initialize()
+{
+    const auto bringUp = [&] {
+        log.write(veltrix_sdk::severity_trace, "Simulated SDK ready");
+        return true;
+    };
+    return path.call(OperationId::initialize, {}, bringUp);
+}
+
+veltrix_sdk::ISdkConfiguration *SimulatedSdk::getConfiguration()
+{
+    return path.call(OperationId::getConfiguration, {}, [&] { return &configuration; });
+}
+
+veltrix_sdk::IDeviceManager *SimulatedSdk::getDeviceManager()
+{
+    return path.call(OperationId::getDeviceManager, {}, [&] { return &manager; });
+}
+
+// The caller's pointer stays as it is: setting it to null is the caller's business.
+void SimulatedSdk::releaseDeviceManager(veltrix_sdk::IDeviceManager **released)
+{
+    const ObjectPointer named{released != nullptr ? *released : nullptr};
+    path.call(OperationId::releaseDeviceManager, {named}, [] {});
+}
+
+} // namespace veltrix_simulator

@@ -1,0 +1,141 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// What the device operations are made of: reads and writes of the addressed unit's state.
+#include "contract/unitaccess.h"
+
+namespace veltrix_simulator
+{
+namespace
+{
+
+constexpr std::size_t fieldsOfRegion{Field::roi1X1 - Field::roi0X1};
+static_assert(Field::roi2X1 - Field::roi1X1 == fieldsOfRegion &&
+              Field::roi3X1 - Field::roi2X1 == fieldsOfRegion);
+
+constexpr std::size_t fieldsOfWarp{membersOf<veltrix_sdk::Warp>().count};
+
+bool isWarpStream(std::int32_t stream)
+{
+    return stream >= 0 && stream < veltrix_sdk::warpStreamCount;
+}
+
+Field warpField(std::int32_t stream)
+{
+    return Field::warp0A11 + static_cast<std::size_t>(stream) * fieldsOfWarp;
+}
+
+} // namespace
+
+void UnitAccess::load(Field first, const NumbersAt &destination)
+{
+    std::size_t place{0};
+    for (const Member &member : destination.members()) {
+        destination.set(member, unit()[first + place++]);
+    }
+}
+
+bool UnitAccess::set(OperationId operation, Field first, Parameters parameters)
+{
+    return call(operation, parameters, [&] { return state.store(first, numbersOf(parameters)); });
+}
+
+bool UnitAccess::configureEdge(OperationId operation, Parameters parameters)
+{
+    return call(operation, parameters, [&] {
+        NumberList numbers = numbersOf(parameters);
+        // The camera derives the second threshold from the first, which is the last number of the call.
+        numbers.append(numbers[numbers.size() - 1] + veltrix_sdk::edgeThresholdDistance);
+        return state.store(Field::edgeType, numbers);
+    });
+}
+
+veltrix_sdk::EdgeCorrection UnitAccess::getEdge(OperationId operation)
+{
+    return call(operation, {}, [&] {
+        veltrix_sdk::EdgeCorrection correction{};
+        load(Field::edgeType, NumbersAt{&correction});
+        return correction;
+    });
+}
+
+std::uint32_t UnitAccess::getRoi(OperationId operation, RoiCoordinate coordinate, std::uint32_t region)
+{
+    return call(operation, {region}, [&] {
+        const Field first{Field::roi0X1 + static_cast<std::size_t>(coordinate)};
+        return region < veltrix_sdk::regionCount
+                   ? static_cast<std::uint32_t>(unit()[first + region * fieldsOfRegion])
+                   : 0;
+    });
+}
+
+bool UnitAccess::setRoi(OperationId operation, RoiCoordinate coordinate, std::int32_t region,
+                        Parameters parameters)
+{
+    return call(operation, parameters, [&] {
+        const auto number = static_cast<std::uint32_t>(region);
+        const NumberList numbers = numbersOf(parameters);
+        const Field first{Field::roi0X1 + static_cast<std::size_t>(coordinate)};
+        return number < veltrix_sdk::regionCount &&
+               state.store(first + number * fieldsOfRegion, numbers.part(0, 1)) &&
+               state.store(Field::roi1IncEnabled, numbers.from(2));
+    });
+}
+
+bool UnitAccess::setWarpOf(OperationId operation, std::int32_t stream, Parameters parameters)
+{
+    return call(operation, parameters, [&] {
+        return isWarpStream(stream) && state.store(warpField(stream), numbersOf(parameters).from(1));
+    });
+}
+
+bool UnitAccess::getWarpOf(OperationId operation, veltrix_sdk::Warp *warp)
+{
+    return call(operation, {warp}, [&] {
+        const bool known{isWarpStream(warp->stream)};
+        if (known) {
+            load(warpField(warp->stream), NumbersAt{warp});
+        }
+        return known;
+    });
+}
+
+bool UnitAccess::select(OperationId operation, std::int32_t target)
+{
+    return call(operation, {target}, [&] {
+        const bool known{target == veltrix_sdk::targetBlendUnit || target == veltrix_sdk::targetCamera};
+        state.target = known ? target : state.target;
+        return known;
+    });
+}
+
+bool UnitAccess::transferBpr(OperationId operation, std::uint32_t first, std::uint32_t second,
+                             std::uint8_t code, std::uint8_t expectedCode,
+                             bool (BadPixelMemory::*transfer)(std::uint32_t, LogOutput &))
+{
+    return call(operation, {first, second, code}, [&] {
+        return first == veltrix_sdk::bprFirstNumber && second == veltrix_sdk::bprSecondNumber &&
+               code == expectedCode && (badPixels().*transfer)(serialNumber(), log);
+    });
+}
+
+bool UnitAccess::declare(OperationId operation, std::uint32_t column, std::uint32_t row, bool bad)
+{
+    return call(operation, {column, row},
+                [&] { return badPixels().declare(serialNumber(), column, row, bad, log); });
+}
+
+bool UnitAccess::save(OperationId operation, std::uint8_t kind)
+{
+    return call(operation, {kind}, [&] {
+        switch (kind) {
+        case veltrix_sdk::saveUserParameters:
+            return memory.save(state, Saved::User, log) && count(Field::userSaves);
+        case veltrix_sdk::saveExpertParameters:
+            return memory.save(state, Saved::Expert, log) && count(Field::expertSaves);
+        default:
+            return false;
+        }
+    });
+}
+
+} // namespace veltrix_simulator

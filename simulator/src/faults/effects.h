@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The effects of faults, one row each: which operations they fit, and what they do to a call.
+#pragma once
+
+#include "faults/faultrule.h"
+#include "faults/plannedeffect.h"
+#include "faults/wrongvalues.h"
+#include "operations/operations.h"
+#include "units/state.h"
+
+#include <array>
+#include <optional>
+#include <string_view>
+
+namespace veltrix_simulator
+{
+
+/// What an effect changes before the work of a call, and takes back after it.
+struct Alterations
+{
+    State &state;
+    std::optional<WrongValues> wrongValues;
+};
+
+struct EffectRow
+{
+    Effect id;
+    std::string_view name;      ///< In a scenario.
+    std::string_view neededKey; ///< A key without which a fault of this effect says too little; empty: none.
+    /// Whether the effect can happen to the operation; null: to every one.
+    bool (*fits)(const Operation &operation);
+    const char *misfit; ///< What an author reads behind the name of an operation that it cannot happen to.
+    bool works;         ///< The call does its work all the same.
+    /// Settles what the call answers in place of its work; null: zeros.
+    void (*answer)(PlannedEffect &planned, const FaultRule &rule, const Operation &operation);
+    /// Changes the state as soon as the call is hit, before its time passes; null: nothing.
+    void (*strike)(State &state);
+    /// Changes what the work of the call meets; null: nothing.
+    void (*alter)(Alterations &alterations, const PlannedEffect &planned);
+};
+
+/// The rows, in the order of Effect.
+const std::array<EffectRow, 8> &effectRows();
+
+inline const EffectRow &rowOf(Effect effect)
+{
+    return effectRows()[static_cast<std::size_t>(effect)];
+}
+
+} // namespace veltrix_simulator

@@ -1,0 +1,125 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The members of the contract's records: what each is called, what it is, and which field of a unit holds it.
+#pragma once
+
+#include "units/unitfields.h"
+#include "values/value.h"
+#include "veltrix_sdk/records.h"
+
+#include <cstddef>
+#include <iterator>
+
+namespace veltrix_simulator
+{
+
+/// Its address stands for the type of a record.
+template <typename Record>
+inline constexpr char recordTag{};
+
+/// One member of a record.
+struct Member
+{
+    const char *name; ///< As the journal shows it; null for a number that is no member.
+    Kind kind;
+    std::size_t offset; ///< Bytes.
+    std::size_t size;   ///< Bytes.
+    const char *record; ///< The recordTag of its record.
+    Field field;        ///< What holds it.
+};
+
+/// The members of all records, in the order of unitFields. Those of Warp stand there once for each stream.
+inline constexpr Member recordMembers[]{
+#define VALUE(...)
+#define MEMBER(name, group, record, member, ...)                                                             \
+    {#member,                                                                                                \
+     kindOf<decltype(veltrix_sdk::record::member)>(),                                                        \
+     offsetof(veltrix_sdk::record, member),                                                                  \
+     sizeof(veltrix_sdk::record::member),                                                                    \
+     &recordTag<veltrix_sdk::record>,                                                                        \
+     Field::name},
+#include "units/unitfields.inc"
+};
+
+/// Some members that follow each other.
+struct Members
+{
+    const Member *first;
+    std::size_t count;
+
+    constexpr const Member *begin() const { return first; }
+    constexpr const Member *end() const { return first + count; }
+};
+
+/// The members of a record; none for another type. The stream of Warp is not among them: the caller fills it
+/// in.
+template <typename Record>
+constexpr Members membersOf()
+{
+    Members members{nullptr, 0};
+    for (const Member &member : recordMembers) {
+        if (member.record == &recordTag<Record>) {
+            if (members.count > 0 && member.offset == members.first->offset) {
+                return members;
+            }
+            members = {members.count == 0 ? &member : members.first, members.count + 1};
+        }
+    }
+    return members;
+}
+
+/// Whether the contract exchanges this type as a record.
+template <typename T>
+inline constexpr bool isRecord = membersOf<T>().count > 0;
+
+/// Whether the members, from an offset on, are all that the record has, in its order, in fields that follow
+/// each other.
+template <typename Record>
+constexpr bool holdsAllOf(std::size_t offset)
+{
+    const Members members = membersOf<Record>();
+    Field next{members.first->field};
+    for (const Member &member : members) {
+        // The compiler aligns each number to its own size.
+        offset = (offset + member.size - 1) / member.size * member.size;
+        if (member.offset != offset || member.field != next) {
+            return false;
+        }
+        offset += member.size;
+        next = next + 1;
+    }
+    constexpr std::size_t alignment{alignof(Record)};
+    return (offset + alignment - 1) / alignment * alignment == sizeof(Record);
+}
+
+static_assert(holdsAllOf<veltrix_sdk::FirmwareVersions>(0));
+static_assert(holdsAllOf<veltrix_sdk::Temperatures>(0));
+static_assert(holdsAllOf<veltrix_sdk::OperatingInfo>(0));
+static_assert(holdsAllOf<veltrix_sdk::EdgeCorrection>(0));
+static_assert(holdsAllOf<veltrix_sdk::AhcGainLimitation>(0));
+static_assert(holdsAllOf<veltrix_sdk::ZoomConfig>(0));
+static_assert(holdsAllOf<veltrix_sdk::ZoomResolution>(0));
+static_assert(holdsAllOf<veltrix_sdk::VisibleAgc>(0));
+static_assert(holdsAllOf<veltrix_sdk::VisibleClhe>(0));
+static_assert(holdsAllOf<veltrix_sdk::Warp>(sizeof(veltrix_sdk::Warp::stream)));
+
+/// Whether every stream has the same members, so that the fields of one are found from those of another.
+constexpr bool warpStreamsAreAlike()
+{
+    const Members warp = membersOf<veltrix_sdk::Warp>();
+    std::size_t place{0};
+    for (const Member &member : recordMembers) {
+        if (member.record == warp.first->record) {
+            const Member &first = warp.first[place % warp.count];
+            if (member.offset != first.offset || member.field != warp.first->field + place) {
+                return false;
+            }
+            ++place;
+        }
+    }
+    return place == warp.count * veltrix_sdk::warpStreamCount;
+}
+
+static_assert(warpStreamsAreAlike());
+
+} // namespace veltrix_simulator

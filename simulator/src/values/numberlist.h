@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// A short list of numbers, such as those that a call brings.
+#pragma once
+
+#include <array>
+#include <cstddef>
+
+namespace veltrix_simulator
+{
+
+/// At most as many numbers as a call can bring: those of setWarp, a stream and six coefficients.
+class NumberList
+{
+public:
+    static constexpr std::size_t capacity{7};
+
+    /// What does not fit is left out.
+    void append(double number)
+    {
+        if (count < capacity) {
+            numbers[count++] = number;
+        }
+    }
+
+    /// The numbers from a place on.
+    NumberList from(std::size_t place) const { return part(place, count); }
+    /// The numbers from a place up to another one, which is not among them.
+    NumberList part(std::size_t place, std::size_t end) const
+    {
+        NumberList list;
+        for (; place < end && place < count; ++place) {
+            list.append(numbers[place]);
+        }
+        return list;
+    }
+
+    std::size_t size() const { return count; }
+    double operator[](std::size_t place) const { return numbers[place]; }
+    const double *begin() const { return numbers.data(); }
+    const double *end() const { return begin() + count; }
+
+private:
+    std::array<double, capacity> numbers; // Set as far as `count` says: a call is too short to clear them.
+    std::size_t count{0};
+};
+
+} // namespace veltrix_simulator
