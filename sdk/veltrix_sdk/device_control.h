@@ -87,7 +87,7 @@ public:
     virtual std::uint8_t getVideoOutput() = 0;            ///< 49
     /// 50: Permanent: kept over a power cycle.
     virtual bool setMavlinkBaudRate(std::int32_t baudRate, bool permanent) = 0;
-    /// 51:
+    /// 51: The type is an index, 0 to 2; gain and threshold are unscaled.
     virtual bool configureEdgeCorrection(std::uint8_t type, std::uint32_t gain, std::uint32_t threshold) = 0;
     virtual EdgeCorrection getEdgeCorrection() = 0; ///< 52
 
@@ -120,22 +120,23 @@ private:
     virtual void kept69() {}
 
 public:
-    /// 70: 4096, 16384, 9.
+    /// 70: Takes bprFirstNumber, bprSecondNumber and bprReadCode.
     virtual bool readBprTable(std::uint32_t first, std::uint32_t second, std::uint8_t code) = 0;
-    /// 71: 4096, 16384, 8.
+    /// 71: Takes bprFirstNumber, bprSecondNumber and bprWriteCode.
     virtual bool writeBprTable(std::uint32_t first, std::uint32_t second, std::uint8_t code) = 0;
     virtual bool addBadPixel(std::uint32_t column, std::uint32_t row) = 0;    ///< 72: 0 to 639, 0 to 479.
     virtual bool removeBadPixel(std::uint32_t column, std::uint32_t row) = 0; ///< 73: 0 to 639, 0 to 479.
     virtual bool setVideoMode(std::uint8_t mode) = 0;  ///< 74: 0 infrared, 1 visible, 2 fusion.
     virtual bool getVideoMode(std::uint8_t *mode) = 0; ///< 75
     virtual bool setTarget(std::int32_t target) = 0;   ///< 76: 0 the Blend Unit, 1 the camera.
-    /// 77:
+    /// 77: Percent each.
     virtual bool setVisibleAgc(std::int32_t target, std::uint8_t threshold,
                                std::uint8_t filterCoefficient) = 0;
-    virtual bool getVisibleAgc(VisibleAgc *agc) = 0;                                         ///< 78
-    virtual bool setVisibleClhe(std::int32_t threshold, std::uint8_t filterCoefficient) = 0; ///< 79
-    virtual bool getVisibleClhe(VisibleClhe *clhe) = 0;                                      ///< 80
-    /// 81: Column by column.
+    virtual bool getVisibleAgc(VisibleAgc *agc) = 0; ///< 78
+    /// 79: Threshold 0 to 65535, coefficient in percent.
+    virtual bool setVisibleClhe(std::int32_t threshold, std::uint8_t filterCoefficient) = 0;
+    virtual bool getVisibleClhe(VisibleClhe *clhe) = 0; ///< 80
+    /// 81: The matrix column by column, in whole numbers; 0 fusion, 1 visible, 2 infrared.
     virtual bool setWarp(std::int32_t stream, std::int32_t a11, std::int32_t a21, std::int32_t a12,
                          std::int32_t a22, std::int32_t a13, std::int32_t a23) = 0;
     virtual bool getWarp(Warp *warp) = 0; ///< 82: The caller fills in the stream.

@@ -15,7 +15,7 @@
 namespace veltrix_simulator
 {
 
-/// What answers a value comes from the rows of the values.
+/// The operations that answer a value are made from the rows of configurationfields.inc.
 class SimulatedConfiguration final : public veltrix_sdk::ISdkConfiguration
 {
 public:

@@ -68,8 +68,9 @@ protected:
     veltrix_sdk::EdgeCorrection getEdge(OperationId operation);
 
     std::uint32_t getRoi(OperationId operation, RoiCoordinate coordinate, std::uint32_t region);
-    /// The parameters are the pixels, the number of the region and the enables. Regions are stored by number:
-    /// what the setters call 1 the reader calls 1, whatever each means by it.
+    /// The parameters are the pixels, the number of the region and the enables. A region is stored under its
+    /// number. The getters give two numbers to other regions than the setters do; nothing translates between
+    /// them.
     bool setRoi(OperationId operation, RoiCoordinate coordinate, std::int32_t region, Parameters parameters);
 
     /// The parameters are the stream and its coefficients.

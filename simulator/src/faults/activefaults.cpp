@@ -15,8 +15,8 @@ namespace veltrix_simulator
 namespace
 {
 
-/// What the fault's draws are named after: what it is for, not where it stands, so that neither another fault
-/// nor a line more in the scenario changes them.
+/// Name of the random numbers of a fault. It says what the fault is for and not where it stands, so that
+/// another fault or one more line in the scenario does not change the numbers.
 std::string streamName(const FaultRule &rule)
 {
     std::string name{"rule"};
@@ -80,7 +80,7 @@ void ActiveFaults::add(FaultRule rule)
     rule.from = std::max<std::size_t>(rule.from, 1);
     rule.every = std::max<std::size_t>(rule.every, 1);
     std::string stream = streamName(rule);
-    // Faults that are equal draw differently all the same.
+    // Two equal faults get different random numbers.
     const auto isEqual = [&](const ActiveFault &earlier) {
         return streamName(earlier.rule) == stream;
     };

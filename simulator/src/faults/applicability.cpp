@@ -58,7 +58,7 @@ std::string reasonInArgument(const ArgumentRange &argument, const Operation &ope
         return "argument " + std::to_string(argument.place + 1) + " of " + inQuotes(operation) +
                " is a text, not a number";
     }
-    // Written so that NaN is no range.
+    // Negated, so that NaN is refused as well.
     if (!(argument.minimum <= argument.maximum)) {
         return "the range of the argument is empty";
     }

@@ -69,7 +69,7 @@ Value garbage(Kind kind, Random &random)
     case Kind::Signed32:
         return integerGarbage<std::int32_t>(random);
     case Kind::Float:
-        // Exact in a double, so that narrowing it again is defined.
+        // A float is exact in a double, so the cast back is defined.
         return static_cast<double>(floatingGarbage<float, std::uint32_t>(random));
     case Kind::Double:
         return floatingGarbage<double, std::uint64_t>(random);

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// A fault that a test adds, as the simulator has its own.
+// Makes a rule of the simulator out of a fault that a test adds.
 #include "faults/testfault.h"
 
 #include "operations/operations.h"
@@ -31,7 +31,7 @@ FaultRule ruleOf(Fault fault)
     if (operation == nullptr) {
         throw std::invalid_argument{"the contract has no operation \"" + fault.operation + '"'};
     }
-    // Where nothing is answered, to refuse is to do nothing, with nothing for an answer.
+    // An operation that answers nothing refuses by doing nothing: its answer has no values.
     if (!fault.answer && operation->answer.empty()) {
         fault.answer.emplace();
     }

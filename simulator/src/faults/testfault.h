@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// A fault that a test adds, as the simulator has its own.
+// Makes a rule of the simulator out of a fault that a test adds.
 #pragma once
 
 #include "faults/faultrule.h"

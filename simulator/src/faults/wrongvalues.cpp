@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// Values that are not the true ones and could be.
+// Wrong values that look like true ones.
 #include "faults/wrongvalues.h"
 
 #include <algorithm>
@@ -19,7 +19,7 @@ bool isFloating(Kind kind)
     return kind == Kind::Float || kind == Kind::Double;
 }
 
-/// Of a list or an interval; the actual number when it holds no other.
+/// Another number of the list or of the range; the actual number when there is no other.
 double otherInRange(double actual, Kind kind, const Allowed &allowed, const Words &words, Random &random)
 {
     if (allowed.listed != nullptr) {
@@ -36,13 +36,13 @@ double otherInRange(double actual, Kind kind, const Allowed &allowed, const Word
         return fitted(minimum + random.share() * (maximum - minimum), kind);
     }
     const auto span = static_cast<std::uint64_t>(maximum - minimum);
-    // Of all numbers but the actual one, which leaves one less to choose from.
+    // The actual number is left out, so there is one less to choose from.
     const bool isInside{actual >= minimum && actual <= maximum};
     const double drawn = minimum + static_cast<double>(random.below(span + (isInside ? 0 : 1)));
     return isInside && drawn >= actual ? drawn + 1 : drawn;
 }
 
-/// Up to a tenth more or less.
+/// A number that is at most a tenth larger or smaller.
 double neighbour(double actual, Kind kind, Random &random)
 {
     const double known = std::isfinite(actual) ? actual : 0;

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// Values that are not the true ones and could be.
+// Wrong values that look like true ones.
 #pragma once
 
 #include "units/state.h"
@@ -9,8 +9,8 @@
 namespace veltrix_simulator
 {
 
-/// Another number that the kind holds: within the range if there is one that holds another, else in the
-/// neighbourhood. A bool flips.
+/// Another number of the same kind: one that is allowed if there is another one, else one close to the actual
+/// number. A bool flips.
 double otherNumber(double actual, Kind kind, const Allowed &allowed, const Words &words, Random &random);
 
 /// While it lives, every value of the addressed unit and of the configuration is another one.

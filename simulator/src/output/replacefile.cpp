@@ -65,7 +65,8 @@ std::string temporaryNameFor(const std::string &name)
 std::optional<std::string> replaceFile(const std::string &name, std::string_view content)
 {
     const std::filesystem::path temporary{std::filesystem::u8path(temporaryNameFor(name))};
-    // The disk has the content before the name leads to it: else a power failure could leave an empty file.
+    // The content is on the disk before the file gets its name: else a power failure could leave an empty
+    // file.
     if (!write(temporary, content) || !flushToDisk(temporary)) {
         return "the file \"" + temporaryNameFor(name) + "\" cannot be written";
     }

@@ -105,7 +105,7 @@ std::string enumeration(const std::vector<std::string> &names)
 
 std::string nearest(std::string_view wrong, const std::vector<std::string> &known)
 {
-    // Beyond one wrong letter in three, one name is as good as another.
+    // With more than one wrong letter in three a name is not alike any more.
     std::size_t least{std::max<std::size_t>(wrong.size() / 3, 1) + 1};
     std::string found;
     for (const std::string &name : known) {

@@ -65,7 +65,7 @@ std::int64_t Entry::integer(std::int64_t minimum, std::int64_t maximum) const
 double Entry::number(double minimum, double maximum) const
 {
     const std::optional<double> number = node->is_number() ? node->value<double>() : std::optional<double>{};
-    // Written so that NaN is out of range.
+    // Negated, so that NaN is out of range.
     if (!number || !(*number >= minimum && *number <= maximum)) {
         fail("takes a number" + range(minimum, maximum));
     }
@@ -116,7 +116,7 @@ std::optional<Value> Entry::value() const
     if (const auto *const number = node->as_floating_point()) {
         return number->get();
     }
-    // A text ends for the program where the contract's texts end.
+    // Texts of the contract end at the first NUL, so none may stand inside one.
     if (const auto *const text = node->as_string();
         text != nullptr && text->get().find('\0') == std::string::npos) {
         return text->get();

@@ -17,8 +17,8 @@
 namespace veltrix_simulator
 {
 
-/// A key and what another key has to be for it: `answer` belongs to the effect "answer". A key may belong to
-/// several.
+/// A key that may stand only where another key has a certain value: `answer` belongs to the effect "answer".
+/// It may be listed with several values.
 struct Belonging
 {
     std::string_view key;
@@ -56,8 +56,8 @@ public:
     std::vector<Entry> entries() const;
     std::optional<Entry> find(std::string_view key) const;
 
-    /// What a table may not have: other keys than the known ones; a key without what it belongs to; two of
-    /// the keys of which there can be one.
+    /// Refuse what a table may not have: keys that are not known, keys that stand without the value that they
+    /// belong to, and two keys of which only one can stand.
     void refuseUnknown(const std::vector<std::string> &known) const;
     void refuseStrangers(std::string_view chooser, std::string_view chosen,
                          const std::vector<Belonging> &belongings) const;

@@ -28,11 +28,11 @@ bool isPath(std::string_view nameOrPath)
     return hasExtension || nameOrPath.find_first_of("/\\") != std::string_view::npos;
 }
 
-/// The bytes of a file, of a large one more than a scenario may have and not all; nothing when it cannot be
-/// read.
+/// The bytes of a file, of a file that is too large only a few more than are allowed; nothing when it cannot
+/// be read.
 std::optional<std::string> bytesOf(const std::string &path)
 {
-    // A pipe would keep the program waiting for ever.
+    // Reading a pipe could wait for ever.
     std::error_code error;
     if (!std::filesystem::is_regular_file(path, error)) {
         return std::nullopt;

@@ -18,11 +18,11 @@ namespace veltrix_simulator
 namespace
 {
 
-// Keys with dots nest as deeply as a line is long.
+// Each dot in a key is one more level, so the length of a line limits the depth.
 constexpr std::size_t longestLine{512};
 constexpr std::size_t mostEntries{256};
 
-// No call takes longer than a minute, even when all comes together.
+// All that a call waits for together stays below a minute.
 constexpr double longestPart{10'000};
 constexpr double longestOpening{60'000};
 constexpr double oneDay{86'400'000};
@@ -142,7 +142,7 @@ constexpr Setting<Drift> driftSettings[]{
      }},
 };
 
-/// Two lives of one value would work against each other.
+/// A value has at most one drift or one counter; two would work against each other.
 void refuseSecondLife(const Entry &key, const Life &life)
 {
     const auto livesBy = [name = key.text()](const auto &each) {
@@ -255,7 +255,7 @@ constexpr Setting<Scenario> scenarioSettings[]{
      }},
 };
 
-/// A life that never goes on would look like one that is very slow.
+/// Without time no value would ever change, and the author would wait for it in vain.
 void refuseLifeWithoutTime(const Entry &file, const Scenario &scenario)
 {
     const Life &life{scenario.life};
@@ -265,8 +265,8 @@ void refuseLifeWithoutTime(const Entry &file, const Scenario &scenario)
     }
 }
 
-/// What of the text does not even get to the parser.
-std::optional<ScenarioError> objectionToSize(std::string_view text, const std::string &fileName)
+/// Why a text is not even parsed: it is too large, or one of its lines is too long.
+std::optional<ScenarioError> sizeError(std::string_view text, const std::string &fileName)
 {
     if (text.size() > largestScenario) {
         return ScenarioError{fileName, 1, 1, {}, "a scenario is not larger than 256 KiB"};
@@ -295,7 +295,7 @@ std::string ScenarioError::message() const
 
 std::variant<Scenario, ScenarioError> readScenario(std::string_view text, const std::string &fileName)
 {
-    if (std::optional<ScenarioError> error = objectionToSize(text, fileName)) {
+    if (std::optional<ScenarioError> error = sizeError(text, fileName)) {
         return *std::move(error);
     }
     const std::variant<toml::table, TomlError> parsed = parseToml(text);

@@ -30,8 +30,8 @@ struct ScenarioError
     std::string message() const;
 };
 
-/// What the text of a scenario file says. Takes any bytes, and looks at nothing but them. The name of the
-/// file is for messages and for what rules say of their origin.
+/// What the text of a scenario file says. The text may be any bytes; nothing else is looked at. The name of
+/// the file is for messages and for what rules say of their origin.
 std::variant<Scenario, ScenarioError> readScenario(std::string_view text, const std::string &fileName);
 
 /// All keys that a scenario file may have, such as "link.kind", but for those of the state.

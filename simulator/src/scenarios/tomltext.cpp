@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// The TOML parser, set up for what strangers may hand in.
+// The TOML parser, set up so that no text can crash it.
 #include "scenarios/tomltext.h"
 
 #include <algorithm>
@@ -11,7 +11,7 @@ namespace veltrix_simulator
 namespace
 {
 
-/// Thrown in the middle of the parser, which does not say where it was.
+/// Thrown from inside the parser; it does not say in which line.
 struct GivenUp
 {
 };
@@ -29,8 +29,8 @@ bool isGivenUp(std::string_view text)
     return false;
 }
 
-/// The line, counted from 1, in which the parser gives up on the text: it goes from the beginning to the end,
-/// so it gives up on every beginning that contains the line.
+/// The line, counted from 1, in which the parser gives up on the text. It reads from the start, so it gives
+/// up on every beginning of the text that contains this line.
 std::size_t lineOfGivingUp(std::string_view text)
 {
     std::vector<std::size_t> ends;

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// The TOML parser, set up for what strangers may hand in.
+// The TOML parser, set up so that no text can crash it.
 #pragma once
 
 #include <cstddef>
@@ -16,9 +16,9 @@ namespace veltrix_simulator
 
 } // namespace veltrix_simulator
 
-// Whole in our objects, so that the library stays one file. Values nest a little only, since what nests
-// deeply is parsed and freed by functions that call themselves. What the parser asserts does depend on the
-// text: the assertions have to hold in every build, and not by ending the process.
+// The parser is compiled into our objects, so that the library stays one file. It calls itself for each level
+// of values, so there may be only a few levels. Some texts make its assertions fail: they are checked in
+// every build, and must not end the process.
 #define TOML_HEADER_ONLY 1
 #define TOML_EXCEPTIONS 1
 #define TOML_ENABLE_FORMATTERS 0
@@ -27,8 +27,8 @@ namespace veltrix_simulator
 #pragma push_macro("NDEBUG")
 #undef NDEBUG
 #include <toml++/impl/preprocessor.h>
-// Letters such as the umlauts lead the functions that know white space to places that they take for
-// unreachable; no letter is white space.
+// The functions that look for white space take some letters, such as umlauts, to places marked as
+// unreachable. There the answer is that it is no white space.
 #pragma push_macro("TOML_UNREACHABLE")
 #undef TOML_UNREACHABLE
 #define TOML_UNREACHABLE return false

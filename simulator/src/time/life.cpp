@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// What the time that goes by does to the units.
+// How the values of the units change as time passes.
 #include "time/life.h"
 
 #include <algorithm>
@@ -15,7 +15,7 @@ namespace
 
 using std::chrono::microseconds;
 
-/// Far beyond what a unit lives, and short enough to be added up.
+/// Longer than any unit runs, and short enough to be added up without overflow.
 constexpr microseconds longestStep{std::chrono::hours{24 * 365 * 1000}};
 
 microseconds step(microseconds duration)

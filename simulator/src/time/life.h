@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// What the time that goes by does to the units.
+// How the values of the units change as time passes.
 #pragma once
 
 #include "units/state.h"
@@ -58,8 +58,8 @@ private:
         double end;
         double halfTime; ///< Microseconds.
         UnitPlace place;
-        double exact{0}; ///< Where it stands between two numbers that its kind holds.
-        double shown{0}; ///< What it was set to last; another number was set by somebody else.
+        double exact{0}; ///< The value before it is rounded to its kind.
+        double shown{0}; ///< What was set last. Another number in the unit has been set by a command.
         bool started{false};
     };
 

@@ -18,9 +18,9 @@ class Memory
 {
 public:
     /// Power-on: from now on the sets are kept in this file; those that are in it come back into the units.
-    /// An empty name: nothing is kept. A file that is not there holds nothing yet. Nothing, or a sentence
-    /// with what is wrong with the file and what helps; then the units stay as they are, nothing is
-    /// kept, and the file is never written.
+    /// An empty name: nothing is kept. A file that is not there holds nothing yet. Returns a sentence that
+    /// says what is wrong with the file and what helps, if something is; then the units stay as they are,
+    /// nothing is kept, and the file is never written.
     std::optional<std::string> restore(State &state, const std::string &name);
 
     /// Keeps a set of the addressed unit. False, with a warning in the log, when it could not be kept; what

@@ -26,7 +26,7 @@ constexpr std::string_view formatKey{"format"};
 constexpr std::array<std::string_view, 2> unitKeys{"blendUnit", "camera"};
 constexpr std::array<std::pair<std::string_view, Saved>, 2> setKeys{
     {{"user", Saved::User}, {"expert", Saved::Expert}}};
-// The file, a unit, a set.
+// Objects inside each other: the file, a unit, a set.
 constexpr int deepestNesting{3};
 
 constexpr std::size_t placeOf(const UnitField &row)

@@ -22,7 +22,7 @@ struct MemoryImage
     std::array<std::array<std::optional<double>, unitFields.size()>, 2> units{};
 };
 
-/// More bytes are no memory file.
+/// A larger file is refused.
 constexpr std::size_t largestMemoryFile{std::size_t{1} << 20};
 
 /// Whether a memory file can hold the number for a field: the unit accepts it or, where the configuration

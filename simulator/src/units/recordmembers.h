@@ -13,7 +13,7 @@
 namespace veltrix_simulator
 {
 
-/// Its address stands for the type of a record.
+/// The address of this constant identifies a record type.
 template <typename Record>
 inline constexpr char recordTag{};
 

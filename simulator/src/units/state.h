@@ -67,8 +67,8 @@ public:
     static UnitPlace placeOfNumber(std::string_view key);
     double &operator[](const UnitPlace &place) { return units[place.target][place.field]; }
 
-    /// Power comes back and the device is open: the Blend Unit is addressed, and what only seemed to be
-    /// kept is as it was.
+    /// Opens the device after a power cycle: the Blend Unit is addressed, and what a fault did not let the
+    /// units keep is as before.
     void open(bool isSilent);
 
     /// Bits per second of the link: what was set last, else the default.
@@ -87,7 +87,7 @@ public:
     veltrix_sdk::ConfigurationWords &words;
 
 private:
-    /// What a value was before the stores that do not last.
+    /// A value from before a store that does not outlast the power.
     struct Lost
     {
         UnitPlace place;

@@ -9,8 +9,9 @@
 namespace veltrix_simulator
 {
 
-/// A stream of numbers for one purpose: what other purposes draw does not shift it. The generator is
-/// SplitMix64, since the distributions of the standard library differ from one library to the next.
+/// Random numbers for one purpose. Each purpose has its own, so that drawing for one does not change another.
+/// The generator is SplitMix64, since the distributions of the standard library differ from one library to
+/// the next.
 class Random
 {
 public:

@@ -27,7 +27,7 @@ constexpr KindRow integerRow(std::string_view description)
     return {description, std::numeric_limits<T>::min(), std::numeric_limits<T>::max()};
 }
 
-// For the floating kinds the limits are those of the integers that lose nothing.
+// For Float and Double the limits are the largest integers that they hold exactly.
 constexpr std::array<KindRow, 9> kinds{{
     integerRow<bool>("true or false"),
     integerRow<std::uint8_t>("an integer from 0 to 255"),
