@@ -3,8 +3,16 @@
 // The simulated SDK as a whole: its root object and everything behind it.
 #include "simulation.h"
 
+#include "calls/trace.h"
+#include "faults/activefaults.h"
+#include "faults/faultrule.h"
+#include "operations/operations.h"
 #include "scenarios/scenariolibrary.h"
+#include "time/life.h"
+#include "units/port.h"
+#include "veltrix_simulator/simulator.h"
 
+#include <cstdint>
 #include <cstdlib>
 #include <iostream>
 #include <optional>

@@ -10,8 +10,10 @@
 #include "contract/sdkroot.h"
 #include "output/logoutput.h"
 #include "scenarios/scenario.h"
+#include "units/badpixels.h"
 #include "units/memory.h"
 #include "units/state.h"
+#include "veltrix_sdk/logger.h"
 #include "veltrix_sdk/sdk.h"
 
 #include <string_view>

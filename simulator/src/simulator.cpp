@@ -3,9 +3,14 @@
 // The simulator's own interface, on top of the simulation.
 #include "veltrix_simulator/simulator.h"
 
+#include "calls/callpath.h"
+#include "faults/activefaults.h"
 #include "faults/testfault.h"
+#include "scenarios/scenario.h"
 #include "scenarios/scenariolibrary.h"
 #include "simulation.h"
+#include "units/port.h"
+#include "units/state.h"
 
 #include <stdexcept>
 #include <utility>

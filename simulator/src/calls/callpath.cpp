@@ -4,9 +4,12 @@
 #include "calls/callpath.h"
 
 #include "calls/journaltext.h"
+#include "calls/numbersat.h"
 #include "calls/traceline.h"
 #include "faults/alteredstate.h"
 #include "faults/effects.h"
+#include "faults/faultrule.h"
+#include "units/recordmembers.h"
 #include "values/value.h"
 
 #include <chrono>

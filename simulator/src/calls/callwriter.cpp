@@ -3,6 +3,8 @@
 // What of a call is written, in which order, whatever the form.
 #include "calls/callwriter.h"
 
+#include "values/value.h"
+
 #include <charconv>
 #include <cstddef>
 #include <cstdint>

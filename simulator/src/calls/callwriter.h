@@ -6,6 +6,7 @@
 #include "calls/numbersat.h"
 #include "calls/objects.h"
 #include "calls/parameter.h"
+#include "units/recordmembers.h"
 
 #include <string>
 #include <string_view>

@@ -4,6 +4,9 @@
 #include "calls/journaltext.h"
 
 #include "calls/callwriter.h"
+#include "calls/numbersat.h"
+#include "units/recordmembers.h"
+#include "values/value.h"
 
 #include <cstddef>
 

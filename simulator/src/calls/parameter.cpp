@@ -4,6 +4,8 @@
 // operation.
 #include "calls/parameter.h"
 
+#include "units/recordmembers.h"
+
 #include <limits>
 
 namespace veltrix_simulator

@@ -4,7 +4,10 @@
 #include "calls/traceline.h"
 
 #include "calls/callwriter.h"
+#include "calls/numbersat.h"
 #include "output/clock.h"
+#include "units/recordmembers.h"
+#include "values/value.h"
 
 #include <array>
 #include <cmath>

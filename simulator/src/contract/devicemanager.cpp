@@ -3,7 +3,11 @@
 // The simulated device manager.
 #include "contract/devicemanager.h"
 
+#include "calls/objects.h"
+#include "operations/operations.h"
 #include "time/link.h"
+#include "units/badpixels.h"
+#include "units/unitfields.h"
 
 #include <algorithm>
 #include <cstdint>

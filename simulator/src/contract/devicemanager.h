@@ -5,6 +5,7 @@
 
 #include "calls/callpath.h"
 #include "output/logoutput.h"
+#include "units/port.h"
 #include "units/state.h"
 #include "veltrix_sdk/device_control.h"
 #include "veltrix_sdk/device_manager.h"

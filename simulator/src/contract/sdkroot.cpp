@@ -3,6 +3,10 @@
 // The simulated root of the SDK.
 #include "contract/sdkroot.h"
 
+#include "calls/objects.h"
+#include "operations/operations.h"
+#include "veltrix_sdk/logger.h"
+
 namespace veltrix_simulator
 {
 

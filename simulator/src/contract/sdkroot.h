@@ -5,6 +5,8 @@
 
 #include "calls/callpath.h"
 #include "output/logoutput.h"
+#include "veltrix_sdk/configuration.h"
+#include "veltrix_sdk/device_manager.h"
 #include "veltrix_sdk/sdk.h"
 
 namespace veltrix_simulator

@@ -3,6 +3,10 @@
 // What the device operations are made of: reads and writes of the addressed unit's state.
 #include "contract/unitaccess.h"
 
+#include "units/recordmembers.h"
+#include "values/numberlist.h"
+#include "veltrix_sdk/numbers.h"
+
 namespace veltrix_simulator
 {
 namespace

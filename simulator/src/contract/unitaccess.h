@@ -4,9 +4,15 @@
 #pragma once
 
 #include "calls/callpath.h"
+#include "calls/numbersat.h"
+#include "calls/parameter.h"
+#include "operations/operations.h"
 #include "output/logoutput.h"
+#include "units/badpixels.h"
 #include "units/memory.h"
 #include "units/state.h"
+#include "units/unitfields.h"
+#include "values/value.h"
 #include "veltrix_sdk/numbers.h"
 #include "veltrix_sdk/records.h"
 

@@ -5,6 +5,7 @@
 
 #include "faults/applicability.h"
 #include "faults/effects.h"
+#include "veltrix_simulator/simulator.h"
 
 #include <algorithm>
 #include <stdexcept>

@@ -5,6 +5,7 @@
 
 #include "faults/effects.h"
 #include "values/value.h"
+#include "veltrix_simulator/simulator.h"
 
 #include <algorithm>
 #include <cstddef>

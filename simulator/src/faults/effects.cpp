@@ -7,6 +7,7 @@
 #include "time/link.h"
 #include "values/inorder.h"
 #include "values/value.h"
+#include "veltrix_simulator/simulator.h"
 
 #include <cstddef>
 #include <utility>

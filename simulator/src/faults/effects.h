@@ -10,6 +10,7 @@
 #include "units/state.h"
 
 #include <array>
+#include <cstddef>
 #include <optional>
 #include <string_view>
 

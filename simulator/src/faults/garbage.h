@@ -5,6 +5,7 @@
 
 #include "values/randomness.h"
 #include "values/value.h"
+#include "veltrix_simulator/simulator.h"
 
 #include <vector>
 

@@ -3,6 +3,8 @@
 // Wrong values that look like true ones.
 #include "faults/wrongvalues.h"
 
+#include "veltrix_sdk/records.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstdint>

@@ -3,8 +3,14 @@
 // Wrong values that look like true ones.
 #pragma once
 
+#include "units/allowed.h"
+#include "units/configurationfields.h"
 #include "units/state.h"
+#include "units/unitfields.h"
 #include "values/randomness.h"
+#include "values/value.h"
+
+#include <array>
 
 namespace veltrix_simulator
 {

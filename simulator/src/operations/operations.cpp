@@ -4,6 +4,7 @@
 #include "operations/operations.h"
 
 #include "units/recordmembers.h"
+#include "veltrix_sdk/records.h"
 #include "veltrix_sdk/sdk.h"
 
 #include <algorithm>

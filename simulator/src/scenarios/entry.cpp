@@ -4,6 +4,7 @@
 #include "scenarios/entry.h"
 
 #include "output/wording.h"
+#include "scenarios/scenarioreader.h"
 
 #include <algorithm>
 #include <cmath>

@@ -5,6 +5,7 @@
 
 #include "scenarios/scenarioreader.h"
 #include "scenarios/tomltext.h"
+#include "veltrix_simulator/simulator.h"
 
 #include <chrono>
 #include <cstddef>
@@ -12,6 +13,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace veltrix_simulator

@@ -7,11 +7,15 @@
 #include "faults/effects.h"
 #include "operations/operations.h"
 #include "output/wording.h"
+#include "veltrix_simulator/simulator.h"
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <limits>
 #include <optional>
+#include <type_traits>
+#include <utility>
 
 namespace veltrix_simulator
 {

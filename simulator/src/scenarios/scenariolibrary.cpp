@@ -3,8 +3,11 @@
 // The scenarios that the library brings along, and where others come from.
 #include "scenarios/scenariolibrary.h"
 
+#include "faults/faultrule.h"
 #include "output/wording.h"
 #include "scenarios/scenarioreader.h"
+#include "time/life.h"
+#include "veltrix_simulator/simulator.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -3,15 +3,24 @@
 // Reads a scenario file.
 #include "scenarios/scenarioreader.h"
 
+#include "faults/faultrule.h"
 #include "output/wording.h"
 #include "scenarios/entry.h"
 #include "scenarios/faultreader.h"
 #include "scenarios/statereader.h"
+#include "scenarios/tomltext.h"
+#include "time/life.h"
+#include "time/link.h"
+#include "units/port.h"
+#include "values/value.h"
+#include "veltrix_simulator/simulator.h"
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <limits>
 #include <optional>
+#include <utility>
 
 namespace veltrix_simulator
 {

@@ -5,11 +5,15 @@
 
 #include "output/wording.h"
 #include "units/state.h"
+#include "veltrix_sdk/numbers.h"
+#include "veltrix_simulator/simulator.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace veltrix_simulator

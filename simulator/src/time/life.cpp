@@ -3,6 +3,9 @@
 // How the values of the units change as time passes.
 #include "time/life.h"
 
+#include "units/unitfields.h"
+#include "values/value.h"
+
 #include <algorithm>
 #include <cmath>
 #include <stdexcept>

@@ -5,13 +5,17 @@
 
 #include "output/logoutput.h"
 #include "output/replacefile.h"
+#include "veltrix_sdk/logger.h"
+#include "veltrix_sdk/numbers.h"
 
 #include <array>
+#include <cstddef>
 #include <filesystem>
 #include <fstream>
 #include <string>
 #include <system_error>
 #include <utility>
+#include <variant>
 
 namespace veltrix_simulator
 {

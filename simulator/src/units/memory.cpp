@@ -4,6 +4,7 @@
 #include "units/memory.h"
 
 #include "output/replacefile.h"
+#include "veltrix_sdk/logger.h"
 
 #include <cstddef>
 #include <filesystem>

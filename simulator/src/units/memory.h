@@ -6,6 +6,7 @@
 #include "output/logoutput.h"
 #include "units/memoryfile.h"
 #include "units/state.h"
+#include "units/unitfields.h"
 
 #include <optional>
 #include <string>

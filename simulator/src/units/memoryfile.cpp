@@ -4,7 +4,9 @@
 #include "units/memoryfile.h"
 
 #include "output/wording.h"
+#include "units/allowed.h"
 #include "values/value.h"
+#include "veltrix_simulator/simulator.h"
 
 #include <algorithm>
 #include <cstdint>

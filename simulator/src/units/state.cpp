@@ -3,6 +3,7 @@
 // Everything that the simulated devices and the configuration hold.
 #include "units/state.h"
 
+#include "units/allowed.h"
 #include "veltrix_sdk/numbers.h"
 
 #include <algorithm>

@@ -9,8 +9,12 @@
 #include "units/unitfields.h"
 #include "values/numberlist.h"
 #include "values/value.h"
+#include "veltrix_sdk/records.h"
+#include "veltrix_simulator/simulator.h"
 
 #include <array>
+#include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>

@@ -8,6 +8,7 @@
 #include <cmath>
 #include <limits>
 #include <string>
+#include <variant>
 
 namespace veltrix_simulator
 {
