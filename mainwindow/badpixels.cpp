@@ -6,6 +6,11 @@
 #include "messageboxes.h"
 #include "ui_mainwindow.h"
 #include "veltrix_sdk/device_control.h"
+#include "veltrix_sdk/numbers.h"
+
+#include <QObject>
+
+#include <cstdint>
 
 using namespace veltrix_sdk;
 
@@ -30,18 +35,16 @@ struct PixelDeclaration
 namespace
 {
 
-constexpr int sensorColumns{640};
-constexpr int sensorRows{480};
-constexpr std::uint32_t firstTransferNumber{4096};
-constexpr std::uint32_t secondTransferNumber{16384};
-
 constexpr BprTransfer readTable{
-    &IDeviceControl::readBprTable,   9,   QT_TRANSLATE_NOOP("MainWindow", "BPR table not read correctly"),
-    "BPR table correctly saved to ", ".",
+    &IDeviceControl::readBprTable,
+    bprReadCode,
+    QT_TRANSLATE_NOOP("MainWindow", "BPR table not read correctly"),
+    "BPR table correctly saved to ",
+    ".",
 };
 constexpr BprTransfer writeTable{
     &IDeviceControl::writeBprTable,
-    8,
+    bprWriteCode,
     QT_TRANSLATE_NOOP("MainWindow", "BPR table not write correctly"),
     "BPR table ",
     " correctly written.",
@@ -51,6 +54,16 @@ constexpr PixelDeclaration addPixel{&IDeviceControl::addBadPixel, " correctly ad
                                     "Unable to add pixel X:"};
 constexpr PixelDeclaration removePixel{&IDeviceControl::removeBadPixel, " correctly removed.",
                                        "Unable to remove pixel X:"};
+
+std::uint32_t chosenColumn(const Ui_MainWindow &ui)
+{
+    return static_cast<std::uint32_t>(ui.xBadPixelCoordinate->value());
+}
+
+std::uint32_t chosenRow(const Ui_MainWindow &ui)
+{
+    return static_cast<std::uint32_t>(ui.yBadPixelCoordinate->value());
+}
 
 } // namespace
 
@@ -69,7 +82,7 @@ void MainWindow::transferBprTable(const BprTransfer &transfer)
     if (tellNotConnected()) {
         return;
     }
-    if (!(device->*transfer.transfer)(firstTransferNumber, secondTransferNumber, transfer.code)) {
+    if (!(device->*transfer.transfer)(bprFirstNumber, bprSecondNumber, transfer.code)) {
         showAboutBox(this, tr("BPR table"), tr(transfer.failure));
         if (!isDeviceOpen()) {
             return;
@@ -113,7 +126,7 @@ void MainWindow::removeBadPixelColumnClicked()
 void MainWindow::declareSingle(const PixelDeclaration &declaration)
 {
     if (!tellNotConnected()) {
-        declarePixel(declaration, ui->xBadPixelCoordinate->value(), ui->yBadPixelCoordinate->value());
+        declarePixel(declaration, chosenColumn(*ui), chosenRow(*ui));
     }
 }
 
@@ -122,8 +135,8 @@ void MainWindow::declareLine(const PixelDeclaration &declaration)
     if (tellNotConnected()) {
         return;
     }
-    for (int column{0}; column < sensorColumns; ++column) {
-        declarePixel(declaration, column, ui->yBadPixelCoordinate->value());
+    for (std::uint32_t column{0}; column < sensorColumns; ++column) {
+        declarePixel(declaration, column, chosenRow(*ui));
     }
 }
 
@@ -132,15 +145,14 @@ void MainWindow::declareColumn(const PixelDeclaration &declaration)
     if (tellNotConnected()) {
         return;
     }
-    for (int row{0}; row < sensorRows; ++row) {
-        declarePixel(declaration, ui->xBadPixelCoordinate->value(), row);
+    for (std::uint32_t row{0}; row < sensorRows; ++row) {
+        declarePixel(declaration, chosenColumn(*ui), row);
     }
 }
 
-void MainWindow::declarePixel(const PixelDeclaration &declaration, int column, int row)
+void MainWindow::declarePixel(const PixelDeclaration &declaration, std::uint32_t column, std::uint32_t row)
 {
-    const bool ok{
-        (device->*declaration.declare)(static_cast<std::uint32_t>(column), static_cast<std::uint32_t>(row))};
+    const bool ok{(device->*declaration.declare)(column, row)};
     appendLog(ok ? joinText("Pixel X:", column, " Y: ", row, declaration.accepted)
                  : joinText(declaration.refused, column, " Y: ", row, '.'));
 }

@@ -6,6 +6,7 @@
 #include "mainwindow.h"
 #include "ui_mainwindow.h"
 #include "veltrix_sdk/device_control.h"
+#include "veltrix_sdk/numbers.h"
 #include "widgetvalues.h"
 
 #include <optional>
@@ -44,7 +45,7 @@ bool MainWindow::readBlendUnitParameters()
     readVisibleAgc();
     readVisibleClhe();
     readStartingMode();
-    readTemp(0);
+    readTemp(targetBlendUnit);
     appendLog("End reading Fusion parameters");
     showText(*ui->BitTextEdit, QString::fromStdString("0x" + hexText(device->getBitStatus())));
     return true;
@@ -188,7 +189,8 @@ void MainWindow::visibleClheChanged()
 void MainWindow::saveBlendUnitExpertClicked()
 {
     if (isDeviceOpen()) {
-        reportOutcome(device->saveBlendUnitParameters(1), "Blend unit expert parameters have been saved",
+        reportOutcome(device->saveBlendUnitParameters(saveExpertParameters),
+                      "Blend unit expert parameters have been saved",
                       "Could not saved blend unit expert parameters");
     }
 }
@@ -196,7 +198,7 @@ void MainWindow::saveBlendUnitExpertClicked()
 void MainWindow::saveBlendUnitUserClicked()
 {
     if (isDeviceOpen()) {
-        reportOutcome(device->saveBlendUnitParameters(0), "Blend unit parameters have been saved",
-                      "Could not saved blend unit parameters");
+        reportOutcome(device->saveBlendUnitParameters(saveUserParameters),
+                      "Blend unit parameters have been saved", "Could not saved blend unit parameters");
     }
 }

@@ -7,6 +7,7 @@
 #include "region.h"
 #include "togglesetting.h"
 #include "veltrix_sdk/device_control.h"
+#include "veltrix_sdk/numbers.h"
 #include "widgetvalues.h"
 
 #include <array>
@@ -53,7 +54,7 @@ bool MainWindow::readCameraParameters()
 
     readRegions();
     readLut();
-    readTemp(1);
+    readTemp(targetCamera);
     readEdgeCorrection();
     appendLog("End reading camera parameters");
     return true;
@@ -135,6 +136,8 @@ void MainWindow::readRegions()
         {Region::Roi1Exclusive, "ROI1 exclusive"},
     };
 
+    static_assert(std::size(regions) == regionCount);
+
     // All are read before any widget changes: an enable box that changes sends its region back.
     std::array<std::array<std::uint32_t, 4>, std::size(regions)> pixels{};
     for (std::uint32_t number{0}; number < pixels.size(); ++number) {
@@ -197,7 +200,6 @@ void MainWindow::readLut()
 void MainWindow::readEdgeCorrection()
 {
     constexpr std::uint64_t sliderStepsPerUnit{10};
-    constexpr std::int64_t thresholdDistance{40};
 
     const EdgeCorrection edge{device->getEdgeCorrection()};
     ui->EdgeCorrectionCB->setCurrentIndex(edge.type);
@@ -205,7 +207,8 @@ void MainWindow::readEdgeCorrection()
     showNumber(*ui->SharpeningTHSlider, edge.firstThreshold * sliderStepsPerUnit);
     // The first threshold is told by its distance from the second one; the device's own first threshold
     // reaches the slider only.
-    appendLog(joinText("Correction type = ", +edge.type, "\nCorrection gain = ", edge.gain,
-                       "\nFirst threshold = ", edge.secondThreshold - thresholdDistance,
-                       "\nSecond threshold = ", edge.secondThreshold));
+    appendLog(joinText(
+        "Correction type = ", +edge.type, "\nCorrection gain = ", edge.gain,
+        "\nFirst threshold = ", static_cast<std::int64_t>(edge.secondThreshold) - edgeThresholdDistance,
+        "\nSecond threshold = ", edge.secondThreshold));
 }

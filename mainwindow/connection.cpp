@@ -5,6 +5,7 @@
 #include "messageboxes.h"
 #include "portnames.h"
 #include "ui_mainwindow.h"
+#include "veltrix_sdk/numbers.h"
 #include "veltrix_sdk/sdk.h"
 
 #include <QAbstractSpinBox>
@@ -17,11 +18,6 @@ using namespace veltrix_sdk;
 
 namespace
 {
-
-constexpr int blendUnitTarget{0};
-constexpr int cameraTarget{1};
-/// What a KR camera answers when it is asked who it is.
-constexpr std::uint8_t krIdentity{21};
 
 void configureExpertSlider(QSlider &slider, std::int32_t minimum, std::int32_t maximum, std::int32_t value)
 {
@@ -83,7 +79,7 @@ bool MainWindow::openCommunication(std::string port)
     returnDevice();
 
     const char *const communicationType{sdkConfiguration().getCommunicationType()};
-    if (communicationType == nullptr || communicationType != std::string_view{"UART"}) {
+    if (communicationType == nullptr || communicationType != std::string_view{uartCommunication}) {
         showAboutBox(this, tr("Invalid communication"), tr("Select an other serial port"));
         return false;
     }
@@ -103,7 +99,7 @@ void MainWindow::connectDevice()
     if (!openCommunication(ui->selectDeviceComboBox->currentText().toStdString())) {
         return;
     }
-    targetChanged(blendUnitTarget);
+    targetChanged(targetBlendUnit);
     *deviceIdentity = 0;
     if (device->connect(deviceIdentity) != 1 || *deviceIdentity != krIdentity) {
         appendLog("No camera connected");
@@ -201,11 +197,11 @@ void MainWindow::targetChanged(int target)
 bool MainWindow::readAllParameters()
 {
     const int page{ui->Principal_tab->currentIndex()};
-    targetChanged(blendUnitTarget);
+    targetChanged(targetBlendUnit);
     if (!readBlendUnitParameters()) {
         return false;
     }
-    targetChanged(cameraTarget);
+    targetChanged(targetCamera);
     const bool cameraRead{readCameraParameters()};
     targetChanged(page);
     return cameraRead;
@@ -214,9 +210,9 @@ bool MainWindow::readAllParameters()
 void MainWindow::readParamsExpert()
 {
     const int page{ui->Principal_tab->currentIndex()};
-    targetChanged(blendUnitTarget);
+    targetChanged(targetBlendUnit);
     readFusionParamsExpert();
-    targetChanged(cameraTarget);
+    targetChanged(targetCamera);
     ReadKrParamsExpert();
     targetChanged(page);
 }

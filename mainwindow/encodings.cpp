@@ -3,19 +3,21 @@
 // How numbers travel between the widgets and the device, defined for every input.
 #include "encodings.h"
 
+#include "veltrix_sdk/numbers.h"
+
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <cstddef>
 #include <limits>
 
+using veltrix_sdk::fixedPointOne;
+using veltrix_sdk::frameRatesHz;
+
 namespace
 {
 
-constexpr double fixedPointOne = 65536.0;
 // The first double above the 64-bit range; the range's own limit has no double of its own.
 constexpr double beyondInt64 = 9223372036854775808.0;
-constexpr std::array<std::uint8_t, 5> frameRatesHz{9, 25, 30, 50, 60};
 
 std::int64_t truncateToInt64(double value)
 {

@@ -226,7 +226,7 @@ private:
     void declareSingle(const PixelDeclaration &declaration);
     void declareLine(const PixelDeclaration &declaration);
     void declareColumn(const PixelDeclaration &declaration);
-    void declarePixel(const PixelDeclaration &declaration, int column, int row);
+    void declarePixel(const PixelDeclaration &declaration, std::uint32_t column, std::uint32_t row);
 
     // Blend Unit
     void showVideoMode(const VideoMode &mode);

@@ -4,6 +4,7 @@
 #include "encodings.h"
 #include "mainwindow.h"
 #include "ui_mainwindow.h"
+#include "veltrix_sdk/numbers.h"
 #include "veltrix_sdk/sdk.h"
 #include "widgetvalues.h"
 
@@ -55,10 +56,10 @@ void MainWindow::readTemp(int fpgaType)
         return QString::number(static_cast<double>(toCelsius(millikelvin)), 'g', 6) + QLatin1Char{'C'};
     };
     switch (fpgaType) {
-    case 0:
+    case targetBlendUnit:
         showText(*ui->FusionFpgaTempTextEdit, celsius(temperatures.fpgaMillikelvin));
         break;
-    case 1:
+    case targetCamera:
         showText(*ui->FpgaTempTextEdit, celsius(temperatures.fpgaMillikelvin));
         showText(*ui->SensorTempTextEdit, celsius(temperatures.sensorMillikelvin));
         break;

@@ -6,6 +6,7 @@
 #include "messageboxes.h"
 #include "region.h"
 #include "veltrix_sdk/device_control.h"
+#include "veltrix_sdk/numbers.h"
 
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
@@ -28,7 +29,6 @@ struct RegionCoordinate
 namespace
 {
 
-constexpr int regionCount{4};
 constexpr const char *xOrderText{QT_TRANSLATE_NOOP("MainWindow", " X1 must be lower than ROI X2")};
 constexpr const char *yOrderText{QT_TRANSLATE_NOOP("MainWindow", " Y1 must be lower than ROI Y2")};
 
@@ -125,7 +125,7 @@ void MainWindow::finishRegionEdit(int roiNumber, const RegionCoordinate &coordin
         return;
     }
     int pixels{0};
-    if (roiNumber >= 0 && roiNumber < regionCount) {
+    if (roiNumber >= 0 && static_cast<std::uint32_t>(roiNumber) < regionCount) {
         const RegionWidgets widgets{regionWidgets(*ui, static_cast<Region>(roiNumber))};
         QSpinBox *const first{widgets.*coordinate.first};
         const int last{(widgets.*coordinate.second)->value()};
