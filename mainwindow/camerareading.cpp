@@ -5,6 +5,7 @@
 #include "logtext.h"
 #include "mainwindow.h"
 #include "region.h"
+#include "sliderpair.h"
 #include "togglesetting.h"
 #include "veltrix_sdk/device_control.h"
 #include "veltrix_sdk/numbers.h"
@@ -47,11 +48,7 @@ bool MainWindow::readCameraParameters()
     readIdentity();
     readOutputs();
     readFlipAndPolarity();
-
-    const double gamma{fromFixedPoint16_16(device->getGamma())};
-    GammaUserValueChanged(gamma);
-    appendLog(joinText("Gamma value = ", gamma));
-
+    readNumbers(SequencePlace::Gamma);
     readRegions();
     readLut();
     readTemp(targetCamera);
@@ -171,9 +168,7 @@ void MainWindow::readRegions()
 
 void MainWindow::readLut()
 {
-    const double clhe{static_cast<double>(device->getClhe())};
-    ClheUserValueChanged(clhe);
-    appendLog(joinText("CLHE value = ", clhe));
+    readNumbers(SequencePlace::Clhe);
 
     ui->lutColorEdit->setCurrentIndex(device->getColorLut());
     appendLog("Color Lut = " + ui->lutColorEdit->currentText().toStdString());
@@ -182,9 +177,7 @@ void MainWindow::readLut()
     ui->contrastTypeEdit->setCurrentIndex(contrastType);
     appendLog(joinText("Contrast type = ", contrastType == 0 ? "CLHE (ROI)" : "CLAHE (LOCAL)"));
 
-    const std::uint8_t temporalFilter{device->getLutTemporalFilter()};
-    ui->TempoFilterSpin->setValue(temporalFilter);
-    appendLog(joinText("LUT temporal filter = ", +temporalFilter));
+    readNumbers(SequencePlace::LutFilter);
 
     AhcGainLimitation limitation{};
     if (device->getAhcGainLimitation(&limitation) == 1) {
@@ -199,12 +192,10 @@ void MainWindow::readLut()
 
 void MainWindow::readEdgeCorrection()
 {
-    constexpr std::uint64_t sliderStepsPerUnit{10};
-
     const EdgeCorrection edge{device->getEdgeCorrection()};
     ui->EdgeCorrectionCB->setCurrentIndex(edge.type);
-    showNumber(*ui->sharpeningGainSlider, edge.gain * sliderStepsPerUnit);
-    showNumber(*ui->SharpeningTHSlider, edge.firstThreshold * sliderStepsPerUnit);
+    SharpeningUserValueChanged(edge.gain);
+    SharpeningTHValueChanged(edge.firstThreshold);
     // The first threshold is told by its distance from the second one; the device's own first threshold
     // reaches the slider only.
     appendLog(joinText(

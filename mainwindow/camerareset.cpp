@@ -4,6 +4,8 @@
 #include "encodings.h"
 #include "mainwindow.h"
 #include "region.h"
+#include "sliderpair.h"
+#include "ui_mainwindow.h"
 #include "veltrix_sdk/configuration.h"
 #include "widgetvalues.h"
 
@@ -20,13 +22,14 @@ void MainWindow::ResetParamsUser()
 
     // A rate that the camera does not have is reset to 25 Hz, while a read shows it as 9 Hz.
     ui->frameRateCB->setCurrentIndex(frameRateIndex(defaults.getDefaultFrameRate(), 1));
-    GammaUserValueChanged(defaults.getDefaultGamma());
-    ClheUserValueChanged(defaults.getDefaultClhe());
+    resetNumbers(SequencePlace::Gamma, defaults);
+    resetNumbers(SequencePlace::Clhe, defaults);
     ui->sharpeningGainSlider->setValue(roundToInt(defaults.getDefaultSharpeningGain()));
-    ui->gfidSlider->setValue(defaults.getDefaultGfid());
-    ui->gskSlider->setValue(defaults.getDefaultGsk());
-    ui->tintSlider->setValue(defaults.getDefaultTint());
-    ui->gmsSlider->setValue(defaults.getDefaultGms());
+    // The expert values in an order of their own.
+    for (const auto slider : {&Ui_MainWindow::gfidSlider, &Ui_MainWindow::gskSlider,
+                              &Ui_MainWindow::tintSlider, &Ui_MainWindow::gmsSlider}) {
+        resetNumber(pairOf(slider), defaults);
+    }
     resetRegions(defaults);
     ui->polarityButton->setChecked(defaults.getDefaultPolarity());
     ui->contrastTypeEdit->setCurrentIndex(defaults.getDefaultContrastType());
@@ -44,7 +47,7 @@ void MainWindow::ResetParamsUser()
     ui->sdiOutputButton->setChecked(defaults.getDefaultSdiOutput());
     ui->parallelOutputButton->setChecked(defaults.getDefaultParallelOutput());
     ui->mipiOutputButton->setChecked(defaults.getDefaultMipiOutput());
-    ui->TempoFilterSpin->setValue(defaults.getDefaultTempoFilter());
+    resetNumbers(SequencePlace::LutFilter, defaults);
     ui->AhcBlackGainLimSpin->setValue(defaults.getDefaultAhcBlackGainLimit());
     ui->AhcWhiteGainLimSpin->setValue(defaults.getDefaultAhcWhiteGainLimit());
 

@@ -3,7 +3,9 @@
 // Camera settings: each is sent the moment the operator changes it.
 #include "encodings.h"
 #include "mainwindow.h"
+#include "sliderpair.h"
 #include "togglesetting.h"
+#include "ui_mainwindow.h"
 #include "veltrix_sdk/device_control.h"
 
 using veltrix_sdk::IDeviceControl;
@@ -95,33 +97,6 @@ void MainWindow::edgeCorrectionChanged()
                 truncateToUint32(ui->SharpeningTHEdit->value()));
 }
 
-void MainWindow::gammaUserSendCommand()
-{
-    sendCommand("Set GAMMA value", &IDeviceControl::setGamma, toFixedPoint16_16(ui->gammaEdit->value()));
-}
-
-void MainWindow::clheSendCommand()
-{
-    sendCommand("Set CLHE value", &IDeviceControl::setClhe, truncateToUint32(ui->clheEdit->value()));
-}
-
-void MainWindow::sharpeningSendCommand()
-{
-    edgeCorrectionChanged();
-}
-
-void MainWindow::ahcGainSendCommand()
-{
-    sendCommand("Set AHC GAINS LIMITATION values", &IDeviceControl::setAhcGainLimitation,
-                toByte(ui->AhcBlackGainLimSpin->value()), toByte(ui->AhcWhiteGainLimSpin->value()));
-}
-
-void MainWindow::tempoFilterSendCommand()
-{
-    sendCommand("Set LUT TEMPORAL FILTER value", &IDeviceControl::setLutTemporalFilter,
-                toByte(ui->TempoFilterSpin->value()));
-}
-
 void MainWindow::ApplyParamsUser()
 {
     if (!isDeviceOpen()) {
@@ -130,11 +105,11 @@ void MainWindow::ApplyParamsUser()
     appendLog("Start applying camera parameters");
     frameRateChanged();
     videoOutputChanged();
-    gammaUserSendCommand();
+    sendNumbers(SequencePlace::Gamma);
     contrastTypeChanged();
     colorLutChanged();
-    clheSendCommand();
-    tempoFilterSendCommand();
+    sendNumbers(SequencePlace::Clhe);
+    sendNumbers(SequencePlace::LutFilter);
     ahcGainSendCommand();
     edgeCorrectionChanged();
     closeApply();

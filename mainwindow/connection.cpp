@@ -4,6 +4,7 @@
 #include "mainwindow.h"
 #include "messageboxes.h"
 #include "portnames.h"
+#include "sliderpair.h"
 #include "ui_mainwindow.h"
 #include "veltrix_sdk/numbers.h"
 #include "veltrix_sdk/sdk.h"
@@ -220,27 +221,20 @@ void MainWindow::readParamsExpert()
 void MainWindow::updateTabAvailability()
 {
     const ConfigurationWords &words{sdkConfiguration().words};
-    const struct
-    {
-        QSlider *slider;
-        QDoubleSpinBox *spinBox;
-        std::int32_t minimum;
-        std::int32_t maximum;
-        std::int32_t value;
-    } expertValues[]{
-        {ui->gskSlider, ui->gskEdit, words.gskMinimum, words.gskMaximum, words.gskDefault},
-        {ui->gfidSlider, ui->gfidEdit, words.gfidMinimum, words.gfidMaximum, words.gfidDefault},
-        {ui->gmsSlider, ui->gmsEdit, words.gmsMinimum, words.gmsMaximum, words.gmsDefault},
-        {ui->tintSlider, ui->tintEdit, words.tintMinimum, words.tintMaximum, words.tintDefault},
-    };
-    for (const auto &expertValue : expertValues) {
-        configureExpertSlider(*expertValue.slider, expertValue.minimum, expertValue.maximum,
-                              expertValue.value);
-        // The box of GMS keeps the whole 32-bit range whatever the slider covers.
-        if (expertValue.spinBox != ui->gmsEdit) {
-            expertValue.spinBox->setRange(expertValue.minimum, expertValue.maximum);
-        }
-        expertValue.spinBox->setValue(expertValue.value);
-        expertValue.spinBox->setSingleStep(1.0);
+    for (const SliderPair *const pair : pairsAt(SequencePlace::Expert)) {
+        const ExpertWords &own{pair->words};
+        const std::int32_t minimum{words.*own.minimum};
+        const std::int32_t maximum{words.*own.maximum};
+        const std::int32_t preset{words.*own.preset};
+        configureExpertSlider(*(ui->*pair->slider), minimum, maximum, preset);
+        std::visit(
+            [&](auto box) {
+                if (!own.boxKeepsItsRange) {
+                    (ui->*box)->setRange(minimum, maximum);
+                }
+                (ui->*box)->setValue(preset);
+                (ui->*box)->setSingleStep(1);
+            },
+            pair->spinBox);
     }
 }

@@ -4,6 +4,7 @@
 #include "encodings.h"
 #include "logtext.h"
 #include "mainwindow.h"
+#include "sliderpair.h"
 #include "ui_mainwindow.h"
 #include "veltrix_sdk/sdk.h"
 #include "widgetvalues.h"
@@ -18,25 +19,7 @@ void MainWindow::ReadKrParamsExpert()
         return;
     }
     appendLog("Start reading camera expert parameters");
-
-    const struct
-    {
-        std::uint32_t (IDeviceControl::*get)();
-        QSlider *slider;
-        QDoubleSpinBox *spinBox;
-        const char *label;
-    } values[]{
-        {&IDeviceControl::getGsk, ui->gskSlider, ui->gskEdit, "GSK value = "},
-        {&IDeviceControl::getGfid, ui->gfidSlider, ui->gfidEdit, "GFID value = "},
-        {&IDeviceControl::getGms, ui->gmsSlider, ui->gmsEdit, "GMS value = "},
-        {&IDeviceControl::getTint, ui->tintSlider, ui->tintEdit, "TINT value = "},
-    };
-    for (const auto &row : values) {
-        const std::uint32_t value{(device->*row.get)()};
-        showNumber(*row.slider, value);
-        showNumber(*row.spinBox, value);
-        appendLog(joinText(row.label, value));
-    }
+    readNumbers(SequencePlace::Expert);
 
     const struct
     {
@@ -92,32 +75,13 @@ void MainWindow::ApplyParamsExpert()
     } else {
         // Without a device they become the defaults of the next connection.
         ConfigurationWords &words{sdkConfiguration().words};
-        words.gskDefault = ui->gskSlider->value();
-        words.gmsDefault = truncateToInt32(ui->gmsEdit->value());
-        words.gfidDefault = ui->gfidSlider->value();
-        words.tintDefault = ui->tintSlider->value();
+        for (const SliderPair *const pair : pairsAt(SequencePlace::Expert)) {
+            words.*pair->words.preset = pair->words.boxKeepsItsRange
+                                            ? truncateToInt32(spinBoxValue(*ui, *pair))
+                                            : (ui->*pair->slider)->value();
+        }
     }
     appendLog("End applying camera expert parameters");
-}
-
-void MainWindow::gskSendCommand()
-{
-    sendCommand("Set GSK value", &IDeviceControl::setGsk, truncateToUint32(ui->gskEdit->value()));
-}
-
-void MainWindow::gfiSendCommand()
-{
-    sendCommand("Set GFID value", &IDeviceControl::setGfid, truncateToUint32(ui->gfidEdit->value()));
-}
-
-void MainWindow::gmsSendCommand()
-{
-    sendCommand("Set GMS value", &IDeviceControl::setGms, truncateToUint32(ui->gmsEdit->value()));
-}
-
-void MainWindow::tintSendCommand()
-{
-    sendCommand("Set TINT value", &IDeviceControl::setTint, truncateToUint32(ui->tintEdit->value()));
 }
 
 void MainWindow::krBaudRateChanged()

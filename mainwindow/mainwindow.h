@@ -23,9 +23,11 @@ struct FirmwareVersions;
 } // namespace veltrix_sdk
 
 enum class Region;
+enum class SequencePlace;
 struct BprTransfer;
 struct PixelDeclaration;
 struct RegionCoordinate;
+struct SliderPair;
 struct ToggleSetting;
 struct VideoMode;
 
@@ -66,26 +68,35 @@ private slots:
     // Sliders and their spin boxes
     void GammaUserSliderChanged(int position);
     void GammaUserValueChanged(double value);
+    void gammaUserSendCommand();
     void ClheUserSliderChanged(int position);
     void ClheUserValueChanged(double value);
+    void clheSendCommand();
     void SharpeningUserSliderChanged(int position);
     void SharpeningUserValueChanged(double value);
     void SharpeningTHSliderChanged(int position);
     void SharpeningTHValueChanged(double value);
+    void sharpeningSendCommand();
     void AhcBlackGainlimSliderChanged(int position);
     void AhcBlackGainLimSpinValueChanged(int value);
     void AhcWhiteGainlimSliderChanged(int position);
     void AhcWhiteGainLimSpinValueChanged(int value);
+    void ahcGainSendCommand();
     void TempoFilterSliderChanged(int position);
     void TempoFiltSpinValueChanged(int value);
+    void tempoFilterSendCommand();
     void GSKExpertSliderChanged(int position);
     void GSKExpertValueChanged(double value);
+    void gskSendCommand();
     void GFIDExpertSliderChanged(int position);
     void GFIDExpertValueChanged(double value);
+    void gfiSendCommand();
     void GMSExpertSliderChanged(int position);
     void GMSExpertValueChanged(double value);
+    void gmsSendCommand();
     void TINTExpertSliderChanged(int position);
     void TINTExpertValueChanged(double value);
+    void tintSendCommand();
 
     // Camera parameters
     bool readCameraParameters();
@@ -101,21 +112,12 @@ private slots:
     void mipiOutputClicked();
     void polarityClicked();
     void horizontalFlipClicked();
-    void gammaUserSendCommand();
-    void clheSendCommand();
-    void sharpeningSendCommand();
-    void ahcGainSendCommand();
-    void tempoFilterSendCommand();
     void ApplyParamsUser();
     void ResetParamsUser();
 
     // Expert parameters
     void ReadKrParamsExpert();
     void ApplyParamsExpert();
-    void gskSendCommand();
-    void gfiSendCommand();
-    void gmsSendCommand();
-    void tintSendCommand();
     void bprControlChanged();
     void offsetControlChanged();
     void gainControlChanged();
@@ -201,6 +203,13 @@ private:
     void showNotConnectedBox();
     /// Shows the not-connected box when no device is open, and says so.
     bool tellNotConnected();
+
+    // Sliders and their spin boxes
+    void sendNumber(const SliderPair &pair);
+    void sendNumbers(SequencePlace place);
+    void readNumbers(SequencePlace place);
+    void resetNumber(const SliderPair &pair, veltrix_sdk::ISdkConfiguration &defaults);
+    void resetNumbers(SequencePlace place, veltrix_sdk::ISdkConfiguration &defaults);
 
     // Camera parameters
     /// Asks the unit for its versions and starts its reading; a unit that does not answer is told about.

@@ -3,46 +3,8 @@
 // Every connection between the controls and their handlers, in one order.
 #include "mainwindow.h"
 #include "region.h"
-
-#include <array>
-#include <initializer_list>
-
-namespace
-{
-
-/// A sender and the slot, by its signature text, that a signal of it is connected to.
-struct SenderAndSlot
-{
-    const QObject *sender;
-    const char *slot;
-};
-
-/// A slider, its spin box and the slot that sends what they show.
-struct SentPair
-{
-    const QSlider *slider;
-    const QAbstractSpinBox *spinBox;
-    const char *slot;
-};
-
-std::array<SentPair, 11> sentPairs(const Ui_MainWindow &ui)
-{
-    return {{
-        {ui.gammaSlider, ui.gammaEdit, SLOT(gammaUserSendCommand())},
-        {ui.clheSlider, ui.clheEdit, SLOT(clheSendCommand())},
-        {ui.sharpeningGainSlider, ui.sharpeningGainEdit, SLOT(sharpeningSendCommand())},
-        {ui.SharpeningTHSlider, ui.SharpeningTHEdit, SLOT(sharpeningSendCommand())},
-        {ui.AhcBlackGainLimSlider, ui.AhcBlackGainLimSpin, SLOT(ahcGainSendCommand())},
-        {ui.AhcWhiteGainLimSlider, ui.AhcWhiteGainLimSpin, SLOT(ahcGainSendCommand())},
-        {ui.TempoFilterSlider, ui.TempoFilterSpin, SLOT(tempoFilterSendCommand())},
-        {ui.gskSlider, ui.gskEdit, SLOT(gskSendCommand())},
-        {ui.gfidSlider, ui.gfidEdit, SLOT(gfiSendCommand())},
-        {ui.gmsSlider, ui.gmsEdit, SLOT(gmsSendCommand())},
-        {ui.tintSlider, ui.tintEdit, SLOT(tintSendCommand())},
-    }};
-}
-
-} // namespace
+#include "sliderpair.h"
+#include "ui_mainwindow.h"
 
 void MainWindow::wireTargetSelection()
 {
@@ -51,47 +13,15 @@ void MainWindow::wireTargetSelection()
 
 void MainWindow::wireSlidersAndSpinBoxes()
 {
-    const auto connectRows = [this](const char *signal, std::initializer_list<SenderAndSlot> rows) {
-        for (const SenderAndSlot &row : rows) {
-            connect(row.sender, signal, this, row.slot);
-        }
-    };
-    connectRows(SIGNAL(valueChanged(int)),
-                {
-                    {ui->gammaSlider, SLOT(GammaUserSliderChanged(int))},
-                    {ui->clheSlider, SLOT(ClheUserSliderChanged(int))},
-                    {ui->sharpeningGainSlider, SLOT(SharpeningUserSliderChanged(int))},
-                    {ui->SharpeningTHSlider, SLOT(SharpeningTHSliderChanged(int))},
-                    {ui->AhcBlackGainLimSlider, SLOT(AhcBlackGainlimSliderChanged(int))},
-                    {ui->AhcWhiteGainLimSlider, SLOT(AhcWhiteGainlimSliderChanged(int))},
-                    {ui->TempoFilterSlider, SLOT(TempoFilterSliderChanged(int))},
-                    {ui->gskSlider, SLOT(GSKExpertSliderChanged(int))},
-                    {ui->gfidSlider, SLOT(GFIDExpertSliderChanged(int))},
-                    {ui->gmsSlider, SLOT(GMSExpertSliderChanged(int))},
-                    {ui->tintSlider, SLOT(TINTExpertSliderChanged(int))},
-                });
-    for (const SentPair &pair : sentPairs(*ui)) {
-        connect(pair.slider, SIGNAL(sliderReleased()), this, pair.slot);
+    for (const SliderPair &pair : sliderPairs()) {
+        connect(ui->*pair.slider, SIGNAL(valueChanged(int)), this, pair.sliderChanged);
     }
-    connectRows(SIGNAL(valueChanged(double)),
-                {
-                    {ui->gammaEdit, SLOT(GammaUserValueChanged(double))},
-                    {ui->clheEdit, SLOT(ClheUserValueChanged(double))},
-                    {ui->sharpeningGainEdit, SLOT(SharpeningUserValueChanged(double))},
-                    {ui->SharpeningTHEdit, SLOT(SharpeningTHValueChanged(double))},
-                });
-    connectRows(SIGNAL(valueChanged(int)),
-                {
-                    {ui->AhcBlackGainLimSpin, SLOT(AhcBlackGainLimSpinValueChanged(int))},
-                    {ui->AhcWhiteGainLimSpin, SLOT(AhcWhiteGainLimSpinValueChanged(int))},
-                    {ui->TempoFilterSpin, SLOT(TempoFiltSpinValueChanged(int))},
-                });
-    connectRows(SIGNAL(valueChanged(double)), {
-                                                  {ui->gskEdit, SLOT(GSKExpertValueChanged(double))},
-                                                  {ui->gfidEdit, SLOT(GFIDExpertValueChanged(double))},
-                                                  {ui->gmsEdit, SLOT(GMSExpertValueChanged(double))},
-                                                  {ui->tintEdit, SLOT(TINTExpertValueChanged(double))},
-                                              });
+    for (const SliderPair &pair : sliderPairs()) {
+        connect(ui->*pair.slider, SIGNAL(sliderReleased()), this, pair.send);
+    }
+    for (const SliderPair &pair : sliderPairs()) {
+        connect(spinBoxOf(*ui, pair), valueChangedSignal(pair), this, pair.spinBoxChanged);
+    }
 }
 
 void MainWindow::wireRegions()
@@ -116,8 +46,8 @@ void MainWindow::wireZoomFactor()
 
 void MainWindow::wireFinishedEdits()
 {
-    for (const SentPair &pair : sentPairs(*ui)) {
-        connect(pair.spinBox, SIGNAL(editingFinished()), this, pair.slot);
+    for (const SliderPair &pair : sliderPairs()) {
+        connect(spinBoxOf(*ui, pair), SIGNAL(editingFinished()), this, pair.send);
     }
 }
 

@@ -1,0 +1,277 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The rows of the sliders and their spin boxes, and how the two follow each other.
+#include "sliderpair.h"
+
+#include "encodings.h"
+#include "veltrix_sdk/configuration.h"
+#include "veltrix_sdk/device_control.h"
+#include "widgetvalues.h"
+
+#include <QObject>
+
+#include <algorithm>
+
+using namespace veltrix_sdk;
+
+namespace
+{
+
+constexpr double oneStepAUnit{1.0};
+constexpr double tenStepsAUnit{10.0};
+constexpr double fromZero{0.0};
+constexpr double lowestGamma{0.5};
+
+} // namespace
+
+const std::vector<SliderPair> &sliderPairs()
+{
+    static const std::vector<SliderPair> pairs{
+        {
+            &Ui_MainWindow::gammaSlider,
+            &Ui_MainWindow::gammaEdit,
+            tenStepsAUnit,
+            lowestGamma,
+            SLOT(GammaUserSliderChanged(int)),
+            SLOT(GammaUserValueChanged(double)),
+            SLOT(gammaUserSendCommand()),
+            {
+                SequencePlace::Gamma,
+                [](IDeviceControl &device) { return fromFixedPoint16_16(device.getGamma()); },
+                [](IDeviceControl &device, double value) {
+                    return device.setGamma(toFixedPoint16_16(value));
+                },
+                [](ISdkConfiguration &defaults) { return defaults.getDefaultGamma(); },
+                ShownIn::Slider,
+                "Gamma value = ",
+                LoggedAs::Double,
+                "Set GAMMA value",
+            },
+        },
+        {
+            &Ui_MainWindow::clheSlider,
+            &Ui_MainWindow::clheEdit,
+            oneStepAUnit,
+            fromZero,
+            SLOT(ClheUserSliderChanged(int)),
+            SLOT(ClheUserValueChanged(double)),
+            SLOT(clheSendCommand()),
+            {
+                SequencePlace::Clhe,
+                [](IDeviceControl &device) -> double { return device.getClhe(); },
+                [](IDeviceControl &device, double value) { return device.setClhe(truncateToUint32(value)); },
+                [](ISdkConfiguration &defaults) { return defaults.getDefaultClhe(); },
+                ShownIn::Slider,
+                "CLHE value = ",
+                LoggedAs::Double,
+                "Set CLHE value",
+            },
+        },
+        {
+            &Ui_MainWindow::sharpeningGainSlider,
+            &Ui_MainWindow::sharpeningGainEdit,
+            tenStepsAUnit,
+            fromZero,
+            SLOT(SharpeningUserSliderChanged(int)),
+            SLOT(SharpeningUserValueChanged(double)),
+            SLOT(sharpeningSendCommand()),
+        },
+        {
+            &Ui_MainWindow::SharpeningTHSlider,
+            &Ui_MainWindow::SharpeningTHEdit,
+            tenStepsAUnit,
+            fromZero,
+            SLOT(SharpeningTHSliderChanged(int)),
+            SLOT(SharpeningTHValueChanged(double)),
+            SLOT(sharpeningSendCommand()),
+        },
+        {
+            &Ui_MainWindow::AhcBlackGainLimSlider,
+            &Ui_MainWindow::AhcBlackGainLimSpin,
+            oneStepAUnit,
+            fromZero,
+            SLOT(AhcBlackGainlimSliderChanged(int)),
+            SLOT(AhcBlackGainLimSpinValueChanged(int)),
+            SLOT(ahcGainSendCommand()),
+        },
+        {
+            &Ui_MainWindow::AhcWhiteGainLimSlider,
+            &Ui_MainWindow::AhcWhiteGainLimSpin,
+            oneStepAUnit,
+            fromZero,
+            SLOT(AhcWhiteGainlimSliderChanged(int)),
+            SLOT(AhcWhiteGainLimSpinValueChanged(int)),
+            SLOT(ahcGainSendCommand()),
+        },
+        {
+            &Ui_MainWindow::TempoFilterSlider,
+            &Ui_MainWindow::TempoFilterSpin,
+            oneStepAUnit,
+            fromZero,
+            SLOT(TempoFilterSliderChanged(int)),
+            SLOT(TempoFiltSpinValueChanged(int)),
+            SLOT(tempoFilterSendCommand()),
+            {
+                SequencePlace::LutFilter,
+                [](IDeviceControl &device) -> double { return device.getLutTemporalFilter(); },
+                [](IDeviceControl &device, double value) {
+                    return device.setLutTemporalFilter(toByte(roundToInt(value)));
+                },
+                [](ISdkConfiguration &defaults) -> double { return defaults.getDefaultTempoFilter(); },
+                ShownIn::SpinBox,
+                "LUT temporal filter = ",
+                LoggedAs::Whole,
+                "Set LUT TEMPORAL FILTER value",
+            },
+        },
+        {
+            &Ui_MainWindow::gskSlider,
+            &Ui_MainWindow::gskEdit,
+            oneStepAUnit,
+            fromZero,
+            SLOT(GSKExpertSliderChanged(int)),
+            SLOT(GSKExpertValueChanged(double)),
+            SLOT(gskSendCommand()),
+            {
+                SequencePlace::Expert,
+                [](IDeviceControl &device) -> double { return device.getGsk(); },
+                [](IDeviceControl &device, double value) { return device.setGsk(truncateToUint32(value)); },
+                [](ISdkConfiguration &defaults) -> double { return defaults.getDefaultGsk(); },
+                ShownIn::Both,
+                "GSK value = ",
+                LoggedAs::Whole,
+                "Set GSK value",
+            },
+            {&ConfigurationWords::gskMinimum, &ConfigurationWords::gskMaximum,
+             &ConfigurationWords::gskDefault},
+        },
+        {
+            &Ui_MainWindow::gfidSlider,
+            &Ui_MainWindow::gfidEdit,
+            oneStepAUnit,
+            fromZero,
+            SLOT(GFIDExpertSliderChanged(int)),
+            SLOT(GFIDExpertValueChanged(double)),
+            SLOT(gfiSendCommand()),
+            {
+                SequencePlace::Expert,
+                [](IDeviceControl &device) -> double { return device.getGfid(); },
+                [](IDeviceControl &device, double value) { return device.setGfid(truncateToUint32(value)); },
+                [](ISdkConfiguration &defaults) -> double { return defaults.getDefaultGfid(); },
+                ShownIn::Both,
+                "GFID value = ",
+                LoggedAs::Whole,
+                "Set GFID value",
+            },
+            {&ConfigurationWords::gfidMinimum, &ConfigurationWords::gfidMaximum,
+             &ConfigurationWords::gfidDefault},
+        },
+        {
+            &Ui_MainWindow::gmsSlider,
+            &Ui_MainWindow::gmsEdit,
+            oneStepAUnit,
+            fromZero,
+            SLOT(GMSExpertSliderChanged(int)),
+            SLOT(GMSExpertValueChanged(double)),
+            SLOT(gmsSendCommand()),
+            {
+                SequencePlace::Expert,
+                [](IDeviceControl &device) -> double { return device.getGms(); },
+                [](IDeviceControl &device, double value) { return device.setGms(truncateToUint32(value)); },
+                [](ISdkConfiguration &defaults) -> double { return defaults.getDefaultGms(); },
+                ShownIn::Both,
+                "GMS value = ",
+                LoggedAs::Whole,
+                "Set GMS value",
+            },
+            // The number has 32 bits, whatever part of them the slider covers.
+            {&ConfigurationWords::gmsMinimum, &ConfigurationWords::gmsMaximum,
+             &ConfigurationWords::gmsDefault, true},
+        },
+        {
+            &Ui_MainWindow::tintSlider,
+            &Ui_MainWindow::tintEdit,
+            oneStepAUnit,
+            fromZero,
+            SLOT(TINTExpertSliderChanged(int)),
+            SLOT(TINTExpertValueChanged(double)),
+            SLOT(tintSendCommand()),
+            {
+                SequencePlace::Expert,
+                [](IDeviceControl &device) -> double { return device.getTint(); },
+                [](IDeviceControl &device, double value) { return device.setTint(truncateToUint32(value)); },
+                [](ISdkConfiguration &defaults) -> double { return defaults.getDefaultTint(); },
+                ShownIn::Both,
+                "TINT value = ",
+                LoggedAs::Whole,
+                "Set TINT value",
+            },
+            {&ConfigurationWords::tintMinimum, &ConfigurationWords::tintMaximum,
+             &ConfigurationWords::tintDefault},
+        },
+    };
+    return pairs;
+}
+
+const SliderPair &pairOf(QSlider *Ui_MainWindow::*slider)
+{
+    const std::vector<SliderPair> &pairs{sliderPairs()};
+    const auto found = std::find_if(pairs.begin(), pairs.end(),
+                                    [&](const SliderPair &pair) { return pair.slider == slider; });
+    if (found == pairs.end()) {
+        qFatal("A slider has a handler but no row");
+    }
+    return *found;
+}
+
+std::vector<const SliderPair *> pairsAt(SequencePlace place)
+{
+    std::vector<const SliderPair *> found;
+    for (const SliderPair &pair : sliderPairs()) {
+        if (pair.number.place == place) {
+            found.push_back(&pair);
+        }
+    }
+    return found;
+}
+
+QAbstractSpinBox *spinBoxOf(const Ui_MainWindow &ui, const SliderPair &pair)
+{
+    return std::visit([&](auto box) -> QAbstractSpinBox * { return ui.*box; }, pair.spinBox);
+}
+
+const char *valueChangedSignal(const SliderPair &pair)
+{
+    return std::holds_alternative<WholeSpinBox>(pair.spinBox) ? SIGNAL(valueChanged(int))
+                                                              : SIGNAL(valueChanged(double));
+}
+
+double spinBoxValue(const Ui_MainWindow &ui, const SliderPair &pair)
+{
+    return std::visit([&](auto box) -> double { return (ui.*box)->value(); }, pair.spinBox);
+}
+
+void showInSpinBox(const Ui_MainWindow &ui, const SliderPair &pair, double value)
+{
+    if (const auto *const whole = std::get_if<WholeSpinBox>(&pair.spinBox)) {
+        (ui.**whole)->setValue(roundToInt(value));
+    } else if (const auto *const fractional = std::get_if<FractionalSpinBox>(&pair.spinBox)) {
+        showNumber(*(ui.**fractional), value);
+    }
+}
+
+void followSlider(const Ui_MainWindow &ui, const SliderPair &pair, int position)
+{
+    const double unitsPerStep{1.0 / pair.stepsPerUnit};
+    const double value{position * unitsPerStep + pair.lowest};
+    if (const auto *const whole = std::get_if<WholeSpinBox>(&pair.spinBox)) {
+        setIfDifferent(*(ui.**whole), roundToInt(value));
+    } else if (const auto *const fractional = std::get_if<FractionalSpinBox>(&pair.spinBox)) {
+        setIfDifferent(*(ui.**fractional), value);
+    }
+}
+
+void followSpinBox(const Ui_MainWindow &ui, const SliderPair &pair, double value)
+{
+    setIfDifferent(*(ui.*pair.slider), roundToInt((value - pair.lowest) * pair.stepsPerUnit));
+}
