@@ -80,30 +80,21 @@ void MainWindow::readIdentity()
     appendLog(joinText("Startup number = ", info.startupCount));
 }
 
-bool MainWindow::readToggle(const ToggleSetting &setting)
+void MainWindow::readToggle(const ToggleSetting &setting)
 {
     const bool on{(device->*setting.get)()};
     QPushButton *const button{ui->*setting.button};
     button->setChecked(on);
     button->setText(tr(on ? setting.activatedText : setting.deactivatedText));
-    return on;
+    appendLog(setting.readWords == ToggleWords::EnabledDisabled ? joinText(setting.readLabel, enabledWord(on))
+                                                                : joinText(setting.readLabel, on));
 }
 
 void MainWindow::readOutputs()
 {
-    const struct
-    {
-        const ToggleSetting &setting;
-        const char *label;
-    } outputs[]{
-        {vignettingCorrection, "Vignetting Correction state = "},
-        {columnCorrection, "Column Correction state = "},
-        {sdiOutput, "BT656/SDI output value = "},
-        {parallelOutput, "Parallel output value = "},
-        {mipiOutput, "MIPI output value = "},
-    };
-    for (const auto &output : outputs) {
-        appendLog(joinText(output.label, enabledWord(readToggle(output.setting))));
+    for (const ToggleSetting *const setting :
+         {&vignettingCorrection, &columnCorrection, &sdiOutput, &parallelOutput, &mipiOutput}) {
+        readToggle(*setting);
     }
 
     ui->VideoOutputCB->setCurrentIndex(device->getVideoOutput());
@@ -115,8 +106,9 @@ void MainWindow::readOutputs()
 
 void MainWindow::readFlipAndPolarity()
 {
-    appendLog(joinText("Horizontal flip value = ", readToggle(horizontalFlip)));
-    appendLog(joinText("Polarity value = ", readToggle(polarity)));
+    for (const ToggleSetting *const setting : {&horizontalFlip, &polarity}) {
+        readToggle(*setting);
+    }
 }
 
 void MainWindow::readRegions()

@@ -215,7 +215,7 @@ private:
     /// Asks the unit for its versions and starts its reading; a unit that does not answer is told about.
     std::optional<veltrix_sdk::FirmwareVersions> startReadingUnit();
     void readIdentity();
-    bool readToggle(const ToggleSetting &setting);
+    void readToggle(const ToggleSetting &setting);
     void readOutputs();
     void readFlipAndPolarity();
     void readRegions();

@@ -6,6 +6,16 @@
 #include "ui_mainwindow.h"
 #include "veltrix_sdk/device_control.h"
 
+#include <QObject>
+#include <QPushButton>
+
+/// How the log says whether a setting is on.
+enum class ToggleWords
+{
+    EnabledDisabled,
+    OneZero,
+};
+
 /// An on/off setting of the camera and the button that shows it.
 struct ToggleSetting
 {
@@ -14,6 +24,8 @@ struct ToggleSetting
     const char *deactivatedText; ///< Of the button while the setting is off.
     bool (veltrix_sdk::IDeviceControl::*get)();
     bool (veltrix_sdk::IDeviceControl::*set)(bool);
+    const char *readLabel; ///< What the log says before the state that was read.
+    ToggleWords readWords;
     const char *action; ///< What the log says was set, before OK or KO.
 };
 
@@ -23,6 +35,8 @@ inline constexpr ToggleSetting columnCorrection{
     QT_TRANSLATE_NOOP("MainWindow", "Column Correction: Deactivated"),
     &veltrix_sdk::IDeviceControl::getColumnCorrection,
     &veltrix_sdk::IDeviceControl::setColumnCorrection,
+    "Column Correction state = ",
+    ToggleWords::EnabledDisabled,
     "Set column correction value",
 };
 
@@ -32,6 +46,8 @@ inline constexpr ToggleSetting vignettingCorrection{
     QT_TRANSLATE_NOOP("MainWindow", "Vignetting Correction: Deactivated"),
     &veltrix_sdk::IDeviceControl::getVignettingCorrection,
     &veltrix_sdk::IDeviceControl::setVignettingCorrection,
+    "Vignetting Correction state = ",
+    ToggleWords::EnabledDisabled,
     "Set vignetting correction value",
 };
 
@@ -41,6 +57,8 @@ inline constexpr ToggleSetting sdiOutput{
     QT_TRANSLATE_NOOP("MainWindow", "BT656/SDI Output: Deactivated"),
     &veltrix_sdk::IDeviceControl::getSdiOutput,
     &veltrix_sdk::IDeviceControl::setSdiOutput,
+    "BT656/SDI output value = ",
+    ToggleWords::EnabledDisabled,
     "Set BT656/SDI OUTPUT value",
 };
 
@@ -50,6 +68,8 @@ inline constexpr ToggleSetting parallelOutput{
     QT_TRANSLATE_NOOP("MainWindow", "Parallel Output: Deactivated"),
     &veltrix_sdk::IDeviceControl::getParallelOutput,
     &veltrix_sdk::IDeviceControl::setParallelOutput,
+    "Parallel output value = ",
+    ToggleWords::EnabledDisabled,
     "Set PARALLEL OUTPUT value",
 };
 
@@ -59,6 +79,8 @@ inline constexpr ToggleSetting mipiOutput{
     QT_TRANSLATE_NOOP("MainWindow", "MIPI Output: Deactivated"),
     &veltrix_sdk::IDeviceControl::getMipiOutput,
     &veltrix_sdk::IDeviceControl::setMipiOutput,
+    "MIPI output value = ",
+    ToggleWords::EnabledDisabled,
     "Set MIPI OUTPUT value",
 };
 
@@ -68,6 +90,8 @@ inline constexpr ToggleSetting horizontalFlip{
     QT_TRANSLATE_NOOP("MainWindow", "Horizontal Flip: Deactivated"),
     &veltrix_sdk::IDeviceControl::getHorizontalFlip,
     &veltrix_sdk::IDeviceControl::setHorizontalFlip,
+    "Horizontal flip value = ",
+    ToggleWords::OneZero,
     "Set HORIZONTAL FLIP value",
 };
 
@@ -77,5 +101,7 @@ inline constexpr ToggleSetting polarity{
     QT_TRANSLATE_NOOP("MainWindow", "Invert Polarity: Deactivated"),
     &veltrix_sdk::IDeviceControl::getPolarity,
     &veltrix_sdk::IDeviceControl::setPolarity,
+    "Polarity value = ",
+    ToggleWords::OneZero,
     "Set POLARITY value",
 };
