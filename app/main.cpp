@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // The process entry: announces itself, brings the device SDK up and runs the main window.
 #include "mainwindow.h"
+#include "veltrix_sdk/logger.h"
 #include "veltrix_sdk/sdk.h"
 
 #include <QApplication>

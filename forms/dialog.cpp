@@ -6,6 +6,8 @@
 
 #include "ui_dialog.h"
 
+#include <QString>
+
 Dialog::Dialog(QWidget *parent) : QDialog{parent}, ui{new Ui_Dialog{}}
 {
     ui->setupUi(this);

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QWidget>
 
 class Ui_Dialog;
 

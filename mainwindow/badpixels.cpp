@@ -8,7 +8,8 @@
 #include "veltrix_sdk/device_control.h"
 #include "veltrix_sdk/numbers.h"
 
-#include <QObject>
+#include <QSpinBox>
+#include <QtGlobal>
 
 #include <cstdint>
 

@@ -7,9 +7,14 @@
 #include "ui_mainwindow.h"
 #include "veltrix_sdk/device_control.h"
 #include "veltrix_sdk/numbers.h"
+#include "veltrix_sdk/records.h"
 #include "widgetvalues.h"
 
+#include <QString>
+
+#include <cstdint>
 #include <optional>
+#include <string>
 
 using namespace veltrix_sdk;
 

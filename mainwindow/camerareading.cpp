@@ -7,12 +7,19 @@
 #include "region.h"
 #include "sliderpair.h"
 #include "togglesetting.h"
+#include "ui_mainwindow.h"
 #include "veltrix_sdk/device_control.h"
 #include "veltrix_sdk/numbers.h"
+#include "veltrix_sdk/records.h"
 #include "widgetvalues.h"
+
+#include <QPushButton>
+#include <QSpinBox>
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
+#include <iterator>
 #include <optional>
 
 using namespace veltrix_sdk;

@@ -9,6 +9,8 @@
 #include "veltrix_sdk/configuration.h"
 #include "widgetvalues.h"
 
+#include <QSpinBox>
+
 #include <cmath>
 
 using namespace veltrix_sdk;

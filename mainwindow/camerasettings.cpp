@@ -8,6 +8,10 @@
 #include "ui_mainwindow.h"
 #include "veltrix_sdk/device_control.h"
 
+#include <QPushButton>
+
+#include <cstdint>
+
 using veltrix_sdk::IDeviceControl;
 
 void MainWindow::columnCorrectionClicked()

@@ -6,14 +6,28 @@
 #include "portnames.h"
 #include "sliderpair.h"
 #include "ui_mainwindow.h"
+#include "veltrix_sdk/configuration.h"
+#include "veltrix_sdk/device_control.h"
+#include "veltrix_sdk/device_manager.h"
 #include "veltrix_sdk/numbers.h"
+#include "veltrix_sdk/records.h"
 #include "veltrix_sdk/sdk.h"
 
 #include <QAbstractSpinBox>
+#include <QIcon>
 #include <QMessageBox>
+#include <QSerialPortInfo>
+#include <QSlider>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+#include <QWidget>
 
+#include <cstdint>
+#include <string>
 #include <string_view>
 #include <utility>
+#include <variant>
 
 using namespace veltrix_sdk;
 

@@ -6,10 +6,13 @@
 #include "mainwindow.h"
 #include "sliderpair.h"
 #include "ui_mainwindow.h"
-#include "veltrix_sdk/sdk.h"
-#include "widgetvalues.h"
+#include "veltrix_sdk/configuration.h"
+#include "veltrix_sdk/device_control.h"
+#include "veltrix_sdk/records.h"
 
+#include <QCheckBox>
 #include <QMessageBox>
+#include <QString>
 
 using namespace veltrix_sdk;
 

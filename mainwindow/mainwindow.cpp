@@ -5,7 +5,10 @@
 
 #include "dialog.h"
 #include "ui_mainwindow.h"
+#include "veltrix_sdk/configuration.h"
 #include "veltrix_sdk/sdk.h"
+
+#include <QObject>
 
 using namespace veltrix_sdk;
 

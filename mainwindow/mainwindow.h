@@ -7,6 +7,8 @@
 #include <QList>
 #include <QMainWindow>
 #include <QSerialPortInfo>
+#include <QString>
+#include <QWidget>
 
 #include <cstdint>
 #include <optional>

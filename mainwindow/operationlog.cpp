@@ -4,12 +4,17 @@
 #include "encodings.h"
 #include "mainwindow.h"
 #include "ui_mainwindow.h"
+#include "veltrix_sdk/device_control.h"
+#include "veltrix_sdk/logger.h"
 #include "veltrix_sdk/numbers.h"
-#include "veltrix_sdk/sdk.h"
+#include "veltrix_sdk/records.h"
 #include "widgetvalues.h"
 
 #include <QScrollBar>
+#include <QString>
 #include <QTextCursor>
+
+#include <string>
 
 using namespace veltrix_sdk;
 

@@ -5,6 +5,9 @@
 
 #include "ui_mainwindow.h"
 
+#include <QCheckBox>
+#include <QSpinBox>
+
 /// A region of interest, by the number that the device's setters give it. The device's readers number the
 /// optional regions in another order, and neither side translates.
 enum class Region

@@ -5,13 +5,20 @@
 #include "mainwindow.h"
 #include "messageboxes.h"
 #include "region.h"
+#include "ui_mainwindow.h"
 #include "veltrix_sdk/device_control.h"
 #include "veltrix_sdk/numbers.h"
 
+#include <QByteArray>
+#include <QCheckBox>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
+#include <QSpinBox>
+#include <QtGlobal>
 
 #include <array>
+#include <cstdint>
+#include <string>
 
 using namespace veltrix_sdk;
 

@@ -6,9 +6,11 @@
 #include "encodings.h"
 #include "veltrix_sdk/configuration.h"
 #include "veltrix_sdk/device_control.h"
+#include "veltrix_sdk/records.h"
 #include "widgetvalues.h"
 
 #include <QObject>
+#include <QtGlobal>
 
 #include <algorithm>
 

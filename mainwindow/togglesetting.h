@@ -6,8 +6,8 @@
 #include "ui_mainwindow.h"
 #include "veltrix_sdk/device_control.h"
 
-#include <QObject>
 #include <QPushButton>
+#include <QtGlobal>
 
 /// How the log says whether a setting is on.
 enum class ToggleWords

@@ -4,8 +4,12 @@
 #include "mainwindow.h"
 #include "ui_mainwindow.h"
 #include "veltrix_sdk/device_control.h"
+#include "veltrix_sdk/numbers.h"
+
+#include <QPushButton>
 
 #include <array>
+#include <cstdint>
 
 /// A stream that the Blend Unit can deliver: the device's number of it, its button and what is told.
 struct VideoMode

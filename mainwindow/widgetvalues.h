@@ -7,6 +7,7 @@
 #include <QDoubleSpinBox>
 #include <QPlainTextEdit>
 #include <QSpinBox>
+#include <QString>
 
 #include <cstdint>
 

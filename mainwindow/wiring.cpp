@@ -6,6 +6,15 @@
 #include "sliderpair.h"
 #include "ui_mainwindow.h"
 
+#include <QCheckBox>
+#include <QComboBox>
+#include <QObject>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTabWidget>
+#include <QtGlobal>
+
 void MainWindow::wireTargetSelection()
 {
     connect(ui->Principal_tab, &QTabWidget::currentChanged, this, &MainWindow::targetChanged);
