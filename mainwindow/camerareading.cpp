@@ -19,6 +19,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 #include <iterator>
 #include <optional>
 
@@ -195,8 +196,8 @@ void MainWindow::readEdgeCorrection()
     ui->EdgeCorrectionCB->setCurrentIndex(edge.type);
     SharpeningUserValueChanged(edge.gain);
     SharpeningTHValueChanged(edge.firstThreshold);
-    // The first threshold is told by its distance from the second one; the device's own first threshold
-    // reaches the slider only.
+    // The first threshold of the log is derived from the second one; the device's own first threshold is
+    // shown by the slider alone.
     appendLog(joinText(
         "Correction type = ", +edge.type, "\nCorrection gain = ", edge.gain,
         "\nFirst threshold = ", static_cast<std::int64_t>(edge.secondThreshold) - edgeThresholdDistance,

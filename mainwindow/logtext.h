@@ -8,7 +8,7 @@
 #include <string>
 
 /// The pieces one after the other, in the default format of a text stream: doubles with six significant
-/// digits and no trailing zeros. A byte is to be given as a number (`+value`).
+/// digits and no trailing zeros. A byte would come out as a character: give it as `+value`.
 template <typename... Pieces>
 std::string joinText(const Pieces &...pieces)
 {

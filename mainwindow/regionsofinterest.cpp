@@ -141,7 +141,8 @@ void MainWindow::finishRegionEdit(int roiNumber, const RegionCoordinate &coordin
         if (first->value() > last) {
             first->setValue(last);
             const QScopedValueRollback<bool> whileShown{regionBoxOpen, true};
-            // Leaving this spin box may have brought the focus to another one, which the box takes it from.
+            // Who left this spin box for another one has the focus there: the message box takes it, and that
+            // one would report an edit that nobody made.
             const QSignalBlocker silence{focusWidget()};
             showAboutBox(this, tr("ROI"),
                          tr("ROI ") + tr(QByteArray::number(roiNumber)) + tr(coordinate.orderText));

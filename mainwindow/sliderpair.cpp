@@ -221,7 +221,7 @@ const SliderPair &pairOf(QSlider *Ui_MainWindow::*slider)
     const auto found = std::find_if(pairs.begin(), pairs.end(),
                                     [&](const SliderPair &pair) { return pair.slider == slider; });
     if (found == pairs.end()) {
-        qFatal("A slider has a handler but no row");
+        qFatal("a slider has a handler but no row");
     }
     return *found;
 }

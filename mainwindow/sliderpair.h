@@ -41,6 +41,7 @@ enum class ShownIn
     Both,
 };
 
+/// How the log writes a number that was read.
 enum class LoggedAs
 {
     Double, ///< With six significant digits: 123456789 becomes 1.23457e+08.
@@ -51,8 +52,11 @@ enum class LoggedAs
 struct CameraNumber
 {
     SequencePlace place{SequencePlace::None};
+    /// Reads it from the device.
     double (*get)(veltrix_sdk::IDeviceControl &device){nullptr};
+    /// Sends it; false when the device refuses it.
     bool (*set)(veltrix_sdk::IDeviceControl &device, double value){nullptr};
+    /// What a reset shows.
     double (*getDefault)(veltrix_sdk::ISdkConfiguration &defaults){nullptr};
     ShownIn shownIn{ShownIn::Slider};
     const char *readLabel{nullptr}; ///< What the log says before the number that was read.
@@ -65,7 +69,7 @@ struct ExpertWords
 {
     std::int32_t veltrix_sdk::ConfigurationWords::*minimum{nullptr};
     std::int32_t veltrix_sdk::ConfigurationWords::*maximum{nullptr};
-    std::int32_t veltrix_sdk::ConfigurationWords::*preset{nullptr};
+    std::int32_t veltrix_sdk::ConfigurationWords::*preset{nullptr}; ///< The default.
     /// The spin box keeps the range that the form gives it and alone holds the whole number.
     bool boxKeepsItsRange{false};
 };
@@ -91,10 +95,10 @@ struct SliderPair
 /// All of them, in the order in which they are connected and go through a sequence.
 const std::vector<SliderPair> &sliderPairs();
 
-/// The pair of a slider that has a row.
+/// The row of a slider; the program ends when there is none.
 const SliderPair &pairOf(QSlider *Ui_MainWindow::*slider);
 
-/// The pairs that stand at a place of the sequences.
+/// The pairs that stand at a place of the sequences, in the order of the rows.
 std::vector<const SliderPair *> pairsAt(SequencePlace place);
 
 QAbstractSpinBox *spinBoxOf(const Ui_MainWindow &ui, const SliderPair &pair);
