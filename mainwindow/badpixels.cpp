@@ -43,6 +43,7 @@ constexpr BprTransfer readTable{
     "BPR table correctly saved to ",
     ".",
 };
+// The text's slip is part of the product.
 constexpr BprTransfer writeTable{
     &IDeviceControl::writeBprTable,
     bprWriteCode,
@@ -89,7 +90,7 @@ void MainWindow::transferBprTable(const BprTransfer &transfer)
             return;
         }
     }
-    // Told also after a failure, which the box has told before.
+    // After a failure, this line follows the box all the same.
     appendLog(joinText(transfer.beforeFileName, "bpr_SN", device->getSerialNumber(), ".bin",
                        transfer.afterFileName));
 }

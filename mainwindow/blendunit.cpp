@@ -21,9 +21,16 @@ using namespace veltrix_sdk;
 namespace
 {
 
-/// The units whose zoom can be shown.
+// What readZoom takes. The program asks for the fusion zoom alone; the other one needs a call by name.
 constexpr int infraredZoom{0};
 constexpr int fusionZoom{2};
+
+// The slips in "Could not changed", "Could not saved" and "visisble" are part of the product.
+constexpr const char *warpRefused{"Could not changed warp configuration"};
+constexpr const char *agcRefused{"Could not changed visisble AGC configuration"};
+constexpr const char *clheRefused{"Could not changed visisble CLHE configuration"};
+constexpr const char *expertNotSaved{"Could not saved blend unit expert parameters"};
+constexpr const char *userNotSaved{"Could not saved blend unit parameters"};
 
 } // namespace
 
@@ -133,7 +140,7 @@ void MainWindow::fusionWarpClicked()
         truncateToInt32(ui->WarpA21CoeffSB->value()), truncateToInt32(ui->WarpA12CoeffSB->value()),
         truncateToInt32(ui->WarpA22CoeffSB->value()), truncateToInt32(ui->WarpA13CoeffSB->value()),
         truncateToInt32(ui->WarpA23CoeffSB->value()))};
-    reportOutcome(ok, "Warp configuration applied correctly", "Could not changed warp configuration");
+    reportOutcome(ok, "Warp configuration applied correctly", warpRefused);
 }
 
 void MainWindow::readVisibleAgc()
@@ -160,8 +167,7 @@ void MainWindow::visibleAgcChanged()
     if (isDeviceOpen()) {
         reportOutcome(device->setVisibleAgc(ui->VisAgcTargetSB->value(), toByte(ui->VisAgcTHSB->value()),
                                             toByte(ui->VisAgcCoeffSB->value())),
-                      "Visible AGC configuration applied correctly",
-                      "Could not changed visisble AGC configuration");
+                      "Visible AGC configuration applied correctly", agcRefused);
     }
 }
 
@@ -186,8 +192,7 @@ void MainWindow::visibleClheChanged()
 {
     if (isDeviceOpen()) {
         reportOutcome(device->setVisibleClhe(ui->VisClheTHSB->value(), toByte(ui->VisClheCoeffSB->value())),
-                      "Visible CLHE configuration applied correctly",
-                      "Could not changed visisble CLHE configuration");
+                      "Visible CLHE configuration applied correctly", clheRefused);
     }
 }
 
@@ -195,8 +200,7 @@ void MainWindow::saveBlendUnitExpertClicked()
 {
     if (isDeviceOpen()) {
         reportOutcome(device->saveBlendUnitParameters(saveExpertParameters),
-                      "Blend unit expert parameters have been saved",
-                      "Could not saved blend unit expert parameters");
+                      "Blend unit expert parameters have been saved", expertNotSaved);
     }
 }
 
@@ -204,6 +208,6 @@ void MainWindow::saveBlendUnitUserClicked()
 {
     if (isDeviceOpen()) {
         reportOutcome(device->saveBlendUnitParameters(saveUserParameters),
-                      "Blend unit parameters have been saved", "Could not saved blend unit parameters");
+                      "Blend unit parameters have been saved", userNotSaved);
     }
 }

@@ -12,6 +12,7 @@
 #include <QSpinBox>
 
 #include <cmath>
+#include <initializer_list>
 
 using namespace veltrix_sdk;
 
@@ -33,6 +34,8 @@ void MainWindow::ResetParamsUser()
         resetNumber(pairOf(slider), defaults);
     }
     resetRegions(defaults);
+    // The buttons and the vertical flip only show their defaults: a button sends when it is clicked, the flip
+    // with the expert parameters.
     ui->polarityButton->setChecked(defaults.getDefaultPolarity());
     ui->contrastTypeEdit->setCurrentIndex(defaults.getDefaultContrastType());
     // Whatever the default index says, a reset ends on the region-based algorithm.

@@ -64,6 +64,7 @@ void MainWindow::scanDevice()
 
     ui->selectDeviceComboBox->clear();
     if (names.isEmpty()) {
+        // The text's slip is part of the product.
         QMessageBox::warning(this, QString{},
                              tr("No COM port found!\nPlease, plug a COM port ans scan again."),
                              QMessageBox::Ok);
@@ -89,7 +90,8 @@ bool MainWindow::isDeviceOpen() const
 
 bool MainWindow::openCommunication(std::string port)
 {
-    // A connection whose read failed, or whose port gave no device, is still to be handed back.
+    // After a read that failed, the device is still open; after a port that gave no device, the manager is
+    // still held. Both are returned before the next attempt.
     disconnectDevice();
     returnDevice();
 
@@ -200,6 +202,8 @@ void MainWindow::targetChanged(int target)
     if (!isDeviceOpen()) {
         return;
     }
+    // A page's place is its unit's target. The pages after the second are no unit: the device refuses them,
+    // and the unit that was addressed last stays.
     lastCommandOk = device->setTarget(target);
     if (lastCommandOk) {
         readTemp(target);

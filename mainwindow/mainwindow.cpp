@@ -15,7 +15,7 @@ using namespace veltrix_sdk;
 namespace
 {
 
-/// Deliberately never freed.
+/// Never freed, on purpose: the SDK may still know the address after the window is gone.
 template <typename Object>
 Object *allocateForProcess()
 {
@@ -54,8 +54,8 @@ MainWindow::MainWindow(QWidget *parent)
 
 MainWindow::~MainWindow()
 {
-    // The base class destroys the widgets when the form holder is gone already; one that loses the focus
-    // on the way would still report its edit to a handler.
+    // The base class destroys the widgets after the form holder is gone. A spin box that loses the focus then
+    // would still run its handler, which uses the form holder.
     for (QObject *const child : findChildren<QObject *>()) {
         child->disconnect(this);
     }
@@ -64,6 +64,9 @@ MainWindow::~MainWindow()
 
 void MainWindow::removeWhatDoesNotApply(bool expertMode)
 {
+    constexpr int zoomPage{2};
+    constexpr int badPixelsPage{3}; // Once the zoom page is gone.
+
     if (!expertMode) {
         ui->KR_tab->removeTab(ui->KR_tab->count() - 1);
         ui->Principal_tab->removeTab(ui->Principal_tab->count() - 1);
@@ -73,10 +76,10 @@ void MainWindow::removeWhatDoesNotApply(bool expertMode)
 
     // Administration, zoom and bad pixels are hidden in every installation; their handlers stay connected.
     ui->FusionAdministratorCommands->hide();
-    ui->KR_tab->removeTab(2);
+    ui->KR_tab->removeTab(zoomPage);
     ui->verticalFlipCheckBox->hide();
     ui->krBaudRateHLayout->hide();
-    ui->KR_tab->removeTab(3);
+    ui->KR_tab->removeTab(badPixelsPage);
 }
 
 void MainWindow::createAboutWindow()

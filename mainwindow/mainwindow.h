@@ -196,7 +196,7 @@ private:
     // Connection
     /// Fetched afresh at each use: the SDK may replace it.
     static veltrix_sdk::ISdkConfiguration &sdkConfiguration();
-    /// The call without arguments on the SDK root that ends an apply.
+    /// Ends an apply: a call on the SDK root whose result nobody uses, but which the SDK sees.
     static void closeApply();
     bool isDeviceOpen() const;
     void returnDevice();
@@ -214,7 +214,8 @@ private:
     void resetNumbers(SequencePlace place, veltrix_sdk::ISdkConfiguration &defaults);
 
     // Camera parameters
-    /// Asks the unit for its versions and starts its reading; a unit that does not answer is told about.
+    /// Asks the unit for its versions and starts its reading. When the unit does not answer, a box and a line
+    /// say so, and the result is empty.
     std::optional<veltrix_sdk::FirmwareVersions> startReadingUnit();
     void readIdentity();
     void readToggle(const ToggleSetting &setting);
@@ -248,8 +249,8 @@ private:
     veltrix_sdk::IDeviceControl *device{nullptr};
     veltrix_sdk::IDeviceManager *deviceManager{nullptr};
     std::string portName;
-    QDir currentDir{QString{}};
-    QSerialPortInfo *selectedPortInfo; ///< Lives until the process ends.
+    QDir currentDir{QString{}};        ///< Nobody reads it; kept on purpose.
+    QSerialPortInfo *selectedPortInfo; ///< Nobody reads it; kept on purpose, until the process ends.
     QList<QSerialPortInfo> serialPorts;
     std::uint8_t *deviceIdentity; ///< Lives until the process ends: the SDK is given its address.
     bool regionBoxOpen{false};    ///< While the box about the order of a region's coordinates is shown.

@@ -23,11 +23,15 @@ struct VideoMode
 namespace
 {
 
+/// No mode at all: what a read starts from.
+constexpr std::uint8_t unknownMode{99};
+
 constexpr std::array<VideoMode, 3> videoModes{{
     {0, &Ui_MainWindow::BU_IR_MODE_PB, "IR mode activated", "Could not configure IR mode"},
     {1, &Ui_MainWindow::BU_VISIBLE_MODE_PB, "Visible mode activated", "Could not configure visible mode"},
     {2, &Ui_MainWindow::BU_FUSION_MODE_PB, "Fusion mode activated", "Could not configure fusion mode"},
 }};
+static_assert(videoModes.size() == veltrix_sdk::videoModeRange.maximum + 1);
 
 } // namespace
 
@@ -89,6 +93,7 @@ void MainWindow::startingModeChanged()
 {
     if (isDeviceOpen()) {
         const auto index = static_cast<std::uint32_t>(ui->startingModeCB->currentIndex());
+        // The text's slip is part of the product.
         reportOutcome(device->setStartingMode(index), "Blend unit starting mode set",
                       "Could not changed blend unit starting mode");
     }
@@ -99,7 +104,7 @@ void MainWindow::readStartingMode()
     if (!isDeviceOpen()) {
         return;
     }
-    std::uint8_t mode{99};
+    std::uint8_t mode{unknownMode};
     lastCommandOk = device->getStartingMode(&mode);
     if (lastCommandOk) {
         ui->startingModeCB->setCurrentIndex(mode);

@@ -15,6 +15,8 @@
 #include <QTabWidget>
 #include <QtGlobal>
 
+#include <initializer_list>
+
 void MainWindow::wireTargetSelection()
 {
     connect(ui->Principal_tab, &QTabWidget::currentChanged, this, &MainWindow::targetChanged);
@@ -22,6 +24,7 @@ void MainWindow::wireTargetSelection()
 
 void MainWindow::wireSlidersAndSpinBoxes()
 {
+    // By text, as the rows name their slots; one kind of connection after the other.
     for (const SliderPair &pair : sliderPairs()) {
         connect(ui->*pair.slider, SIGNAL(valueChanged(int)), this, pair.sliderChanged);
     }
@@ -48,8 +51,8 @@ void MainWindow::wireRegions()
 
 void MainWindow::wireZoomFactor()
 {
-    // Neither the signal nor the slot exists: Qt warns and the factor stays without a handler of its own.
-    // Configure Zoom is what sends a zoom.
+    // Neither the signal nor the slot exists: Qt warns at every start, and nothing is connected. Configure
+    // Zoom is what sends a zoom.
     connect(ui->factorZoomEdit, SIGNAL(valueChanged(int)), this, SLOT(zoomChanged()));
 }
 
@@ -62,6 +65,7 @@ void MainWindow::wireFinishedEdits()
 
 void MainWindow::wireButtons()
 {
+    // resetBPRTableButton and bpGraphicEditorButton have no handler.
     connect(ui->resetParamButtonUser, &QPushButton::clicked, this, &MainWindow::ResetParamsUser);
     connect(ui->readParamButtonUser, &QPushButton::clicked, this, &MainWindow::readAllParameters);
     connect(ui->readParamButtonExpert, &QPushButton::clicked, this, &MainWindow::readParamsExpert);
@@ -101,6 +105,7 @@ void MainWindow::wireButtons()
 
 void MainWindow::wireCheckBoxes()
 {
+    // verticalFlipCheckBox and checkBox have no handler: the first is sent with the expert parameters.
     connect(ui->roi1IncEnable, &QCheckBox::stateChanged, this, &MainWindow::roi1IncCheck);
     connect(ui->roi0ExcEnable, &QCheckBox::stateChanged, this, &MainWindow::roi0ExcCheck);
     connect(ui->roi1ExcEnable, &QCheckBox::stateChanged, this, &MainWindow::roi1ExcCheck);
