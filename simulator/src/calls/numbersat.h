@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <cstring>
+#include <tuple>
 #include <type_traits>
 
 namespace veltrix_simulator
@@ -15,7 +16,8 @@ namespace veltrix_simulator
 
 /// A number that is no member of a record.
 template <Kind kind>
-inline constexpr Member plainNumber{nullptr, kind, 0, sizeof(TypeOf<kind>), nullptr, Field{}};
+inline constexpr Member plainNumber{nullptr, kind, 0, sizeof(TypeOf<kind>), std::tuple_size_v<Records>,
+                                    Field{}};
 
 /// A number or the members of a record in memory, which may be missing. Every number of the contract is exact
 /// in a double. Who made it of a record that can only be read does not set it.

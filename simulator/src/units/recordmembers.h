@@ -8,14 +8,22 @@
 #include "veltrix_sdk/records.h"
 
 #include <cstddef>
-#include <iterator>
+#include <tuple>
+#include <type_traits>
 
 namespace veltrix_simulator
 {
 
-/// The address of this constant identifies a record type.
-template <typename Record>
-inline constexpr char recordTag{};
+/// The records that the contract exchanges.
+using Records =
+    std::tuple<veltrix_sdk::FirmwareVersions, veltrix_sdk::Temperatures, veltrix_sdk::OperatingInfo,
+               veltrix_sdk::EdgeCorrection, veltrix_sdk::AhcGainLimitation, veltrix_sdk::ZoomConfig,
+               veltrix_sdk::ZoomResolution, veltrix_sdk::VisibleAgc, veltrix_sdk::VisibleClhe,
+               veltrix_sdk::Warp>;
+
+/// Whether the contract exchanges this type as a record.
+template <typename T>
+inline constexpr bool isRecord = placeAmong<T, Records> < std::tuple_size_v<Records>;
 
 /// One member of a record.
 struct Member
@@ -24,7 +32,7 @@ struct Member
     Kind kind;
     std::size_t offset; ///< Bytes.
     std::size_t size;   ///< Bytes.
-    const char *record; ///< The recordTag of its record.
+    std::size_t record; ///< Place of its record among Records.
     Field field;        ///< What holds it.
 };
 
@@ -36,7 +44,7 @@ inline constexpr Member recordMembers[]{
      kindOf<decltype(veltrix_sdk::record::member)>(),                                                        \
      offsetof(veltrix_sdk::record, member),                                                                  \
      sizeof(veltrix_sdk::record::member),                                                                    \
-     &recordTag<veltrix_sdk::record>,                                                                        \
+     placeAmong<veltrix_sdk::record, Records>,                                                               \
      Field::name},
 #include "units/unitfields.inc"
 };
@@ -51,14 +59,13 @@ struct Members
     constexpr const Member *end() const { return first + count; }
 };
 
-/// The members of a record; none for another type. The stream of Warp is not among them: the caller fills it
-/// in.
+/// The members of a record. The stream of Warp is not among them: the caller fills it in.
 template <typename Record>
 constexpr Members membersOf()
 {
     Members members{nullptr, 0};
     for (const Member &member : recordMembers) {
-        if (member.record == &recordTag<Record>) {
+        if (member.record == placeAmong<Record, Records>) {
             if (members.count > 0 && member.offset == members.first->offset) {
                 return members;
             }
@@ -67,10 +74,6 @@ constexpr Members membersOf()
     }
     return members;
 }
-
-/// Whether the contract exchanges this type as a record.
-template <typename T>
-inline constexpr bool isRecord = membersOf<T>().count > 0;
 
 /// Whether the members, from an offset on, are all that the record has, in its order, in fields that follow
 /// each other.
@@ -92,16 +95,16 @@ constexpr bool holdsAllOf(std::size_t offset)
     return (offset + alignment - 1) / alignment * alignment == sizeof(Record);
 }
 
-static_assert(holdsAllOf<veltrix_sdk::FirmwareVersions>(0));
-static_assert(holdsAllOf<veltrix_sdk::Temperatures>(0));
-static_assert(holdsAllOf<veltrix_sdk::OperatingInfo>(0));
-static_assert(holdsAllOf<veltrix_sdk::EdgeCorrection>(0));
-static_assert(holdsAllOf<veltrix_sdk::AhcGainLimitation>(0));
-static_assert(holdsAllOf<veltrix_sdk::ZoomConfig>(0));
-static_assert(holdsAllOf<veltrix_sdk::ZoomResolution>(0));
-static_assert(holdsAllOf<veltrix_sdk::VisibleAgc>(0));
-static_assert(holdsAllOf<veltrix_sdk::VisibleClhe>(0));
-static_assert(holdsAllOf<veltrix_sdk::Warp>(sizeof(veltrix_sdk::Warp::stream)));
+template <typename... Each>
+constexpr bool holdsAllOfEach(const std::tuple<Each...> * /*records*/)
+{
+    // A warp matrix begins behind its stream.
+    return (
+        holdsAllOf<Each>(std::is_same_v<Each, veltrix_sdk::Warp> ? sizeof(veltrix_sdk::Warp::stream) : 0) &&
+        ...);
+}
+
+static_assert(holdsAllOfEach(static_cast<const Records *>(nullptr)));
 
 /// Whether every stream has the same members, so that the fields of one are found from those of another.
 constexpr bool warpStreamsAreAlike()

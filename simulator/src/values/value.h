@@ -11,7 +11,6 @@
 #include <string_view>
 #include <tuple>
 #include <type_traits>
-#include <utility>
 
 namespace veltrix_simulator
 {
@@ -40,16 +39,22 @@ using TypeOf = std::tuple_element_t<static_cast<std::size_t>(kind), NumericTypes
 namespace detail
 {
 
-template <typename T, std::size_t... index>
-constexpr Kind numericKind(std::index_sequence<index...> /*indices*/)
+template <typename T, typename... Types>
+constexpr std::size_t placeIn(const std::tuple<Types...> * /*list*/)
 {
-    constexpr std::size_t place =
-        ((std::is_same_v<T, std::tuple_element_t<index, NumericTypes>> ? index + 1 : 0) + ...);
-    static_assert(place != 0, "no kind stands for this type");
-    return static_cast<Kind>(place - 1);
+    constexpr bool isSame[]{std::is_same_v<T, Types>...};
+    std::size_t place{0};
+    while (place < sizeof...(Types) && !isSame[place]) {
+        ++place;
+    }
+    return place;
 }
 
 } // namespace detail
+
+/// Where a type stands among those of a tuple; their count when it is not among them.
+template <typename T, typename Tuple>
+inline constexpr std::size_t placeAmong = detail::placeIn<T>(static_cast<const Tuple *>(nullptr));
 
 /// The kind of a type.
 template <typename T>
@@ -60,7 +65,9 @@ constexpr Kind kindOf()
     } else if constexpr (std::is_pointer_v<T>) {
         return Kind::Object;
     } else {
-        return detail::numericKind<T>(std::make_index_sequence<std::tuple_size_v<NumericTypes>>{});
+        constexpr std::size_t place{placeAmong<T, NumericTypes>};
+        static_assert(place < std::tuple_size_v<NumericTypes>, "no kind stands for this type");
+        return static_cast<Kind>(place);
     }
 }
 
