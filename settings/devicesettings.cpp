@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// Every setting of the device by its key: where it belongs, what it may be, how it is read and written.
+#include "devicesettings.h"
+
+#include <algorithm>
+
+namespace device_settings
+{
+
+namespace
+{
+
+/// Whether every number of the setting reaches the device as it is.
+bool isSentUnchanged(const Setting &setting, const Values &values)
+{
+    for (std::size_t place{0}; place < setting.fields.size(); ++place) {
+        if (setting.fields[place].sentWhole && !isWhole(values[place])) {
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+bool isUsedOn(UsedOn usedOn, Unit unit)
+{
+    return usedOn == UsedOn::Both || (usedOn == UsedOn::Camera) == (unit == Unit::Camera);
+}
+
+std::vector<Place> placesOf(const std::vector<Setting> &table)
+{
+    std::vector<Place> places;
+    for (const Unit unit : units) {
+        for (const Setting &setting : table) {
+            for (std::size_t field{0}; field < setting.fields.size(); ++field) {
+                if (isUsedOn(setting.usedOn, unit)) {
+                    places.push_back({unit, &setting, field});
+                }
+            }
+        }
+    }
+    return places;
+}
+
+std::string keyOf(const Place &place)
+{
+    const std::string prefix{place.unit == Unit::Camera ? "camera." : "blendUnit."};
+    const std::string &field{place.setting->fields[place.field].name};
+    return prefix + place.setting->key + (field.empty() ? "" : '.' + field);
+}
+
+std::optional<Place> findSetting(const std::vector<Setting> &table, std::string_view key)
+{
+    const std::vector<Place> places{placesOf(table)};
+    const auto found =
+        std::find_if(places.begin(), places.end(), [&](const Place &place) { return keyOf(place) == key; });
+    return found == places.end() ? std::nullopt : std::optional{*found};
+}
+
+RegionFlags readRegionFlags(Device &device)
+{
+    return {device.getRoiX1(1) != 0, device.getRoiX1(2) != 0, device.getRoiX1(3) != 0};
+}
+
+std::optional<Values> readAll(Device &device, const Setting &setting)
+{
+    Values values(setting.fields.size());
+    return setting.read(device, values) == 1 ? std::optional{values} : std::nullopt;
+}
+
+Written writeField(Device &device, const Setting &setting, std::size_t field, double number)
+{
+    const Field &written = setting.fields[field];
+    if (!setting.write || written.derived) {
+        return Written::NotSent;
+    }
+    const bool needsWhole{written.sentWhole || (written.kind != Kind::Float && written.kind != Kind::Double)};
+    if (!allows(written.allowed, number) || (needsWhole && !isWhole(number))) {
+        return Written::NotAllowed;
+    }
+    std::optional<Values> values = readAll(device, setting);
+    if (!values) {
+        return Written::NotRead;
+    }
+    (*values)[field] = number;
+    if (!isSentUnchanged(setting, *values)) {
+        return Written::NotKept;
+    }
+    const RegionFlags flags{setting.sendsRegionFlags ? readRegionFlags(device) : RegionFlags{}};
+    return setting.write(device, *values, flags) ? Written::Acknowledged : Written::Refused;
+}
+
+} // namespace device_settings

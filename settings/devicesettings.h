@@ -1,0 +1,126 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// Every setting of the device by its key: where it belongs, what it may be, how it is read and written.
+#pragma once
+
+#include "values.h"
+#include "veltrix_sdk/device_control.h"
+#include "veltrix_sdk/numbers.h"
+#include "veltrix_sdk/records.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace device_settings
+{
+
+/// A unit by the number that setTarget takes.
+enum class Unit : std::int32_t
+{
+    BlendUnit = veltrix_sdk::targetBlendUnit,
+    Camera = veltrix_sdk::targetCamera,
+};
+
+inline constexpr std::array<Unit, 2> units{Unit::BlendUnit, Unit::Camera};
+
+/// The unit that a setting belongs to. The other one answers its operations as well, with nothing that
+/// counts.
+enum class UsedOn
+{
+    BlendUnit,
+    Camera,
+    Both,
+};
+
+bool isUsedOn(UsedOn usedOn, Unit unit);
+
+/// One number of a setting.
+struct Field
+{
+    std::string name; ///< Such as "threshold"; empty where the setting is this number alone.
+    Kind kind;
+    Allowed allowed;      ///< What the unit answers when all is well, and what it accepts.
+    std::string meaning;  ///< One line in plain words.
+    std::string quantity; ///< What one is one of, such as "Hz" or "pixels"; empty for a mere number.
+    bool derived{false};  ///< It is not sent; the device derives it from the others.
+    /// It is sent as a whole number although it is read with a fraction.
+    bool sentWhole{false};
+};
+
+/// Which of the optional regions are on. No operation reads it; the first column of a region that is off is
+/// 0.
+struct RegionFlags
+{
+    bool roi1Inclusive{false};
+    bool roi0Exclusive{false};
+    bool roi1Exclusive{false};
+};
+
+using Device = veltrix_sdk::IDeviceControl;
+
+/// What is read by one operation and written by another, on the unit that is selected.
+struct Setting
+{
+    std::string key; ///< Without the unit and the field, such as "gamma", "visibleAgc", "roi1.x1".
+    UsedOn usedOn;
+    std::vector<Field> fields;
+    std::string get;    ///< Name of the operation that reads.
+    std::string detail; ///< What is asked for, such as "(2)" for the third region; empty where nothing is.
+    /// Reads into as many values as there are fields; the result is success only if it is 1.
+    std::function<std::uint8_t(Device &, Values &)> read;
+    std::string set{}; ///< Name of the operation that writes; empty where there is none.
+    /// Sends one value for each field but the derived ones; what its type cannot hold becomes the nearest
+    /// number that it can. The flags travel with a region. Returns whether the unit acknowledged.
+    std::function<bool(Device &, const Values &, RegionFlags)> write{};
+    bool sendsRegionFlags{false};
+    bool steady{true}; ///< Answers the same as long as nothing is written.
+};
+
+/// Every setting and every other value that the device answers, in the order in which the program reads
+/// them. The words give the ranges of the expert values.
+std::vector<Setting> deviceSettings(const veltrix_sdk::ConfigurationWords &words);
+
+/// Where a key leads.
+struct Place
+{
+    Unit unit;
+    const Setting *setting; ///< One of the table.
+    std::size_t field;
+};
+
+/// All numbers of the settings, each on the units that it belongs to: first all of the Blend Unit. The table
+/// outlives the places.
+std::vector<Place> placesOf(const std::vector<Setting> &table);
+/// Such as "camera.gamma" or "blendUnit.visibleAgc.threshold".
+std::string keyOf(const Place &place);
+/// The number behind a key; nothing when no setting that belongs to this unit has it. The table outlives the
+/// place.
+std::optional<Place> findSetting(const std::vector<Setting> &table, std::string_view key);
+
+/// The flags of an open device, from the first columns of the regions under the setters' numbers.
+RegionFlags readRegionFlags(Device &device);
+
+/// All numbers of a setting as the selected unit answers them; nothing when the unit does not acknowledge.
+std::optional<Values> readAll(Device &device, const Setting &setting);
+
+/// How writing one number ended.
+enum class Written
+{
+    Acknowledged,
+    Refused,    ///< By the unit.
+    NotAllowed, ///< The number is out of range, or has a fraction that cannot be sent; nothing was sent.
+    NotSent,    ///< No operation sends this number; nothing was sent.
+    NotRead,    ///< The other numbers of the setting could not be read; nothing was sent.
+    NotKept,    ///< Another number of the setting has a fraction and would change; nothing was sent.
+};
+
+/// Sets one number of a setting on the selected unit and sends the others as they are read from it.
+Written writeField(Device &device, const Setting &setting, std::size_t field, double number);
+
+} // namespace device_settings
