@@ -3,13 +3,25 @@
 // The check of an SDK library: runs every row of the tables on the device behind a port.
 #include "check.h"
 
+#include "configurationvalues.h"
+#include "devicesettings.h"
+#include "escaped.h"
 #include "openeddevice.h"
+#include "readings.h"
+#include "report.h"
 #include "rounds.h"
+#include "values.h"
+#include "veltrix_sdk/numbers.h"
 #include "writing.h"
 
 #include <array>
+#include <cstddef>
+#include <cstdint>
 #include <string_view>
+#include <utility>
+#include <vector>
 
+using namespace device_settings;
 using namespace veltrix_sdk;
 
 namespace sdk_check
@@ -19,6 +31,11 @@ namespace
 {
 
 const std::string noUnit{};
+
+std::string inQuotes(const char *text)
+{
+    return '"' + escaped(text) + '"';
+}
 
 /// One run of the check.
 class Run
@@ -47,22 +64,23 @@ public:
     }
 
 private:
-    /// Both insertions, as the program's log uses them. A library without its logger ends the process here,
-    /// before anything is opened.
+    /// Inserts a text of each kind, as the program's log does. With a library that lacks the logger the
+    /// process ends here, before anything is opened.
     void writeLogRecord()
     {
         SDKLogger(severity_info).GetILogger() << std::string{"Check of the SDK library"} << " on a port";
         say(true, "SDKLogger", noUnit, "a record of two insertions");
     }
 
-    /// The link: what it is, and its speed, which only takes a call.
+    /// The kind of the link must be right; its speed is set, and nothing tells whether that worked.
     bool checkLink(ISdkConfiguration &configuration)
     {
         const char *const type{report.timed("getCommunicationType", noUnit,
                                             [&] { return configuration.getCommunicationType(); })};
-        const bool uart{type != nullptr && type == std::string_view{"UART"}};
-        const std::string said{type == nullptr ? "null" : '"' + escaped(type) + '"'};
-        say(uart, "getCommunicationType", noUnit, uart ? said : "answers " + said + "; \"UART\" is allowed");
+        const bool uart{type != nullptr && type == std::string_view{uartCommunication}};
+        const std::string said{type == nullptr ? "null" : inQuotes(type)};
+        say(uart, "getCommunicationType", noUnit,
+            uart ? said : "answers " + said + "; " + inQuotes(uartCommunication) + " is allowed");
         const std::int32_t baudRate{
             report.timed("getDefaultBaudRate", noUnit, [&] { return configuration.getDefaultBaudRate(); })};
         report.timed("setBaudRate", noUnit, [&] { configuration.setBaudRate(baudRate); });
@@ -72,36 +90,37 @@ private:
 
     void checkConfiguration(ISdkConfiguration &configuration)
     {
-        for (const ConfigurationReading &row : configurationReadings(configuration.words)) {
+        for (const ConfigurationValue &row : configurationValues(configuration.words)) {
             if (stopped()) {
                 return;
             }
             const auto read = [&] {
                 return row.read(configuration);
             };
-            const double number{row.called ? report.timed(row.get, noUnit, read) : read()};
+            const double number{row.isOperation ? report.timed(row.get, noUnit, read) : read()};
             const bool allowed{allows(row.allowed, number)};
             say(allowed, row.get, noUnit,
-                allowed ? numberText(number, row.allowed.boolean)
+                allowed ? numberText(number, row.kind)
                         : "answers " + numberText(number) + "; " + describe(row.allowed));
         }
     }
 
     void checkDevice(const ConfigurationWords &words)
     {
+        const std::vector<Setting> table{deviceSettings(words)};
         OpenedDevice device{sdk, report};
-        if (!device.open(options.port)) {
+        if (!device.open(options.port, identityOf(table))) {
             return;
         }
-        readAll(device, words);
+        const std::vector<Setting> rows{readingsOf(table)};
+        readRounds(device, rows);
         if (options.write) {
-            writeAll(device, words);
+            writeEach(device, rows);
         }
     }
 
-    void readAll(OpenedDevice &device, const ConfigurationWords &words)
+    void readRounds(OpenedDevice &device, const std::vector<Setting> &rows)
     {
-        const std::vector<Reading> rows{deviceReadings(words, {})};
         std::array<Rounds, units.size()> roundsOfUnits{Rounds{device, rows, Unit::BlendUnit, report},
                                                        Rounds{device, rows, Unit::Camera, report}};
         for (int round{0}; round < options.rounds; ++round) {
@@ -116,14 +135,16 @@ private:
         }
     }
 
-    void writeAll(OpenedDevice &device, const ConfigurationWords &words)
+    void writeEach(OpenedDevice &device, const std::vector<Setting> &rows)
     {
         for (const Unit unit : units) {
             if (stopped() || !device.select(unit)) {
                 continue;
             }
-            const RegionFlags flags{unit == Unit::Camera ? device.regionFlags() : RegionFlags{}};
-            for (const Reading &row : deviceReadings(words, flags)) {
+            if (unit == Unit::Camera) {
+                device.noteRegionFlags();
+            }
+            for (const Setting &row : rows) {
                 if (row.write && isUsedOn(row.usedOn, unit)) {
                     tryWriting(device, row, unit, report, interrupted);
                 }

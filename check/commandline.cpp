@@ -12,13 +12,11 @@ namespace
 constexpr int mostRounds{10000};
 
 constexpr const char *description{
-    "Checks the library veltrix.sdk that this program finds, on the device behind a port: what answers as "
-    "the\n"
+    "Checks the library veltrix.sdk that this program finds, on the device behind a port: what answers as the\n"
     "contract demands, what does not, and how long each operation takes. Without --port it lists the ports.\n"
     "\n"
     "Without --write it only reads; of the commands it calls setBaudRate with the default, setTarget and\n"
-    "startReading. With --write it sets each setting to another value and back. It never calls what "
-    "outlasts\n"
+    "startReading. With --write it sets each setting to another value and back. It never calls what outlasts\n"
     "the power of the device: saveBlendUnitParameters, setMavlinkBaudRate, processNucRequest, readBprTable,\n"
     "writeBprTable, addBadPixel, removeBadPixel.\n"
     "\n"
@@ -37,9 +35,9 @@ int roundsOf(const QString &text)
 CommandLine parseCommandLine(const QStringList &arguments)
 {
     const QCommandLineOption port{"port", "The port of the device, such as COM3, ttyUSB0 or SIM1.", "name"};
-    const QCommandLineOption write{"write",
-                                   "Also sets each setting to another allowed value, reads it and puts "
-                                   "back what was there, after Ctrl-C as well."};
+    const QCommandLineOption write{
+        "write",
+        "Also sets each setting to another allowed value, reads it and puts back what was there, after Ctrl-C as well."};
     const QCommandLineOption repeat{
         "repeat", QString{"Reads everything so many times, 1 to %1; 3 if not given."}.arg(mostRounds),
         "count", "3"};

@@ -17,5 +17,5 @@ struct CommandLine
     QString helpText;
 };
 
-/// The command line without surprises: an argument that is not known, or too much, is an error.
+/// Reads the arguments; one that is not known, or too much, is an error.
 CommandLine parseCommandLine(const QStringList &arguments);

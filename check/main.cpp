@@ -1,17 +1,20 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // The console program that checks a delivery of the SDK library.
-#include "answers.h"
 #include "check.h"
 #include "commandline.h"
+#include "escaped.h"
 #include "interruption.h"
 #include "portnames.h"
 #include "veltrix_sdk/sdk.h"
 
 #include <QCoreApplication>
 #include <QSerialPortInfo>
+#include <QString>
+#include <QStringList>
 
 #include <iostream>
+#include <ostream>
 
 namespace
 {

@@ -3,9 +3,13 @@
 // One device as the check uses it: opened, asked, written to, closed in any case.
 #include "openeddevice.h"
 
-#include <algorithm>
+#include "escaped.h"
+#include "values.h"
 
-using namespace veltrix_sdk;
+#include <algorithm>
+#include <cstddef>
+
+using namespace device_settings;
 
 namespace sdk_check
 {
@@ -13,13 +17,12 @@ namespace sdk_check
 namespace
 {
 
-/// What a KR camera answers when it is asked who it is.
-constexpr std::uint8_t krIdentity{21};
 const std::string noUnit{};
 
-std::string named(const Field &field, const std::string &text)
+std::string named(const Setting &row, const Field &field, const std::string &text)
 {
-    return field.name.empty() ? text : field.name + ' ' + text;
+    const std::string name{nameOf(row, field)};
+    return name.empty() ? text : name + ' ' + text;
 }
 
 void append(std::string &list, const std::string &text)
@@ -29,7 +32,7 @@ void append(std::string &list, const std::string &text)
 
 } // namespace
 
-std::string faultOf(const Reading &row, const Answer &answer)
+std::string faultOf(const Setting &row, const Answer &answer)
 {
     if (answer.result == 0) {
         return "answers false";
@@ -41,22 +44,23 @@ std::string faultOf(const Reading &row, const Answer &answer)
     for (std::size_t place{0}; place < row.fields.size(); ++place) {
         const Field &field = row.fields[place];
         if (!allows(field.allowed, answer.values[place])) {
-            append(faults, named(field, "answers " + numberText(answer.values[place]) + "; " +
-                                            describe(field.allowed)));
+            append(faults,
+                   named(row, field,
+                         "answers " + numberText(answer.values[place]) + "; " + describe(field.allowed)));
         }
     }
-    return faults.empty() && row.objection ? row.objection(answer.values) : faults;
+    return faults.empty() ? objectionTo(row, answer.values) : faults;
 }
 
-std::string answerText(const Reading &row, const Answer &answer)
+std::string answerText(const Setting &row, const Answer &answer)
 {
     if (row.fields.empty() || answer.result == 0) {
-        return numberText(answer.result, true);
+        return numberText(answer.result, Kind::Boolean);
     }
     std::string text;
     for (std::size_t place{0}; place < row.fields.size(); ++place) {
         const Field &field = row.fields[place];
-        append(text, named(field, numberText(answer.values[place], field.allowed.boolean)));
+        append(text, named(row, field, numberText(answer.values[place], field.kind)));
     }
     return text;
 }
@@ -83,7 +87,7 @@ OpenedDevice::~OpenedDevice()
     }
 }
 
-bool OpenedDevice::open(const std::string &port)
+bool OpenedDevice::open(const std::string &port, const Setting &identity)
 {
     manager = report.timed("getDeviceManager", noUnit, [&] { return sdk.getDeviceManager(); });
     if (manager == nullptr) {
@@ -98,29 +102,18 @@ bool OpenedDevice::open(const std::string &port)
         return false;
     }
     report.add({Outcome::Holds, "openDevice", noUnit, "a device on the port " + escaped(port)});
-    // The program addresses the Blend Unit before it asks who is there, and asks in any case.
+    // As in the program: the Blend Unit is addressed first, and asked who is there even if that failed.
     select(Unit::BlendUnit);
-    return identify();
+    return identify(identity);
 }
 
-bool OpenedDevice::identify()
+bool OpenedDevice::identify(const Setting &identity)
 {
-    const Reading identity{"connect",
-                           {},
-                           UsedOn::Both,
-                           {{"identity", oneOf({krIdentity})}},
-                           true,
-                           [](IDeviceControl &asked, Values &answer) {
-                               std::uint8_t byte{0};
-                               const std::uint8_t result{asked.connect(&byte)};
-                               answer[0] = byte;
-                               return result;
-                           }};
     Answer answer{0, Values(1)};
-    answer.result = report.timed("connect", noUnit, [&] { return identity.read(*device, answer.values); });
+    answer.result = report.timed(identity.get, noUnit, [&] { return identity.read(*device, answer.values); });
     const std::string fault{faultOf(identity, answer)};
     const bool known{fault.empty()};
-    report.add({known ? Outcome::Holds : Outcome::Fails, "connect", noUnit,
+    report.add({known ? Outcome::Holds : Outcome::Fails, identity.get, noUnit,
                 known ? answerText(identity, answer) : fault});
     return known;
 }
@@ -140,16 +133,16 @@ bool OpenedDevice::select(Unit unit)
     return selected;
 }
 
-Answer OpenedDevice::read(const Reading &row, Unit unit)
+Answer OpenedDevice::read(const Setting &row, Unit unit)
 {
     Answer answer{0, Values(row.fields.size())};
     answer.result = report.timed(row.get, nameOf(unit), [&] { return row.read(*device, answer.values); });
     return answer;
 }
 
-bool OpenedDevice::write(const Reading &row, Unit unit, const Values &values)
+bool OpenedDevice::write(const Setting &row, Unit unit, const Values &values)
 {
-    return report.timed(row.set, nameOf(unit), [&] { return row.write(*device, values); });
+    return report.timed(row.set, nameOf(unit), [&] { return row.write(*device, values, regionFlags); });
 }
 
 } // namespace sdk_check

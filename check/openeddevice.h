@@ -3,12 +3,14 @@
 // One device as the check uses it: opened, asked, written to, closed in any case.
 #pragma once
 
-#include "check.h"
+#include "devicesettings.h"
 #include "readings.h"
 #include "report.h"
+#include "veltrix_sdk/sdk.h"
 
 #include <array>
-#include <cstddef>
+#include <cstdint>
+#include <string>
 
 namespace sdk_check
 {
@@ -21,9 +23,9 @@ struct Answer
 };
 
 /// What is wrong with an answer; empty when nothing is.
-std::string faultOf(const Reading &row, const Answer &answer);
+std::string faultOf(const Setting &row, const Answer &answer);
 /// The numbers of an answer, with their names where there are several.
-std::string answerText(const Reading &row, const Answer &answer);
+std::string answerText(const Setting &row, const Answer &answer);
 /// Whether result and numbers are the same; the numbers of a refusal mean nothing.
 bool same(const Answer &left, const Answer &right);
 
@@ -37,24 +39,27 @@ public:
     OpenedDevice(const OpenedDevice &) = delete;
     OpenedDevice &operator=(const OpenedDevice &) = delete;
 
-    /// Opens the device on the port and identifies it; false when there is none to go on with.
-    bool open(const std::string &port);
+    /// Opens the device on the port and identifies it by the operation; false when there is none to go on
+    /// with.
+    bool open(const std::string &port, const Setting &identity);
     /// Selects the unit; false when the device refuses. Refusals and the first success are findings.
     bool select(Unit unit);
     /// Calls the operation that reads.
-    Answer read(const Reading &row, Unit unit);
-    /// Calls the operation that writes.
-    bool write(const Reading &row, Unit unit, const Values &values);
-    RegionFlags regionFlags() { return readRegionFlags(*device); }
+    Answer read(const Setting &row, Unit unit);
+    /// Calls the operation that writes. The flags of the regions that were noted travel with a region.
+    bool write(const Setting &row, Unit unit, const Values &values);
+    /// Reads which of the optional regions are on.
+    void noteRegionFlags() { regionFlags = device_settings::readRegionFlags(*device); }
 
 private:
-    bool identify();
+    bool identify(const Setting &identity);
 
     veltrix_sdk::IVeltrixSdk &sdk;
     Report &report;
     veltrix_sdk::IDeviceManager *manager{nullptr};
     veltrix_sdk::IDeviceControl *device{nullptr};
-    std::array<bool, units.size()> everSelected{};
+    std::array<bool, device_settings::units.size()> everSelected{};
+    RegionFlags regionFlags{};
 };
 
 } // namespace sdk_check

@@ -3,6 +3,8 @@
 // Reading a unit again and again: each answer is checked once and compared with the first from then on.
 #include "rounds.h"
 
+#include "devicesettings.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -12,7 +14,7 @@ namespace sdk_check
 namespace
 {
 
-/// Whether a unit must be there to answer so; a failed read leaves false or zeros.
+/// Whether only a unit that is there can answer so; without one a read gives false or zeros.
 bool saysSomething(const Answer &answer)
 {
     const auto isZero = [](double number) {
@@ -41,7 +43,7 @@ void Rounds::sum()
         report.add({asBefore == compared ? Outcome::Holds : Outcome::Fails, "repeated reads", nameOf(unit),
                     std::to_string(asBefore) + " of " + std::to_string(compared) + " answers as before"});
     }
-    // A few wrong zeros in a row can be operations that fail; a unit that is gone fails in all of them.
+    // One or two wrong zeros can be single operations that fail; a unit that is gone fails in all of them.
     constexpr int lostFromFaults{3};
     if (silence.faults >= lostFromFaults) {
         report.add({Outcome::Fails, "presence", nameOf(unit),
@@ -50,7 +52,7 @@ void Rounds::sum()
     }
 }
 
-void Rounds::take(const Reading &row, Seen &before, Answer answer)
+void Rounds::take(const Setting &row, Seen &before, Answer answer)
 {
     const bool used{isUsedOn(row.usedOn, unit)};
     const std::string fault{faultOf(row, answer)};
@@ -61,7 +63,7 @@ void Rounds::take(const Reading &row, Seen &before, Answer answer)
         } else {
             sayFault(row, fault);
         }
-        // Where nobody asks, one line is enough.
+        // What the program does not ask this unit for is reported wrong only once.
         before = {true, !used && !fault.empty(), std::move(answer)};
         return;
     }
@@ -76,7 +78,7 @@ void Rounds::take(const Reading &row, Seen &before, Answer answer)
     }
 }
 
-void Rounds::listen(const Reading &row, const Answer &answer, bool wrong)
+void Rounds::listen(const Setting &row, const Answer &answer, bool wrong)
 {
     if (saysSomething(answer)) {
         silence = {};
@@ -88,7 +90,7 @@ void Rounds::listen(const Reading &row, const Answer &answer, bool wrong)
     }
 }
 
-std::string Rounds::deviation(const Reading &row, const Answer &first, const Answer &answer) const
+std::string Rounds::deviation(const Setting &row, const Answer &first, const Answer &answer) const
 {
     const std::string inRound{" in round " + std::to_string(round)};
     if (row.steady && !same(answer, first)) {
@@ -99,7 +101,7 @@ std::string Rounds::deviation(const Reading &row, const Answer &first, const Ans
     return fault.empty() || !faultOf(row, first).empty() ? "" : fault + inRound;
 }
 
-void Rounds::sayFault(const Reading &row, const std::string &fault)
+void Rounds::sayFault(const Setting &row, const std::string &fault)
 {
     if (isUsedOn(row.usedOn, unit)) {
         say(Outcome::Fails, row, fault);
@@ -108,7 +110,7 @@ void Rounds::sayFault(const Reading &row, const std::string &fault)
     }
 }
 
-void Rounds::say(Outcome outcome, const Reading &row, const std::string &text)
+void Rounds::say(Outcome outcome, const Setting &row, const std::string &text)
 {
     report.add({outcome, row.get + row.detail, nameOf(unit), text});
 }

@@ -3,7 +3,10 @@
 // Reading a unit again and again: each answer is checked once and compared with the first from then on.
 #pragma once
 
+#include "check.h"
 #include "openeddevice.h"
+#include "readings.h"
+#include "report.h"
 
 #include <cstddef>
 #include <string>
@@ -17,14 +20,14 @@ class Rounds
 {
 public:
     /// All but the unit outlive it.
-    Rounds(OpenedDevice &itsDevice, const std::vector<Reading> &itsRows, Unit itsUnit, Report &itsReport)
+    Rounds(OpenedDevice &itsDevice, const std::vector<Setting> &itsRows, Unit itsUnit, Report &itsReport)
         : device{itsDevice}, rows{itsRows}, unit{itsUnit}, report{itsReport}, seen(itsRows.size())
     {}
 
     /// Reads everything once, as far as it is not interrupted.
     void readOnce(const Interrupted &interrupted);
-    /// Says how many of the later answers were as the first ones, if there were any, and since when the unit
-    /// answers nothing, if that is so. What the program does not ask this unit for does not count.
+    /// Reports how many answers of the later rounds were as the first ones, and since when the unit is silent,
+    /// if it is. What the program does not ask this unit for does not count.
     void sum();
 
 private:
@@ -32,7 +35,7 @@ private:
     struct Seen
     {
         bool asked{false};
-        bool deviated{false}; ///< Said once, however often it happens.
+        bool deviated{false}; ///< Reported once, however often it happens.
         Answer first{};
     };
 
@@ -43,16 +46,16 @@ private:
         int faults{0};
     };
 
-    void take(const Reading &row, Seen &before, Answer answer);
-    void listen(const Reading &row, const Answer &answer, bool wrong);
+    void take(const Setting &row, Seen &before, Answer answer);
+    void listen(const Setting &row, const Answer &answer, bool wrong);
     /// How a later answer differs from the first one; empty when it is as good.
-    std::string deviation(const Reading &row, const Answer &first, const Answer &answer) const;
+    std::string deviation(const Setting &row, const Answer &first, const Answer &answer) const;
     /// A fault counts only where the program would meet it.
-    void sayFault(const Reading &row, const std::string &fault);
-    void say(Outcome outcome, const Reading &row, const std::string &text);
+    void sayFault(const Setting &row, const std::string &fault);
+    void say(Outcome outcome, const Setting &row, const std::string &text);
 
     OpenedDevice &device;
-    const std::vector<Reading> &rows;
+    const std::vector<Setting> &rows;
     const Unit unit;
     Report &report;
     std::vector<Seen> seen;

@@ -3,8 +3,13 @@
 // Setting one number of a setting to another value and back.
 #include "writing.h"
 
-#include <cmath>
+#include "values.h"
+
+#include <cstddef>
+#include <string>
 #include <utility>
+
+using namespace device_settings;
 
 namespace sdk_check
 {
@@ -12,20 +17,20 @@ namespace sdk_check
 namespace
 {
 
-/// A lost answer must not leave the device changed.
+/// How often the old value is sent at most: one lost answer must not leave the device changed.
 constexpr int attemptsToRestore{3};
 
-/// What follows the name of the setter: what is asked for and the number that is changed.
-std::string labelOf(const Reading &row, const Field &field)
+/// The setter, what it is called for, and the number that is changed, such as "setWarp(1) a22".
+std::string labelOf(const Setting &row, const Field &field)
 {
-    return row.set + row.detail + (field.name.empty() ? "" : ' ' + field.name);
+    const std::string name{nameOf(row, field)};
+    return row.set + row.detail + (name.empty() ? "" : ' ' + name);
 }
 
 /// An allowed value other than the one that was found; that one itself where there is no other.
-double otherValue(const Field &field, double found)
+double otherValue(const Setting &row, const Field &field, double found)
 {
-    const Values ends{field.allowed.minimum, field.allowed.maximum};
-    for (const double value : field.tries.empty() ? ends : field.tries) {
+    for (const double value : triesOf(row, field)) {
         if (!same(value, found)) {
             return value;
         }
@@ -33,17 +38,12 @@ double otherValue(const Field &field, double found)
     return found;
 }
 
-bool isWhole(double number)
-{
-    return std::trunc(number) == number;
-}
-
 /// Which number the setter could not put back as it was found; empty when it can.
-std::string fractionOf(const Reading &row, const Answer &found)
+std::string fractionOf(const Setting &row, const Answer &found)
 {
     for (std::size_t place{0}; place < row.fields.size(); ++place) {
         if (row.fields[place].sentWhole && !isWhole(found.values[place])) {
-            return row.fields[place].name + ' ' + numberText(found.values[place]);
+            return nameOf(row, row.fields[place]) + ' ' + numberText(found.values[place]);
         }
     }
     return {};
@@ -53,12 +53,12 @@ std::string fractionOf(const Reading &row, const Answer &found)
 class Trial
 {
 public:
-    Trial(OpenedDevice &itsDevice, const Reading &itsRow, Unit itsUnit, std::size_t itsPlace,
+    Trial(OpenedDevice &itsDevice, const Setting &itsRow, Unit itsUnit, std::size_t itsPlace,
           const Answer &itsFound)
         : device{itsDevice}, row{itsRow}, unit{itsUnit}, place{itsPlace}, found{itsFound}
     {}
 
-    /// What was found decides whether anything is sent: it must be possible to put it back.
+    /// Sends nothing when what was found could not be put back.
     Finding run(const Interrupted &interrupted)
     {
         const std::string fault{faultOf(row, found)};
@@ -69,7 +69,7 @@ public:
         if (!fraction.empty()) {
             return finding(Outcome::Skipped, "takes whole numbers and could not put back " + fraction);
         }
-        const double value{otherValue(field(), found.values[place])};
+        const double value{otherValue(row, field(), found.values[place])};
         if (same(value, found.values[place])) {
             return finding(Outcome::Skipped, "no value but " + text(value) + " is allowed");
         }
@@ -79,7 +79,7 @@ public:
 private:
     const Field &field() const { return row.fields[place]; }
 
-    std::string text(double value) const { return numberText(value, field().allowed.boolean); }
+    std::string text(double value) const { return numberText(value, field().kind); }
 
     Finding finding(Outcome outcome, std::string said) const
     {
@@ -145,16 +145,16 @@ private:
 
     std::string howItIsLeft(const Restored &restored) const
     {
-        return "NOT RESTORED: " + row.set + " answers " + numberText(restored.acknowledged ? 1 : 0, true) +
-               " and " + row.get + ' ' + answerText(row, restored.answer) + " instead of " +
-               answerText(row, found);
+        return "NOT RESTORED: " + row.set + " answers " +
+               numberText(restored.acknowledged ? 1 : 0, Kind::Boolean) + " and " + row.get + ' ' +
+               answerText(row, restored.answer) + " instead of " + answerText(row, found);
     }
 
-    /// Whether all numbers that are sent came back; the others are the device's own affair.
+    /// Whether all numbers that are sent came back; the device derives the others.
     bool matches(const Values &read, const Values &sent) const
     {
         for (std::size_t number{0}; number < sent.size(); ++number) {
-            if (row.fields[number].written != Written::Follows && !same(read[number], sent[number])) {
+            if (!row.fields[number].derived && !same(read[number], sent[number])) {
                 return false;
             }
         }
@@ -162,7 +162,7 @@ private:
     }
 
     OpenedDevice &device;
-    const Reading &row;
+    const Setting &row;
     const Unit unit;
     const std::size_t place;
     const Answer &found;
@@ -171,11 +171,11 @@ private:
 
 } // namespace
 
-void tryWriting(OpenedDevice &device, const Reading &row, Unit unit, Report &report,
+void tryWriting(OpenedDevice &device, const Setting &row, Unit unit, Report &report,
                 const Interrupted &interrupted)
 {
     for (std::size_t place{0}; place < row.fields.size(); ++place) {
-        if (row.fields[place].written != Written::Changed) {
+        if (!isTried(row, row.fields[place])) {
             continue;
         }
         if (interrupted()) {

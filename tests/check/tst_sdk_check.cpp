@@ -168,6 +168,8 @@ void SdkCheckTest::startsFromWhateverIsSet()
     simulator.set("camera.gamma", std::int64_t{32768});
     simulator.set("camera.frameRate", std::int64_t{9});
     simulator.set("blendUnit.zoom.factor", 3.25);
+    simulator.set("blendUnit.zoom.xCenter", std::int64_t{1280});
+    simulator.set("blendUnit.zoom.yCenter", std::int64_t{1024});
     simulator.set("blendUnit.warp1.a13", -32768.0);
     // A region that is on, by its number for the setters.
     simulator.set("camera.roi2.x1", std::int64_t{17});

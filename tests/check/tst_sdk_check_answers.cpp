@@ -1,14 +1,20 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // The numbers of the check: how they are said, what is allowed, and the ranks of times.
-#include "answers.h"
+#include "escaped.h"
 #include "report.h"
+#include "values.h"
 
 #include <QtTest>
 
+#include <chrono>
+#include <cstddef>
 #include <limits>
 #include <sstream>
+#include <string>
+#include <vector>
 
+using namespace device_settings;
 using namespace sdk_check;
 
 Q_DECLARE_METATYPE(Allowed)

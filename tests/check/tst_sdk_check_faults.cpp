@@ -152,6 +152,8 @@ void SdkCheckFaultsTest::namesTheAnswer_data()
         "is allowed");
     row("getZoomConfig", Values{true, nan, number(1), number(1), number(0)},
         "getZoomConfig (Blend Unit): factor answers nan; 1 to 8 is allowed");
+    row("getZoomConfig", Values{true, 1.0, number(1281), number(1025), number(0)},
+        "getZoomConfig (Blend Unit): xCenter answers 1281; 0 to 1280 is allowed, yCenter answers 1025; 0 to 1024 is allowed");
     row("getTemperatures", Values{true, 296650.0, -infinity},
         "getTemperatures (Blend Unit): fpga answers -inf; 200000 to 400000 is allowed");
     row("getTemperatures", std::nullopt, "getTemperatures (camera): answers false");
