@@ -3,6 +3,8 @@
 // Every setting of the device by its key: where it belongs, what it may be, how it is read and written.
 #include "devicesettings.h"
 
+#include "tables.h"
+
 #include <algorithm>
 
 namespace device_settings
@@ -23,6 +25,14 @@ bool isSentUnchanged(const Setting &setting, const Values &values)
 }
 
 } // namespace
+
+std::vector<Setting> deviceSettings(const veltrix_sdk::ConfigurationWords &words)
+{
+    std::vector<Setting> table{blendUnitTable()};
+    const std::vector<Setting> camera{cameraTable(words)};
+    table.insert(table.end(), camera.begin(), camera.end());
+    return table;
+}
 
 bool isUsedOn(UsedOn usedOn, Unit unit)
 {

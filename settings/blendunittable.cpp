@@ -1,0 +1,154 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The rows of what identifies the units and how they are, then those of the Blend Unit.
+#include "devicesettings.h"
+#include "makers.h"
+#include "tables.h"
+#include "values.h"
+#include "veltrix_sdk/device_control.h"
+#include "veltrix_sdk/numbers.h"
+#include "veltrix_sdk/records.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+using namespace veltrix_sdk;
+
+namespace device_settings
+{
+
+namespace
+{
+
+using Rows = std::vector<Setting>;
+
+constexpr UsedOn onBlendUnit{UsedOn::BlendUnit};
+constexpr UsedOn onCamera{UsedOn::Camera};
+constexpr UsedOn onBoth{UsedOn::Both};
+
+// 200 to 400 kelvin, beyond what either unit survives; a failed read leaves 0.
+const Allowed temperature{between(200'000, 400'000)};
+const Allowed word{between(0, highestWord)};
+// A failed read leaves 0, which no unit has for a number of its own.
+const Allowed notZero{between(1, highestWord)};
+const Allowed versionWord{between(0, 65535)};
+const Allowed outputPixels{between(1, 10000)};
+
+Rows identity()
+{
+    return {
+        number("identity", onBoth, OPERATION(connect), oneOf({krIdentity}), "Kind of the device"),
+        record("firmwareVersions", onBoth, OPERATION(getFirmwareVersions),
+               {field<&FirmwareVersions::processor>(
+                    "processor", versionWord, "Version of the processor's firmware, a digit each nibble"),
+                field<&FirmwareVersions::fpga>(
+                    "fpga", versionWord, "Version of the FPGA, with bits for the 9 Hz and MIPI builds")}),
+        number("serialNumber", onBoth, OPERATION(getSerialNumber), notZero, "Serial number of the unit"),
+        number("sensorSerialNumber", onCamera, OPERATION(getSensorSerialNumber), notZero,
+               "Serial number of the sensor"),
+        moving(record("operatingInfo", onCamera, OPERATION(getOperatingInfo),
+                      {field<&OperatingInfo::operatingMinutes>(
+                           "operatingMinutes", word, "How long the camera has run in its life", "minutes"),
+                       field<&OperatingInfo::startupCount>("startupCount", notZero,
+                                                           "How often the camera was started", "starts")})),
+        moving(record("temperatures", onBoth, OPERATION(getTemperatures),
+                      {field<&Temperatures::sensorMillikelvin>("sensorMillikelvin", temperature,
+                                                               "Temperature of the sensor", "mK"),
+                       field<&Temperatures::fpgaMillikelvin>("fpgaMillikelvin", temperature,
+                                                             "Temperature of the FPGA", "mK")})),
+        moving(number("bitStatus", onBlendUnit, OPERATION(getBitStatus), word,
+                      "Result of the built-in test, one bit each")),
+    };
+}
+
+Rows blendUnit()
+{
+    const Allowed percent{within(visibleAgcRange)};
+    return {
+        number("videoMode", onBlendUnit, OPERATION(getVideoMode), OPERATION(setVideoMode),
+               within(videoModeRange), "Picture that is shown: 0 infrared, 1 visible, 2 fusion"),
+        record("zoom", onBoth, OPERATION(getZoomConfig), OPERATION(configureZoom),
+               {field<&ZoomConfig::factor>("factor", within(zoomFactorRange), "Digital zoom factor"),
+                field<&ZoomConfig::xCenter>("xCenter", within(zoomXCenterRange),
+                                            "Column that the zoom is centred on", "pixels"),
+                field<&ZoomConfig::yCenter>("yCenter", within(zoomYCenterRange),
+                                            "Row that the zoom is centred on", "pixels"),
+                field<&ZoomConfig::method>("method", within(zoomMethodRange),
+                                           "Interpolation of the zoom: 0 nearest neighbour, 1 bilinear")}),
+        record("zoomResolution", onBlendUnit, OPERATION(getZoomResolution),
+               {field<&ZoomResolution::x>("x", outputPixels, "Width of the zoomed picture", "pixels"),
+                field<&ZoomResolution::y>("y", outputPixels, "Height of the zoomed picture", "pixels")}),
+        record("visibleAgc", onBlendUnit, OPERATION(getVisibleAgc), OPERATION(setVisibleAgc),
+               {field<&VisibleAgc::target>("target", percent, "Gain control, visible channel: target", "%"),
+                field<&VisibleAgc::threshold>("threshold", percent,
+                                              "Gain control, visible channel: threshold", "%"),
+                field<&VisibleAgc::filterCoefficient>(
+                    "filterCoefficient", percent, "Gain control, visible channel: filter coefficient", "%")}),
+        record(
+            "visibleClhe", onBlendUnit, OPERATION(getVisibleClhe), OPERATION(setVisibleClhe),
+            {field<&VisibleClhe::threshold>(
+                 "threshold", within(visibleClheThresholdRange),
+                 "Visible channel: mix of a linear table and histogram equalisation; low is linear"),
+             field<&VisibleClhe::filterCoefficient>("filterCoefficient", within(visibleClheFilterRange),
+                                                    "Visible channel: filter coefficient of that mix", "%")}),
+        number("startingMode", onBlendUnit, OPERATION(getStartingMode), OPERATION(setStartingMode),
+               within(startingModeRange),
+               "Picture after power-up: 0 infrared, 1 visible, 2 fusion, 3 the current one"),
+    };
+}
+
+/// The matrix of one video stream. The stream goes into the record that is read and before what is written.
+Setting warp(std::uint8_t stream)
+{
+    const auto get = OPERATION(getWarp);
+    const auto set = OPERATION(setWarp);
+    const Allowed allowed{within(warpCoefficientRange)};
+    Setting setting = recordBy<Warp>(
+        [get, stream](Device &device, Warp &filled) {
+            filled.stream = stream;
+            return static_cast<std::uint8_t>((device.*get.call)(&filled));
+        },
+        "warp" + std::to_string(stream), onBlendUnit, get.name,
+        {field<&Warp::a11>("a11", allowed, "Warp matrix of the stream: row 1, column 1"),
+         field<&Warp::a21>("a21", allowed, "Warp matrix of the stream: row 2, column 1"),
+         field<&Warp::a12>("a12", allowed, "Warp matrix of the stream: row 1, column 2"),
+         field<&Warp::a22>("a22", allowed, "Warp matrix of the stream: row 2, column 2"),
+         field<&Warp::a13>("a13", allowed, "Warp matrix of the stream: row 1, column 3"),
+         field<&Warp::a23>("a23", allowed, "Warp matrix of the stream: row 2, column 3")});
+    for (Field &coefficient : setting.fields) {
+        coefficient.sentWhole = true;
+    }
+    setting.detail = '(' + std::to_string(stream) + ')';
+    setting.set = set.name;
+    setting.write = [set, stream](Device &device, const Values &sent, RegionFlags /*flags*/) {
+        const auto whole = [&](std::size_t place) {
+            return as<std::int32_t>(sent[place]);
+        };
+        return (device.*set.call)(stream, whole(0), whole(1), whole(2), whole(3), whole(4), whole(5));
+    };
+    return setting;
+}
+
+Rows warps()
+{
+    Rows rows;
+    for (std::uint8_t stream{0}; stream < warpStreamCount; ++stream) {
+        rows.push_back(warp(stream));
+    }
+    return rows;
+}
+
+} // namespace
+
+std::vector<Setting> blendUnitTable()
+{
+    Rows rows{identity()};
+    for (const Rows &part : {blendUnit(), warps()}) {
+        rows.insert(rows.end(), part.begin(), part.end());
+    }
+    return rows;
+}
+
+} // namespace device_settings

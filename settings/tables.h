@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The two parts of the device's table.
+#pragma once
+
+#include "devicesettings.h"
+#include "veltrix_sdk/records.h"
+
+#include <vector>
+
+namespace device_settings
+{
+
+/// What identifies the units and how they are, then the settings of the Blend Unit and the zoom of both.
+std::vector<Setting> blendUnitTable();
+/// The settings of the camera. The words give the ranges of the expert values.
+std::vector<Setting> cameraTable(const veltrix_sdk::ConfigurationWords &words);
+
+} // namespace device_settings
