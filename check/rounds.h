@@ -26,8 +26,8 @@ public:
 
     /// Reads everything once, as far as it is not interrupted.
     void readOnce(const Interrupted &interrupted);
-    /// Reports how many answers of the later rounds were as the first ones, and since when the unit is silent,
-    /// if it is. What the program does not ask this unit for does not count.
+    /// Reports how many answers of the later rounds were as the first ones, and since when the unit is
+    /// silent, if it is. What the program does not ask this unit for does not count.
     void sum();
 
 private:
