@@ -39,7 +39,7 @@ public:
         append(value);
     }
 
-    void output(const char *name, const Number &number)
+    void output(std::string_view name, const Number &number)
     {
         line.append(" {").append(name).push_back('=');
         append(number);
@@ -80,7 +80,7 @@ private:
 
     void append(const NumbersAt &record)
     {
-        const char *separator{"{"};
+        std::string_view separator{"{"};
         for (const Member &member : record.members()) {
             line.append(separator).append(member.name).push_back('=');
             append(Number{member.kind, record.at(member)});

@@ -16,8 +16,7 @@ namespace veltrix_simulator
 
 /// A number that is no member of a record.
 template <Kind kind>
-inline constexpr Member plainNumber{nullptr, kind, 0, sizeof(TypeOf<kind>), std::tuple_size_v<Records>,
-                                    Field{}};
+inline constexpr Member plainNumber{{}, kind, 0, sizeof(TypeOf<kind>), std::tuple_size_v<Records>, Field{}};
 
 /// A number or the members of a record in memory, which may be missing. Every number of the contract is exact
 /// in a double. Who made it of a record that can only be read does not set it.
@@ -40,7 +39,7 @@ public:
     bool isThere() const { return bytes != nullptr; }
     /// The members of the record, or the one plain number.
     const Members &members() const { return list; }
-    bool isPlainNumber() const { return list.first->name == nullptr; }
+    bool isPlainNumber() const { return list.first->name.empty(); }
 
     double at(const Member &member) const
     {
@@ -95,12 +94,12 @@ public:
         write(member, number);
     }
 
-    /// Sets all of them to zero. In every kind of number that is bytes of zero.
+    /// Sets all of them to zero.
     void clear() const
     {
-        const Member &first = *list.begin();
-        const Member &last = *(list.end() - 1);
-        std::memset(bytes + first.offset, 0, last.offset + last.size - first.offset);
+        for (const Member &member : list) {
+            set(member, 0);
+        }
     }
 
 private:

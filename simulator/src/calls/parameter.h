@@ -15,6 +15,7 @@
 #include <optional>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 #include <variant>
 
 namespace veltrix_simulator
@@ -23,6 +24,8 @@ namespace veltrix_simulator
 /// A number with its kind.
 struct Number
 {
+    Number(Kind itsKind, double itsValue) : kind{itsKind}, value{itsValue} {}
+
     Kind kind;
     double value;
 };
@@ -33,19 +36,39 @@ using OptionalText = std::optional<std::string_view>;
 /// A record that the call reads.
 struct SentRecord
 {
+    template <typename Record>
+    explicit SentRecord(const Record *memory) : record{memory}
+    {}
+
     NumbersAt record;
 };
 
 /// A number that the call fills in, under the name that the journal shows.
 struct OutNumber
 {
-    const char *name;
+    template <typename T>
+    OutNumber(const char *itsName, T *memory) : name{itsName}, number{memory}
+    {}
+
+    std::string_view name;
     NumbersAt number;
 };
 
-/// A record that the call fills in, and what it brings into the call: the stream of a warp matrix.
+/// A record that the call fills in.
 struct FilledRecord
 {
+    template <typename Record>
+    explicit FilledRecord(Record *memory) : record{memory}
+    {}
+
+    /// A warp matrix also brings something into the call: the stream that it is asked for.
+    explicit FilledRecord(veltrix_sdk::Warp *warp) : record{warp}
+    {
+        if (warp != nullptr) {
+            brought = Number{kindOf<decltype(warp->stream)>(), static_cast<double>(warp->stream)};
+        }
+    }
+
     NumbersAt record;
     std::optional<Number> brought;
 };
@@ -56,28 +79,32 @@ class Parameter
 public:
     using Content = std::variant<Number, OptionalText, ObjectPointer, SentRecord, OutNumber, FilledRecord>;
 
+    // Each makes its content in place: copying it would cost as much as the rest of a short call.
+
     template <typename T, std::enable_if_t<std::is_arithmetic_v<T>, int> = 0>
-    Parameter(T number) : parameter{Number{kindOf<T>(), static_cast<double>(number)}}
+    Parameter(T number) : parameter{std::in_place_type<Number>, kindOf<T>(), static_cast<double>(number)}
     {}
 
-    Parameter(const char *text) : parameter{text != nullptr ? OptionalText{text} : OptionalText{std::nullopt}}
-    {}
-    Parameter(std::string_view text) : parameter{OptionalText{text}} {}
+    Parameter(const char *text) : parameter{std::in_place_type<OptionalText>}
+    {
+        if (text != nullptr) {
+            parameter = OptionalText{text};
+        }
+    }
+    Parameter(std::string_view text) : parameter{std::in_place_type<OptionalText>, text} {}
 
-    Parameter(ObjectPointer object) : parameter{object} {}
+    Parameter(ObjectPointer object) : parameter{std::in_place_type<ObjectPointer>, object} {}
 
     template <typename Record, std::enable_if_t<isRecord<Record>, int> = 0>
-    Parameter(const Record *sent) : parameter{SentRecord{NumbersAt{sent}}}
+    Parameter(const Record *sent) : parameter{std::in_place_type<SentRecord>, sent}
     {}
 
     template <typename Record, std::enable_if_t<isRecord<Record>, int> = 0>
-    Parameter(Record *filled) : parameter{FilledRecord{NumbersAt{filled}, std::nullopt}}
+    Parameter(Record *filled) : parameter{std::in_place_type<FilledRecord>, filled}
     {}
-
-    Parameter(veltrix_sdk::Warp *filled) : parameter{FilledRecord{NumbersAt{filled}, streamOf(filled)}} {}
 
     template <typename T>
-    Parameter(const char *name, T *number) : parameter{OutNumber{name, NumbersAt{number}}}
+    Parameter(const char *name, T *number) : parameter{std::in_place_type<OutNumber>, name, number}
     {}
 
     const Content &content() const { return parameter; }
@@ -103,13 +130,6 @@ public:
     void appendNumbers(NumberList &numbers) const;
 
 private:
-    static std::optional<Number> streamOf(const veltrix_sdk::Warp *warp)
-    {
-        return warp != nullptr ? std::optional{Number{kindOf<decltype(warp->stream)>(),
-                                                      static_cast<double>(warp->stream)}}
-                               : std::nullopt;
-    }
-
     Content parameter;
 };
 

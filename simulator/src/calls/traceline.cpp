@@ -46,7 +46,7 @@ public:
         append(value);
     }
 
-    void output(const char *name, const Number &number)
+    void output(std::string_view name, const Number &number)
     {
         line.append(hasOutputs ? "," : R"(,"outputs":{)");
         hasOutputs = true;
@@ -91,7 +91,7 @@ private:
         line.push_back('}');
     }
 
-    void appendMember(const char *name, const Number &number)
+    void appendMember(std::string_view name, const Number &number)
     {
         line.append(1, '"').append(name).append("\":");
         append(number);

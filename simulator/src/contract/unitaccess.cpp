@@ -40,7 +40,10 @@ void UnitAccess::load(Field first, const NumbersAt &destination)
 
 bool UnitAccess::set(OperationId operation, Field first, Parameters parameters)
 {
-    return call(operation, parameters, [&] { return state.store(first, numbersOf(parameters)); });
+    return call(operation, parameters, [&] {
+        const NumberList numbers = numbersOf(parameters);
+        return state.store(first, numbers.begin(), numbers.end());
+    });
 }
 
 bool UnitAccess::configureEdge(OperationId operation, Parameters parameters)
@@ -49,7 +52,7 @@ bool UnitAccess::configureEdge(OperationId operation, Parameters parameters)
         NumberList numbers = numbersOf(parameters);
         // The camera derives the second threshold from the first, which is the last number of the call.
         numbers.append(numbers[numbers.size() - 1] + veltrix_sdk::edgeThresholdDistance);
-        return state.store(Field::edgeType, numbers);
+        return state.store(Field::edgeType, numbers.begin(), numbers.end());
     });
 }
 
@@ -80,15 +83,16 @@ bool UnitAccess::setRoi(OperationId operation, RoiCoordinate coordinate, std::in
         const NumberList numbers = numbersOf(parameters);
         const Field first{Field::roi0X1 + static_cast<std::size_t>(coordinate)};
         return number < veltrix_sdk::regionCount &&
-               state.store(first + number * fieldsOfRegion, numbers.part(0, 1)) &&
-               state.store(Field::roi1IncEnabled, numbers.from(2));
+               state.store(first + number * fieldsOfRegion, numbers.begin(), numbers.begin() + 1) &&
+               state.store(Field::roi1IncEnabled, numbers.begin() + 2, numbers.end());
     });
 }
 
 bool UnitAccess::setWarpOf(OperationId operation, std::int32_t stream, Parameters parameters)
 {
     return call(operation, parameters, [&] {
-        return isWarpStream(stream) && state.store(warpField(stream), numbersOf(parameters).from(1));
+        const NumberList numbers = numbersOf(parameters);
+        return isWarpStream(stream) && state.store(warpField(stream), numbers.begin() + 1, numbers.end());
     });
 }
 

@@ -8,6 +8,7 @@
 #include "veltrix_sdk/records.h"
 
 #include <cstddef>
+#include <string_view>
 #include <tuple>
 #include <type_traits>
 
@@ -28,7 +29,7 @@ inline constexpr bool isRecord = placeAmong<T, Records> < std::tuple_size_v<Reco
 /// One member of a record.
 struct Member
 {
-    const char *name; ///< As the journal shows it; null for a number that is no member.
+    std::string_view name; ///< As the journal shows it; empty for a number that is no member.
     Kind kind;
     std::size_t offset; ///< Bytes.
     std::size_t size;   ///< Bytes.

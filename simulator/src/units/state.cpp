@@ -218,15 +218,19 @@ void State::setBaudRate(std::int32_t baudRate)
     baudRateIsChosen = true;
 }
 
-bool State::store(Field first, const NumberList &numbers)
+bool State::store(Field first, const double *begin, const double *end)
 {
-    for (std::size_t place{0}; place < numbers.size(); ++place) {
-        if (!rowOf(first + place).allowed.accepts(numbers[place], words)) {
+    Field field{first};
+    for (const double *number{begin}; number != end; ++number) {
+        if (!rowOf(field).allowed.accepts(*number, words)) {
             return false;
         }
+        field = field + 1;
     }
-    for (std::size_t place{0}; place < numbers.size(); ++place) {
-        put(first + place, numbers[place]);
+    field = first;
+    for (const double *number{begin}; number != end; ++number) {
+        put(field, *number);
+        field = field + 1;
     }
     return true;
 }

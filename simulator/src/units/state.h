@@ -7,7 +7,6 @@
 #include "units/configurationfields.h"
 #include "units/port.h"
 #include "units/unitfields.h"
-#include "values/numberlist.h"
 #include "values/value.h"
 #include "veltrix_sdk/records.h"
 #include "veltrix_simulator/simulator.h"
@@ -55,7 +54,7 @@ public:
 
     /// Stores the numbers in the fields from `first` on, all or, when the addressed unit does not accept one,
     /// none.
-    bool store(Field first, const NumberList &numbers);
+    bool store(Field first, const double *begin, const double *end);
 
     double &operator[](ConfigurationField field) { return configuration[static_cast<std::size_t>(field)]; }
 

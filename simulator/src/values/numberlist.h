@@ -23,18 +23,6 @@ public:
         }
     }
 
-    /// The numbers from a place on.
-    NumberList from(std::size_t place) const { return part(place, count); }
-    /// The numbers from a place up to another one, which is not among them.
-    NumberList part(std::size_t place, std::size_t end) const
-    {
-        NumberList list;
-        for (; place < end && place < count; ++place) {
-            list.append(numbers[place]);
-        }
-        return list;
-    }
-
     std::size_t size() const { return count; }
     double operator[](std::size_t place) const { return numbers[place]; }
     const double *begin() const { return numbers.data(); }
