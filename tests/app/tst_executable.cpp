@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // The program's ELF file: which libraries it asks for, where they are found, and what it takes from them.
 #include "program.h"
+#include "testclass.h"
 
 #include <QRegularExpression>
 #include <QTest>
@@ -80,5 +81,5 @@ void ExecutableTest::knowsNothingOfTheSimulator()
     QCOMPARE(symbols({"-D", "-u"}).filter("additional_ports"), QStringList{});
 }
 
-QTEST_GUILESS_MAIN(ExecutableTest)
+PILOTEL_TEST_CLASS(ExecutableTest)
 #include "tst_executable.moc"

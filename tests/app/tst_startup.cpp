@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Start-up of the program: what it writes, what it asks the SDK for, and with which SDK it starts.
 #include "program.h"
+#include "testclass.h"
 
 #include <QFile>
 #include <QLibraryInfo>
@@ -252,5 +253,5 @@ void StartupTest::endsWithTheLoadersMessageWithAnIncompleteLibrary()
     QCOMPARE(session.report(), QStringList{});
 }
 
-QTEST_GUILESS_MAIN(StartupTest)
+PILOTEL_TEST_CLASS(StartupTest)
 #include "tst_startup.moc"

@@ -4,6 +4,7 @@
 #include "checkrun.h"
 #include "everyoperation.h"
 #include "simulatedcamera.h"
+#include "testclass.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -274,5 +275,5 @@ void SdkCheckTest::interruptionBeforeTheStartOpensNothing()
     QCOMPARE(journal().filter("openDevice("), QStringList{});
 }
 
-QTEST_GUILESS_MAIN(SdkCheckTest)
+PILOTEL_TEST_CLASS(SdkCheckTest)
 #include "tst_sdk_check.moc"

@@ -3,6 +3,7 @@
 // The numbers of the check: how they are said, what is allowed, and the ranks of times.
 #include "escaped.h"
 #include "report.h"
+#include "testclass.h"
 #include "values.h"
 
 #include <QtTest>
@@ -165,5 +166,5 @@ void SdkCheckAnswersTest::failsOnlyByWhatFails()
     QVERIFY(!interrupted.allHold());
 }
 
-QTEST_GUILESS_MAIN(SdkCheckAnswersTest)
+PILOTEL_TEST_CLASS(SdkCheckAnswersTest)
 #include "tst_sdk_check_answers.moc"

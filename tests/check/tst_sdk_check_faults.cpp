@@ -3,6 +3,7 @@
 // The check of an SDK library on a simulator with faults: each is named, and nothing is left changed.
 #include "checkrun.h"
 #include "simulatedcamera.h"
+#include "testclass.h"
 
 #include <QtTest>
 
@@ -331,5 +332,5 @@ void SdkCheckFaultsTest::reportsAMissingRoot()
     QVERIFY(QString::fromStdString(out.str()).startsWith("not ok get_instance: answers null\n"));
 }
 
-QTEST_GUILESS_MAIN(SdkCheckFaultsTest)
+PILOTEL_TEST_CLASS(SdkCheckFaultsTest)
 #include "tst_sdk_check_faults.moc"

@@ -4,6 +4,7 @@
 // starts.
 #include "program.h"
 #include "scenarioruns.h"
+#include "testclass.h"
 
 #include <QDir>
 #include <QFile>
@@ -323,5 +324,5 @@ void SdkCheckProcessTest::endsWithTheLoadersMessageWithAnIncompleteLibrary()
     QVERIFY2(outcome.errors.contains("GetILogger"), qPrintable(outcome.errors));
 }
 
-QTEST_GUILESS_MAIN(SdkCheckProcessTest)
+PILOTEL_TEST_CLASS(SdkCheckProcessTest)
 #include "tst_sdk_check_process.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // The check of an SDK library round after round: what deviates, what counts on which unit, when one is lost.
 #include "checkrun.h"
+#include "testclass.h"
 
 #include <QtTest>
 
@@ -165,5 +166,5 @@ void SdkCheckRoundsTest::takesRegionsThatAreOffForNoSilence()
                      "look at the power and the cable of the unit first"});
 }
 
-QTEST_GUILESS_MAIN(SdkCheckRoundsTest)
+PILOTEL_TEST_CLASS(SdkCheckRoundsTest)
 #include "tst_sdk_check_rounds.moc"

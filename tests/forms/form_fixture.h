@@ -15,13 +15,19 @@
 #include <vector>
 
 /// The main window's form on a plain window: no handler behind it, nothing connected.
+///
+/// What builds the form is generated inline and long, so it is called in form_fixture.cpp alone.
 struct MainForm
 {
     QMainWindow window;
     Ui_MainWindow ui{};
 
-    MainForm() { ui.setupUi(&window); }
+    MainForm();
+    void retranslate();
 };
+
+/// Puts the form onto a window of the test's own.
+void setUpForm(Ui_MainWindow &ui, QMainWindow &window);
 
 /// What to print when a look-up found nothing: the names of that class which do exist below `root`.
 template <typename Object>
@@ -66,8 +72,8 @@ QStringList namesWhere(const QWidget &root, Predicate wanted)
     return names;
 }
 
-/// What two lists do not share, one entry a line: "missing x", "surplus y". Order is nothing, duplicates
-/// count.
+/// What two lists do not share, one entry a line: "missing x", "surplus y". The order
+/// does not matter, duplicates do.
 inline QString difference(QStringList actual, const QStringList &expected)
 {
     QStringList lines;

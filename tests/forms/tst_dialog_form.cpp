@@ -4,6 +4,7 @@
 
 #include "dialog.h"
 #include "form_fixture.h"
+#include "testclass.h"
 #include "ui_dialog.h"
 
 #include <QSignalSpy>
@@ -34,7 +35,7 @@ QStringList childrenOf(const QLayout &layout)
 
 } // namespace
 
-class DialogForm : public QObject
+class DialogFormTest : public QObject
 {
     Q_OBJECT
 
@@ -54,7 +55,7 @@ private slots:
     void holdsTheOperatorWhileModal();
 };
 
-void DialogForm::widgets()
+void DialogFormTest::widgets()
 {
     const Dialog dialog;
 
@@ -72,7 +73,7 @@ void DialogForm::widgets()
              QString{});
 }
 
-void DialogForm::layoutHoldsInOrder_data()
+void DialogFormTest::layoutHoldsInOrder_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("className");
@@ -90,7 +91,7 @@ void DialogForm::layoutHoldsInOrder_data()
     row("horizontalLayout_4", "QHBoxLayout", "verticalLayout", {"label_3"});
 }
 
-void DialogForm::layoutHoldsInOrder()
+void DialogFormTest::layoutHoldsInOrder()
 {
     QFETCH(QString, name);
     const Dialog dialog;
@@ -102,7 +103,7 @@ void DialogForm::layoutHoldsInOrder()
     QTEST(childrenOf(*layout), "children");
 }
 
-void DialogForm::contentsStayInPlace()
+void DialogFormTest::contentsStayInPlace()
 {
     Dialog dialog;
 
@@ -120,7 +121,7 @@ void DialogForm::contentsStayInPlace()
     QCOMPARE(contents->geometry(), place);
 }
 
-void DialogForm::captionsKeepTheirSize()
+void DialogFormTest::captionsKeepTheirSize()
 {
     const Dialog dialog;
 
@@ -132,7 +133,7 @@ void DialogForm::captionsKeepTheirSize()
     }
 }
 
-void DialogForm::window()
+void DialogFormTest::window()
 {
     const Dialog dialog;
 
@@ -143,7 +144,7 @@ void DialogForm::window()
     QCOMPARE(dialog.windowFlags(), QDialog{}.windowFlags());
 }
 
-void DialogForm::text_data()
+void DialogFormTest::text_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("text");
@@ -158,7 +159,7 @@ void DialogForm::text_data()
     row("label_3", "Produit par Norvane Technologies");
 }
 
-void DialogForm::text()
+void DialogFormTest::text()
 {
     QFETCH(QString, name);
 
@@ -169,7 +170,7 @@ void DialogForm::text()
     }
 }
 
-void DialogForm::neverShowsThePlaceholder()
+void DialogFormTest::neverShowsThePlaceholder()
 {
     const Dialog dialog;
 
@@ -180,7 +181,7 @@ void DialogForm::neverShowsThePlaceholder()
     }
 }
 
-void DialogForm::formAloneShowsThePlaceholder()
+void DialogFormTest::formAloneShowsThePlaceholder()
 {
     QDialog dialog;
     Ui_Dialog ui{};
@@ -190,7 +191,7 @@ void DialogForm::formAloneShowsThePlaceholder()
     QCOMPARE(ui.VersionProduit->text(), "TextLabel");
 }
 
-void DialogForm::textsComeFromTheDialogContext()
+void DialogFormTest::textsComeFromTheDialogContext()
 {
     const MarkingTranslator translator;
     QDialog dialog;
@@ -216,7 +217,7 @@ void DialogForm::textsComeFromTheDialogContext()
     QCOMPARE(textOf(complete, "VersionProduit"), "1.0.0");
 }
 
-void DialogForm::belongsToTheParentGiven()
+void DialogFormTest::belongsToTheParentGiven()
 {
     QWidget parent;
     const Dialog child{&parent};
@@ -227,7 +228,7 @@ void DialogForm::belongsToTheParentGiven()
     QVERIFY(alone.parentWidget() == nullptr);
 }
 
-void DialogForm::holdsTheOperatorWhileModal()
+void DialogFormTest::holdsTheOperatorWhileModal()
 {
     MainForm form;
     form.window.show();
@@ -253,6 +254,5 @@ void DialogForm::holdsTheOperatorWhileModal()
     QCOMPARE(clicks.size(), 1);
 }
 
-QTEST_MAIN(DialogForm)
-
+PILOTEL_TEST_CLASS(DialogFormTest)
 #include "tst_dialog_form.moc"

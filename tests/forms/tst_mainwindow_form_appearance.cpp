@@ -3,6 +3,7 @@
 // How the main window form looks: the pictures of the resource collection, icons, fonts and colours.
 
 #include "form_fixture.h"
+#include "testclass.h"
 
 #include <QDir>
 #include <QFile>
@@ -86,7 +87,7 @@ bool isContainer(const QWidget &widget)
 
 } // namespace
 
-class MainWindowFormAppearance : public QObject
+class MainWindowFormAppearanceTest : public QObject
 {
     Q_OBJECT
 
@@ -108,7 +109,7 @@ private slots:
     void resolutionFieldsHaveALocaleOfTheirOwn();
 };
 
-void MainWindowFormAppearance::resourceIsAPicture_data()
+void MainWindowFormAppearanceTest::resourceIsAPicture_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QByteArray>("format");
@@ -127,7 +128,7 @@ void MainWindowFormAppearance::resourceIsAPicture_data()
     }
 }
 
-void MainWindowFormAppearance::resourceIsAPicture()
+void MainWindowFormAppearanceTest::resourceIsAPicture()
 {
     QFETCH(QString, path);
 
@@ -139,7 +140,7 @@ void MainWindowFormAppearance::resourceIsAPicture()
     QVERIFY(image.width() > 0 && image.height() > 0);
 }
 
-void MainWindowFormAppearance::windowIconHoldsEverySize()
+void MainWindowFormAppearanceTest::windowIconHoldsEverySize()
 {
     QImageReader reader{":/picture/camera.ico"};
     QList<int> widths;
@@ -155,7 +156,7 @@ void MainWindowFormAppearance::windowIconHoldsEverySize()
     }
 }
 
-void MainWindowFormAppearance::windowShowsItsIcon()
+void MainWindowFormAppearanceTest::windowShowsItsIcon()
 {
     const MainForm form;
 
@@ -164,7 +165,7 @@ void MainWindowFormAppearance::windowShowsItsIcon()
     QCOMPARE(pictureOf(form.window.windowIcon()), expected);
 }
 
-void MainWindowFormAppearance::buttonShowsItsIcon_data()
+void MainWindowFormAppearanceTest::buttonShowsItsIcon_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("path");
@@ -190,7 +191,7 @@ void MainWindowFormAppearance::buttonShowsItsIcon_data()
     }
 }
 
-void MainWindowFormAppearance::buttonShowsItsIcon()
+void MainWindowFormAppearanceTest::buttonShowsItsIcon()
 {
     QFETCH(QString, name);
     QFETCH(QString, path);
@@ -207,7 +208,7 @@ void MainWindowFormAppearance::buttonShowsItsIcon()
     }
 }
 
-void MainWindowFormAppearance::noOtherButtonHasAnIcon()
+void MainWindowFormAppearanceTest::noOtherButtonHasAnIcon()
 {
     const EmptyWorkingDirectory empty;
     const MainForm form;
@@ -224,7 +225,7 @@ void MainWindowFormAppearance::noOtherButtonHasAnIcon()
              QString{});
 }
 
-void MainWindowFormAppearance::saveButtonHasNoIconWithoutTheFile()
+void MainWindowFormAppearanceTest::saveButtonHasNoIconWithoutTheFile()
 {
     const EmptyWorkingDirectory empty;
     const MainForm form;
@@ -239,7 +240,7 @@ void MainWindowFormAppearance::saveButtonHasNoIconWithoutTheFile()
     QCOMPARE(clicks.size(), 1);
 }
 
-void MainWindowFormAppearance::saveButtonTakesItsIconFromTheWorkingDirectory()
+void MainWindowFormAppearanceTest::saveButtonTakesItsIconFromTheWorkingDirectory()
 {
     const EmptyWorkingDirectory empty;
     QVERIFY(QFile::copy(":/picture/save.png", "save.png"));
@@ -250,7 +251,7 @@ void MainWindowFormAppearance::saveButtonTakesItsIconFromTheWorkingDirectory()
     QCOMPARE(pictureOf(form.ui.saveParamButtonUser->icon()), expected);
 }
 
-void MainWindowFormAppearance::font_data()
+void MainWindowFormAppearanceTest::font_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("pointSize");
@@ -267,7 +268,7 @@ void MainWindowFormAppearance::font_data()
     }
 }
 
-void MainWindowFormAppearance::font()
+void MainWindowFormAppearanceTest::font()
 {
     QFETCH(QString, name);
     QFETCH(int, weight);
@@ -281,7 +282,7 @@ void MainWindowFormAppearance::font()
     }
 }
 
-void MainWindowFormAppearance::allOtherControlsUseTenPoints()
+void MainWindowFormAppearanceTest::allOtherControlsUseTenPoints()
 {
     const MainForm form;
 
@@ -298,7 +299,7 @@ void MainWindowFormAppearance::allOtherControlsUseTenPoints()
     QCOMPARE(odd.join(' '), QString{});
 }
 
-void MainWindowFormAppearance::window()
+void MainWindowFormAppearanceTest::window()
 {
     const MainForm form;
 
@@ -312,7 +313,7 @@ void MainWindowFormAppearance::window()
     }
 }
 
-void MainWindowFormAppearance::scanButtonSizePolicy()
+void MainWindowFormAppearanceTest::scanButtonSizePolicy()
 {
     const MainForm form;
 
@@ -320,7 +321,7 @@ void MainWindowFormAppearance::scanButtonSizePolicy()
     QCOMPARE(form.ui.scanDeviceButton->sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
 }
 
-void MainWindowFormAppearance::resolutionFieldsHaveALocaleOfTheirOwn()
+void MainWindowFormAppearanceTest::resolutionFieldsHaveALocaleOfTheirOwn()
 {
     const MainForm form;
 
@@ -332,6 +333,5 @@ void MainWindowFormAppearance::resolutionFieldsHaveALocaleOfTheirOwn()
     }
 }
 
-QTEST_MAIN(MainWindowFormAppearance)
-
+PILOTEL_TEST_CLASS(MainWindowFormAppearanceTest)
 #include "tst_mainwindow_form_appearance.moc"

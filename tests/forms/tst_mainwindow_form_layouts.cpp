@@ -3,6 +3,7 @@
 // The main window form's layouts: what each holds in which order, in which cells and at which distances.
 
 #include "form_fixture.h"
+#include "testclass.h"
 
 #include <QMetaEnum>
 #include <QRegularExpression>
@@ -131,7 +132,7 @@ QStringList widgetsWithin(const QLayout &layout)
 
 } // namespace
 
-class MainWindowFormLayouts : public QObject
+class MainWindowFormLayoutsTest : public QObject
 {
     Q_OBJECT
 
@@ -148,7 +149,7 @@ private slots:
     void zoomResolutionBlock();
 };
 
-void MainWindowFormLayouts::layoutHoldsInOrder_data()
+void MainWindowFormLayoutsTest::layoutHoldsInOrder_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("className");
@@ -282,7 +283,7 @@ void MainWindowFormLayouts::layoutHoldsInOrder_data()
            {stretching, "BULogo", stretching, "NTLogo", stretching, "AboutButton", stretching});
 }
 
-void MainWindowFormLayouts::layoutHoldsInOrder()
+void MainWindowFormLayoutsTest::layoutHoldsInOrder()
 {
     QFETCH(QString, name);
     QFETCH(QStringList, children);
@@ -299,7 +300,7 @@ void MainWindowFormLayouts::layoutHoldsInOrder()
              qPrintable(QStringLiteral("holds:  %1\nwanted: %2").arg(actual, expected)));
 }
 
-void MainWindowFormLayouts::layoutHasItsSpacing_data()
+void MainWindowFormLayoutsTest::layoutHasItsSpacing_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("spacing");
@@ -343,7 +344,7 @@ void MainWindowFormLayouts::layoutHasItsSpacing_data()
     row("gridLayout_3", 6, allOfStyle);
 }
 
-void MainWindowFormLayouts::layoutHasItsSpacing()
+void MainWindowFormLayoutsTest::layoutHasItsSpacing()
 {
     QFETCH(QString, name);
     QFETCH(QVector<int>, margins);
@@ -366,7 +367,7 @@ void MainWindowFormLayouts::layoutHasItsSpacing()
     }
 }
 
-void MainWindowFormLayouts::gridCell_data()
+void MainWindowFormLayoutsTest::gridCell_data()
 {
     QTest::addColumn<QString>("grid");
     QTest::addColumn<QString>("widget");
@@ -378,7 +379,7 @@ void MainWindowFormLayouts::gridCell_data()
     }
 }
 
-void MainWindowFormLayouts::gridCell()
+void MainWindowFormLayoutsTest::gridCell()
 {
     QFETCH(QString, grid);
     QFETCH(QString, widget);
@@ -398,7 +399,7 @@ void MainWindowFormLayouts::gridCell()
     QTEST((QRect{column, row, columnSpan, rowSpan}), "cell");
 }
 
-void MainWindowFormLayouts::gridsHoldNothingElse()
+void MainWindowFormLayoutsTest::gridsHoldNothingElse()
 {
     const MainForm form;
 
@@ -417,7 +418,7 @@ void MainWindowFormLayouts::gridsHoldNothingElse()
     QCOMPARE(difference(inGrids, expected), QString{});
 }
 
-void MainWindowFormLayouts::lutGridKeepsItsGapRows()
+void MainWindowFormLayoutsTest::lutGridKeepsItsGapRows()
 {
     const MainForm form;
 
@@ -428,7 +429,7 @@ void MainWindowFormLayouts::lutGridKeepsItsGapRows()
     }
 }
 
-void MainWindowFormLayouts::badPixelCoordinateRows()
+void MainWindowFormLayoutsTest::badPixelCoordinateRows()
 {
     const MainForm form;
 
@@ -448,7 +449,7 @@ void MainWindowFormLayouts::badPixelCoordinateRows()
     }
 }
 
-void MainWindowFormLayouts::zoomResolutionBlock()
+void MainWindowFormLayoutsTest::zoomResolutionBlock()
 {
     const MainForm form;
 
@@ -469,6 +470,5 @@ void MainWindowFormLayouts::zoomResolutionBlock()
     }
 }
 
-QTEST_MAIN(MainWindowFormLayouts)
-
+PILOTEL_TEST_CLASS(MainWindowFormLayoutsTest)
 #include "tst_mainwindow_form_layouts.moc"

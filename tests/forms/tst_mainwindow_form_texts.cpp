@@ -4,6 +4,7 @@
 
 #include "form_fixture.h"
 #include "form_texts.h"
+#include "testclass.h"
 
 #include <QFile>
 #include <QtTest>
@@ -30,7 +31,7 @@ std::vector<QTextFragment> fragmentsOf(const QTextDocument &document)
 
 } // namespace
 
-class MainWindowFormTexts : public QObject
+class MainWindowFormTextsTest : public QObject
 {
     Q_OBJECT
 
@@ -53,14 +54,14 @@ private slots:
     void sharedTooltipsAreTheSame();
 };
 
-void MainWindowFormTexts::windowTitle()
+void MainWindowFormTextsTest::windowTitle()
 {
     const MainForm form;
 
     QCOMPARE(form.window.windowTitle(), "Veltrix BU Pilotel");
 }
 
-void MainWindowFormTexts::caption_data()
+void MainWindowFormTextsTest::caption_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("caption");
@@ -72,7 +73,7 @@ void MainWindowFormTexts::caption_data()
     }
 }
 
-void MainWindowFormTexts::caption()
+void MainWindowFormTextsTest::caption()
 {
     QFETCH(QString, name);
     const MainForm form;
@@ -82,7 +83,7 @@ void MainWindowFormTexts::caption()
     QTEST(widget->property("text").toString(), "caption");
 }
 
-void MainWindowFormTexts::everyLabelAndButtonHasItsCaption()
+void MainWindowFormTextsTest::everyLabelAndButtonHasItsCaption()
 {
     const MainForm form;
 
@@ -95,7 +96,7 @@ void MainWindowFormTexts::everyLabelAndButtonHasItsCaption()
     QCOMPARE(difference(namesWhere(form.window, isCaptioned), expected), QString{});
 }
 
-void MainWindowFormTexts::tooltip_data()
+void MainWindowFormTextsTest::tooltip_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QStringList>("paragraphs");
@@ -107,7 +108,7 @@ void MainWindowFormTexts::tooltip_data()
     }
 }
 
-void MainWindowFormTexts::tooltip()
+void MainWindowFormTextsTest::tooltip()
 {
     QFETCH(QString, name);
     QFETCH(QStringList, paragraphs);
@@ -121,7 +122,7 @@ void MainWindowFormTexts::tooltip()
     QCOMPARE(source.count("</p>"), paragraphs.size());
 }
 
-void MainWindowFormTexts::noOtherTooltips()
+void MainWindowFormTextsTest::noOtherTooltips()
 {
     const MainForm form;
 
@@ -137,7 +138,7 @@ void MainWindowFormTexts::noOtherTooltips()
     QVERIFY(form.window.toolTip().isEmpty());
 }
 
-void MainWindowFormTexts::items_data()
+void MainWindowFormTextsTest::items_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QStringList>("items");
@@ -148,7 +149,7 @@ void MainWindowFormTexts::items_data()
     }
 }
 
-void MainWindowFormTexts::items()
+void MainWindowFormTextsTest::items()
 {
     QFETCH(QString, name);
     const MainForm form;
@@ -158,7 +159,7 @@ void MainWindowFormTexts::items()
     QTEST(itemsOf(*comboBox), "items");
 }
 
-void MainWindowFormTexts::everyComboBoxHasItsItems()
+void MainWindowFormTextsTest::everyComboBoxHasItsItems()
 {
     const MainForm form;
 
@@ -171,7 +172,7 @@ void MainWindowFormTexts::everyComboBoxHasItsItems()
     QCOMPARE(difference(actual, expected), QString{});
 }
 
-void MainWindowFormTexts::tabTitles_data()
+void MainWindowFormTextsTest::tabTitles_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QStringList>("titles");
@@ -182,7 +183,7 @@ void MainWindowFormTexts::tabTitles_data()
     }
 }
 
-void MainWindowFormTexts::tabTitles()
+void MainWindowFormTextsTest::tabTitles()
 {
     QFETCH(QString, name);
     const MainForm form;
@@ -192,7 +193,7 @@ void MainWindowFormTexts::tabTitles()
     QTEST(titlesOf(*tabs), "titles");
 }
 
-void MainWindowFormTexts::logoShowsItsPicture_data()
+void MainWindowFormTextsTest::logoShowsItsPicture_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("picture");
@@ -203,7 +204,7 @@ void MainWindowFormTexts::logoShowsItsPicture_data()
                                                    << ":picture/Norvane Tech.png";
 }
 
-void MainWindowFormTexts::logoShowsItsPicture()
+void MainWindowFormTextsTest::logoShowsItsPicture()
 {
     QFETCH(QString, name);
     QFETCH(QString, picture);
@@ -222,7 +223,7 @@ void MainWindowFormTexts::logoShowsItsPicture()
     QVERIFY(QFile::exists(picture));
 }
 
-void MainWindowFormTexts::makersLogoLinksToTheMaker()
+void MainWindowFormTextsTest::makersLogoLinksToTheMaker()
 {
     const MainForm form;
 
@@ -238,7 +239,7 @@ void MainWindowFormTexts::makersLogoLinksToTheMaker()
     QCOMPARE(format.foreground().color().name(), "#0000ff");
 }
 
-void MainWindowFormTexts::sharedTooltipsAreTheSame()
+void MainWindowFormTextsTest::sharedTooltipsAreTheSame()
 {
     const MainForm form;
 
@@ -248,6 +249,5 @@ void MainWindowFormTexts::sharedTooltipsAreTheSame()
     QVERIFY(form.ui.gfidLabel->toolTip() != form.ui.gskLabel->toolTip());
 }
 
-QTEST_MAIN(MainWindowFormTexts)
-
+PILOTEL_TEST_CLASS(MainWindowFormTextsTest)
 #include "tst_mainwindow_form_texts.moc"

@@ -4,6 +4,7 @@
 
 #include "form_fixture.h"
 #include "form_texts.h"
+#include "testclass.h"
 
 #include <QtTest>
 
@@ -38,7 +39,7 @@ QStringList stateOf(const QWidget &root)
 
 } // namespace
 
-class MainWindowFormTranslation : public QObject
+class MainWindowFormTranslationTest : public QObject
 {
     Q_OBJECT
 
@@ -51,19 +52,19 @@ private slots:
     void resetsCurrentTexts();
 };
 
-void MainWindowFormTranslation::translatesInTheWindowsContext()
+void MainWindowFormTranslationTest::translatesInTheWindowsContext()
 {
     MainForm form;
     const MarkingTranslator translator;
 
-    form.ui.retranslateUi(&form.window);
+    form.retranslate();
     QVERIFY(!translator.requests.empty());
     for (const auto &request : translator.requests) {
         QVERIFY2(request.context == "MainWindow", qPrintable(request.context + ": " + request.source));
     }
 }
 
-void MainWindowFormTranslation::translatedTextsReachTheirObjects()
+void MainWindowFormTranslationTest::translatedTextsReachTheirObjects()
 {
     const MarkingTranslator translator;
     const MainForm form;
@@ -86,7 +87,7 @@ void MainWindowFormTranslation::translatedTextsReachTheirObjects()
     QCOMPARE(form.ui.BULogo->toolTip(), QString{});
 }
 
-void MainWindowFormTranslation::translatedItemsAndTitlesReachTheirWidgets()
+void MainWindowFormTranslationTest::translatedItemsAndTitlesReachTheirWidgets()
 {
     const MarkingTranslator translator;
     const MainForm form;
@@ -104,11 +105,11 @@ void MainWindowFormTranslation::translatedItemsAndTitlesReachTheirWidgets()
     QCOMPARE(form.ui.BaudRateCB->currentText(), MarkingTranslator::marked("115200"));
 }
 
-void MainWindowFormTranslation::setsTextsInOrder()
+void MainWindowFormTranslationTest::setsTextsInOrder()
 {
     MainForm form;
     const MarkingTranslator translator;
-    form.ui.retranslateUi(&form.window);
+    form.retranslate();
 
     QStringList expected{"Veltrix BU Pilotel"};
     for (const Texts &text : texts()) {
@@ -135,7 +136,7 @@ void MainWindowFormTranslation::setsTextsInOrder()
     }
 }
 
-void MainWindowFormTranslation::leavesStateAlone()
+void MainWindowFormTranslationTest::leavesStateAlone()
 {
     MainForm form;
     form.ui.paramSection->setEnabled(true);
@@ -147,20 +148,19 @@ void MainWindowFormTranslation::leavesStateAlone()
     form.ui.Principal_tab->setCurrentIndex(1);
 
     const QStringList before{stateOf(form.window)};
-    form.ui.retranslateUi(&form.window);
+    form.retranslate();
     QCOMPARE(difference(stateOf(form.window), before), QString{});
 }
 
-void MainWindowFormTranslation::resetsCurrentTexts()
+void MainWindowFormTranslationTest::resetsCurrentTexts()
 {
     MainForm form;
     form.ui.BaudRateCB->setCurrentIndex(4);
 
-    form.ui.retranslateUi(&form.window);
+    form.retranslate();
     QCOMPARE(form.ui.BaudRateCB->currentText(), "115200");
     QCOMPARE(form.ui.selectDeviceComboBox->currentText(), QString{});
 }
 
-QTEST_MAIN(MainWindowFormTranslation)
-
+PILOTEL_TEST_CLASS(MainWindowFormTranslationTest)
 #include "tst_mainwindow_form_translation.moc"

@@ -3,6 +3,7 @@
 // The main window form's tree: which widgets there are, of which class, and on which page.
 
 #include "form_fixture.h"
+#include "testclass.h"
 
 #include <QtTest>
 
@@ -154,7 +155,7 @@ private slots:
 
 } // namespace
 
-class MainWindowFormTree : public QObject
+class MainWindowFormTreeTest : public QObject
 {
     Q_OBJECT
 
@@ -169,7 +170,7 @@ private slots:
     void connectsSlotsByName();
 };
 
-void MainWindowFormTree::widgetHasItsClassAndParent_data()
+void MainWindowFormTreeTest::widgetHasItsClassAndParent_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("className");
@@ -183,7 +184,7 @@ void MainWindowFormTree::widgetHasItsClassAndParent_data()
     }
 }
 
-void MainWindowFormTree::widgetHasItsClassAndParent()
+void MainWindowFormTreeTest::widgetHasItsClassAndParent()
 {
     QFETCH(QString, name);
     const MainForm form;
@@ -194,7 +195,7 @@ void MainWindowFormTree::widgetHasItsClassAndParent()
     QTEST(namedAncestor(*widget), "parent");
 }
 
-void MainWindowFormTree::namesNoOtherWidgets()
+void MainWindowFormTreeTest::namesNoOtherWidgets()
 {
     const MainForm form;
 
@@ -206,7 +207,7 @@ void MainWindowFormTree::namesNoOtherWidgets()
     QCOMPARE(difference(actual, expected), QString{});
 }
 
-void MainWindowFormTree::tabWidgetHasItsPages_data()
+void MainWindowFormTreeTest::tabWidgetHasItsPages_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QStringList>("pages");
@@ -218,7 +219,7 @@ void MainWindowFormTree::tabWidgetHasItsPages_data()
                                    "EdgeSection",      "BadPixelsSection", "ExpertMode"};
 }
 
-void MainWindowFormTree::tabWidgetHasItsPages()
+void MainWindowFormTreeTest::tabWidgetHasItsPages()
 {
     QFETCH(QString, name);
     const MainForm form;
@@ -232,7 +233,7 @@ void MainWindowFormTree::tabWidgetHasItsPages()
     QTEST(actual, "pages");
 }
 
-void MainWindowFormTree::centralWidgetIsInPlace()
+void MainWindowFormTreeTest::centralWidgetIsInPlace()
 {
     const MainForm form;
 
@@ -241,7 +242,7 @@ void MainWindowFormTree::centralWidgetIsInPlace()
     QCOMPARE(form.window.centralWidget()->objectName(), "centralWidget");
 }
 
-void MainWindowFormTree::holderPointsAtNamedObjects()
+void MainWindowFormTreeTest::holderPointsAtNamedObjects()
 {
     const MainForm form;
 
@@ -265,16 +266,15 @@ void MainWindowFormTree::holderPointsAtNamedObjects()
     }
 }
 
-void MainWindowFormTree::connectsSlotsByName()
+void MainWindowFormTreeTest::connectsSlotsByName()
 {
     WindowWithNamedSlot window;
     Ui_MainWindow ui{};
-    ui.setupUi(&window);
+    setUpForm(ui, window);
 
     ui.clearLogButton->click();
     QCOMPARE(window.clicks, 1);
 }
 
-QTEST_MAIN(MainWindowFormTree)
-
+PILOTEL_TEST_CLASS(MainWindowFormTreeTest)
 #include "tst_mainwindow_form_tree.moc"

@@ -3,6 +3,7 @@
 // The main window form's ranges, steps, sizes and initial states.
 
 #include "form_fixture.h"
+#include "testclass.h"
 
 #include <QtTest>
 
@@ -47,7 +48,7 @@ QStringList regionBoxes(const QString &region)
 
 } // namespace
 
-class MainWindowFormValues : public QObject
+class MainWindowFormValuesTest : public QObject
 {
     Q_OBJECT
 
@@ -65,7 +66,7 @@ private slots:
     void clheEditReachesBeyondItsSlider();
 };
 
-void MainWindowFormValues::properties_data()
+void MainWindowFormValuesTest::properties_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QVariantMap>("expected");
@@ -264,7 +265,7 @@ void MainWindowFormValues::properties_data()
     row("AboutButton", {{"minimumHeight", 40}});
 }
 
-void MainWindowFormValues::properties()
+void MainWindowFormValuesTest::properties()
 {
     QFETCH(QString, name);
     QFETCH(QVariantMap, expected);
@@ -285,7 +286,7 @@ void MainWindowFormValues::properties()
     QCOMPARE(wrong.join("; "), QString{});
 }
 
-void MainWindowFormValues::disabledWidgets()
+void MainWindowFormValuesTest::disabledWidgets()
 {
     const MainForm form;
 
@@ -300,7 +301,7 @@ void MainWindowFormValues::disabledWidgets()
     QVERIFY(!form.ui.gammaEdit->isEnabled());
 }
 
-void MainWindowFormValues::checkedButtons()
+void MainWindowFormValuesTest::checkedButtons()
 {
     const MainForm form;
 
@@ -311,7 +312,7 @@ void MainWindowFormValues::checkedButtons()
     QCOMPARE(difference(actual, {"checkBox", "gainCheckBox", "BPRCheckBox", "offsetCheckBox"}), QString{});
 }
 
-void MainWindowFormValues::checkableButtons()
+void MainWindowFormValuesTest::checkableButtons()
 {
     const MainForm form;
 
@@ -333,7 +334,7 @@ void MainWindowFormValues::checkableButtons()
     QCOMPARE(difference(actual, expected), QString{});
 }
 
-void MainWindowFormValues::freshFormShowsBaudRateAndFusionPage()
+void MainWindowFormValuesTest::freshFormShowsBaudRateAndFusionPage()
 {
     const MainForm form;
 
@@ -342,7 +343,7 @@ void MainWindowFormValues::freshFormShowsBaudRateAndFusionPage()
     QCOMPARE(form.ui.Principal_tab->currentWidget()->objectName(), "Fusion_tab");
 }
 
-void MainWindowFormValues::regionBoxKeepsToTheSensor_data()
+void MainWindowFormValuesTest::regionBoxKeepsToTheSensor_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("largest");
@@ -355,7 +356,7 @@ void MainWindowFormValues::regionBoxKeepsToTheSensor_data()
     }
 }
 
-void MainWindowFormValues::regionBoxKeepsToTheSensor()
+void MainWindowFormValuesTest::regionBoxKeepsToTheSensor()
 {
     QFETCH(QString, name);
     const MainForm form;
@@ -371,7 +372,7 @@ void MainWindowFormValues::regionBoxKeepsToTheSensor()
     QCOMPARE(box->value(), 5);
 }
 
-void MainWindowFormValues::gskEditHoldsWholeNumbers_data()
+void MainWindowFormValuesTest::gskEditHoldsWholeNumbers_data()
 {
     QTest::addColumn<double>("given");
     QTest::addColumn<double>("held");
@@ -387,7 +388,7 @@ void MainWindowFormValues::gskEditHoldsWholeNumbers_data()
     row(3.7, 3.0);
 }
 
-void MainWindowFormValues::gskEditHoldsWholeNumbers()
+void MainWindowFormValuesTest::gskEditHoldsWholeNumbers()
 {
     QFETCH(double, given);
     const MainForm form;
@@ -396,7 +397,7 @@ void MainWindowFormValues::gskEditHoldsWholeNumbers()
     QTEST(form.ui.gskEdit->value(), "held");
 }
 
-void MainWindowFormValues::clheEditReachesBeyondItsSlider()
+void MainWindowFormValuesTest::clheEditReachesBeyondItsSlider()
 {
     const MainForm form;
 
@@ -408,6 +409,5 @@ void MainWindowFormValues::clheEditReachesBeyondItsSlider()
     QCOMPARE(form.ui.clheEdit->value(), 30000.0);
 }
 
-QTEST_MAIN(MainWindowFormValues)
-
+PILOTEL_TEST_CLASS(MainWindowFormValuesTest)
 #include "tst_mainwindow_form_values.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Tests of the bulk commands of the camera's settings: what an apply and a reset send and tell, in order.
 #include "camerapage.h"
+#include "testclass.h"
 
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -176,7 +177,7 @@ log(2, "End applying camera parameters"))"};
 
 } // namespace
 
-class TestApplyAndReset : public QObject
+class ApplyAndResetTest : public QObject
 {
     Q_OBJECT
 
@@ -195,7 +196,7 @@ private slots:
     void withoutADeviceNothingHappens();
 };
 
-void TestApplyAndReset::applySendsEverySettingInOrder()
+void ApplyAndResetTest::applySendsEverySettingInOrder()
 {
     TestWindow test;
     openCameraPage(test, "LutSection");
@@ -232,7 +233,7 @@ void TestApplyAndReset::applySendsEverySettingInOrder()
     QVERIFY(test.lastCommandOk());
 }
 
-void TestApplyAndReset::applyLeavesOutTheRateThatTheCameraRunsAt()
+void ApplyAndResetTest::applyLeavesOutTheRateThatTheCameraRunsAt()
 {
     TestWindow test;
     openCameraPage(test, "LutSection");
@@ -247,7 +248,7 @@ void TestApplyAndReset::applyLeavesOutTheRateThatTheCameraRunsAt()
     QCOMPARE(test.takeLog(), lines);
 }
 
-void TestApplyAndReset::applySendsNoSelectionAs255()
+void ApplyAndResetTest::applySendsNoSelectionAs255()
 {
     TestWindow test;
     openCameraPage(test, "LutSection");
@@ -266,7 +267,7 @@ void TestApplyAndReset::applySendsNoSelectionAs255()
                           "configureEdgeCorrection(255, 64, 20) -> false"}));
 }
 
-void TestApplyAndReset::applyGoesOnAfterEveryRefusal()
+void ApplyAndResetTest::applyGoesOnAfterEveryRefusal()
 {
     TestWindow test;
     openCameraPage(test, "LutSection");
@@ -285,7 +286,7 @@ void TestApplyAndReset::applyGoesOnAfterEveryRefusal()
     QVERIFY(!test.lastCommandOk());
 }
 
-void TestApplyAndReset::applyRemembersTheLastResult_data()
+void ApplyAndResetTest::applyRemembersTheLastResult_data()
 {
     QTest::addColumn<QByteArray>("refused");
     QTest::addColumn<bool>("remembered");
@@ -293,7 +294,7 @@ void TestApplyAndReset::applyRemembersTheLastResult_data()
     QTest::newRow("an earlier command refused") << QByteArray{"setAhcGainLimitation"} << true;
 }
 
-void TestApplyAndReset::applyRemembersTheLastResult()
+void ApplyAndResetTest::applyRemembersTheLastResult()
 {
     QFETCH(const QByteArray, refused);
     QFETCH(const bool, remembered);
@@ -304,7 +305,7 @@ void TestApplyAndReset::applyRemembersTheLastResult()
     QCOMPARE(test.lastCommandOk(), remembered);
 }
 
-void TestApplyAndReset::resetLoadsTheDefaultsAndApplies()
+void ApplyAndResetTest::resetLoadsTheDefaultsAndApplies()
 {
     TestWindow test{changeDefaults};
     openCameraPage(test, "LutSection");
@@ -322,7 +323,7 @@ void TestApplyAndReset::resetLoadsTheDefaultsAndApplies()
     QVERIFY(test.lastCommandOk());
 }
 
-void TestApplyAndReset::resetGoesOnAfterEveryRefusal()
+void ApplyAndResetTest::resetGoesOnAfterEveryRefusal()
 {
     TestWindow test{changeDefaults};
     openCameraPage(test, "LutSection");
@@ -337,7 +338,7 @@ void TestApplyAndReset::resetGoesOnAfterEveryRefusal()
     QVERIFY(!test.lastCommandOk());
 }
 
-void TestApplyAndReset::resetToWhatIsShownOnlyApplies()
+void ApplyAndResetTest::resetToWhatIsShownOnlyApplies()
 {
     TestWindow test;
     openCameraPage(test, "LutSection");
@@ -355,7 +356,7 @@ void TestApplyAndReset::resetToWhatIsShownOnlyApplies()
     QCOMPARE(test.takeLog(), lines);
 }
 
-void TestApplyAndReset::resetSendsZerosForTheRegionsThatAreOffByDefault()
+void ApplyAndResetTest::resetSendsZerosForTheRegionsThatAreOffByDefault()
 {
     TestWindow test;
     openCameraPage(test, "LutSection");
@@ -377,14 +378,14 @@ void TestApplyAndReset::resetSendsZerosForTheRegionsThatAreOffByDefault()
     QCOMPARE(test.enabledOf({"Roi1IncX1", "Roi0ExcX1", "Roi1ExcX1"}), QStringList{});
 }
 
-void TestApplyAndReset::withoutADeviceNothingHappens_data()
+void ApplyAndResetTest::withoutADeviceNothingHappens_data()
 {
     QTest::addColumn<QByteArray>("handler");
     QTest::newRow("apply") << QByteArray{"ApplyParamsUser"};
     QTest::newRow("reset") << QByteArray{"ResetParamsUser"};
 }
 
-void TestApplyAndReset::withoutADeviceNothingHappens()
+void ApplyAndResetTest::withoutADeviceNothingHappens()
 {
     QFETCH(const QByteArray, handler);
     TestWindow test{changeDefaults};
@@ -402,6 +403,5 @@ void TestApplyAndReset::withoutADeviceNothingHappens()
     QCOMPARE(test.child<QComboBox>("frameRateCB").currentIndex(), 4);
 }
 
-QTEST_MAIN(TestApplyAndReset)
-
+PILOTEL_TEST_CLASS(ApplyAndResetTest)
 #include "tst_apply_and_reset.moc"

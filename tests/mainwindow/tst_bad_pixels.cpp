@@ -3,6 +3,7 @@
 // Tests of the declaration of bad pixels: single ones, whole lines and whole columns.
 #include "camerapage.h"
 #include "owndirectory.h"
+#include "testclass.h"
 
 #include <QDir>
 #include <QSpinBox>
@@ -98,7 +99,7 @@ void choose(TestWindow &test, const Pixel &pixel)
 
 } // namespace
 
-class TestBadPixels : public QObject
+class BadPixelsTest : public QObject
 {
     Q_OBJECT
 
@@ -123,7 +124,7 @@ private:
     std::optional<OwnDirectory> directory;
 };
 
-void TestBadPixels::theTextsOfOnePixel_data()
+void BadPixelsTest::theTextsOfOnePixel_data()
 {
     QTest::addColumn<QString>("button");
     QTest::addColumn<bool>("accepted");
@@ -139,7 +140,7 @@ void TestBadPixels::theTextsOfOnePixel_data()
                                  << "Unable to remove pixel X:12 Y: 34.";
 }
 
-void TestBadPixels::theTextsOfOnePixel()
+void BadPixelsTest::theTextsOfOnePixel()
 {
     QFETCH(const QString, button);
     QFETCH(const bool, accepted);
@@ -157,7 +158,7 @@ void TestBadPixels::theTextsOfOnePixel()
     QCOMPARE(test.takeLog(), QStringList{line});
 }
 
-void TestBadPixels::everyPixelIsSentAndTold_data()
+void BadPixelsTest::everyPixelIsSentAndTold_data()
 {
     QTest::addColumn<std::size_t>("place");
     QTest::addColumn<int>("column");
@@ -183,7 +184,7 @@ void TestBadPixels::everyPixelIsSentAndTold_data()
     row(5, 639, 88, "removeBadPixel(639, 0) -> true", "removeBadPixel(639, 479) -> true");
 }
 
-void TestBadPixels::everyPixelIsSentAndTold()
+void BadPixelsTest::everyPixelIsSentAndTold()
 {
     QFETCH(const std::size_t, place);
     QFETCH(const int, column);
@@ -204,7 +205,7 @@ void TestBadPixels::everyPixelIsSentAndTold()
     QCOMPARE(test.takeLog(), expectation.lines);
 }
 
-void TestBadPixels::everyCallIsFollowedByItsLine()
+void BadPixelsTest::everyCallIsFollowedByItsLine()
 {
     QFETCH(const std::size_t, place);
     const Expectation expectation{expected(declarations.at(place), {12, 34})};
@@ -221,7 +222,7 @@ void TestBadPixels::everyCallIsFollowedByItsLine()
     QCOMPARE(test.takeCallsAndRecords(), journal);
 }
 
-void TestBadPixels::refusedPixelsAreToldAndTheOthersSent_data()
+void BadPixelsTest::refusedPixelsAreToldAndTheOthersSent_data()
 {
     QTest::addColumn<std::size_t>("place");
     QTest::addColumn<int>("from");
@@ -237,7 +238,7 @@ void TestBadPixels::refusedPixelsAreToldAndTheOthersSent_data()
     }
 }
 
-void TestBadPixels::refusedPixelsAreToldAndTheOthersSent()
+void BadPixelsTest::refusedPixelsAreToldAndTheOthersSent()
 {
     QFETCH(const std::size_t, place);
     QFETCH(const int, from);
@@ -257,7 +258,7 @@ void TestBadPixels::refusedPixelsAreToldAndTheOthersSent()
     QCOMPARE(test.takeLog(), expectation.lines);
 }
 
-void TestBadPixels::coordinatesEndAtTheSensor()
+void BadPixelsTest::coordinatesEndAtTheSensor()
 {
     TestWindow test;
     openCameraPage(test, "LutSection");
@@ -268,7 +269,7 @@ void TestBadPixels::coordinatesEndAtTheSensor()
     QCOMPARE(test.takeCalls(), (QStringList{"addBadPixel(639, 479) -> true", "addBadPixel(0, 0) -> true"}));
 }
 
-void TestBadPixels::theLastResultIsLeft()
+void BadPixelsTest::theLastResultIsLeft()
 {
     QFETCH(const std::size_t, place);
     const Declaration &declaration{declarations.at(place)};
@@ -288,7 +289,7 @@ void TestBadPixels::theLastResultIsLeft()
     QVERIFY(!test.lastCommandOk());
 }
 
-void TestBadPixels::withoutADeviceOnlyTheBoxIsShown()
+void BadPixelsTest::withoutADeviceOnlyTheBoxIsShown()
 {
     QFETCH(const std::size_t, place);
     TestWindow test;
@@ -314,6 +315,5 @@ void TestBadPixels::withoutADeviceOnlyTheBoxIsShown()
     }
 }
 
-QTEST_MAIN(TestBadPixels)
-
+PILOTEL_TEST_CLASS(BadPixelsTest)
 #include "tst_bad_pixels.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Tests of the read of the whole Blend Unit.
 #include "filledblendunit.h"
+#include "testclass.h"
 
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -50,7 +51,7 @@ QString textOf(const TestWindow &test, const char *box)
 
 } // namespace
 
-class TestBlendUnitReading : public QObject
+class BlendUnitReadingTest : public QObject
 {
     Q_OBJECT
 
@@ -66,7 +67,7 @@ private slots:
     void differentModesAreSentBackWithinTheRead();
 };
 
-void TestBlendUnitReading::readsEverythingInOrder()
+void BlendUnitReadingTest::readsEverythingInOrder()
 {
     TestWindow test;
     test.beConnected();
@@ -106,7 +107,7 @@ void TestBlendUnitReading::readsEverythingInOrder()
     QCOMPARE(test.takeLog(), completeLog());
 }
 
-void TestBlendUnitReading::showsWhatItReads()
+void BlendUnitReadingTest::showsWhatItReads()
 {
     TestWindow test;
     test.beConnected();
@@ -127,7 +128,7 @@ void TestBlendUnitReading::showsWhatItReads()
     QCOMPARE(textOf(test, "BitTextEdit"), QString{"0xbeef"});
 }
 
-void TestBlendUnitReading::builtInTestWord_data()
+void BlendUnitReadingTest::builtInTestWord_data()
 {
     QTest::addColumn<qint64>("word");
     QTest::addColumn<QString>("text");
@@ -142,7 +143,7 @@ void TestBlendUnitReading::builtInTestWord_data()
     row("0xffffffff", 0xFFFFFFFF);
 }
 
-void TestBlendUnitReading::builtInTestWord()
+void BlendUnitReadingTest::builtInTestWord()
 {
     QFETCH(const qint64, word);
     QFETCH(const QString, text);
@@ -157,7 +158,7 @@ void TestBlendUnitReading::builtInTestWord()
     QCOMPARE(textOf(test, "BitTextEdit"), text);
 }
 
-void TestBlendUnitReading::temperature_data()
+void BlendUnitReadingTest::temperature_data()
 {
     QTest::addColumn<double>("millikelvin");
     QTest::addColumn<QString>("text");
@@ -174,7 +175,7 @@ void TestBlendUnitReading::temperature_data()
     row("infC", qInf());
 }
 
-void TestBlendUnitReading::temperature()
+void BlendUnitReadingTest::temperature()
 {
     QFETCH(const double, millikelvin);
     QFETCH(const QString, text);
@@ -188,7 +189,7 @@ void TestBlendUnitReading::temperature()
     QCOMPARE(textOf(test, "FusionFpgaTempTextEdit"), text);
 }
 
-void TestBlendUnitReading::refusedOperationIsToldAndTheReadGoesOn_data()
+void BlendUnitReadingTest::refusedOperationIsToldAndTheReadGoesOn_data()
 {
     QTest::addColumn<QByteArray>("operation");
     QTest::addColumn<QStringList>("missing");
@@ -234,7 +235,7 @@ void TestBlendUnitReading::refusedOperationIsToldAndTheReadGoesOn_data()
     }
 }
 
-void TestBlendUnitReading::refusedOperationIsToldAndTheReadGoesOn()
+void BlendUnitReadingTest::refusedOperationIsToldAndTheReadGoesOn()
 {
     QFETCH(const QByteArray, operation);
     QFETCH(const QStringList, missing);
@@ -265,7 +266,7 @@ void TestBlendUnitReading::refusedOperationIsToldAndTheReadGoesOn()
     QCOMPARE(test.lastCommandOk(), lastCommandOk);
 }
 
-void TestBlendUnitReading::differentModesAreSentBackWithinTheRead()
+void BlendUnitReadingTest::differentModesAreSentBackWithinTheRead()
 {
     TestWindow test;
     test.beConnected();
@@ -298,5 +299,5 @@ void TestBlendUnitReading::differentModesAreSentBackWithinTheRead()
     QCOMPARE(test.takeLog(), log);
 }
 
-QTEST_MAIN(TestBlendUnitReading)
+PILOTEL_TEST_CLASS(BlendUnitReadingTest)
 #include "tst_blend_unit_reading.moc"

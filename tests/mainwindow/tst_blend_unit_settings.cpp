@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Tests of saving the Blend Unit's parameters, and of its handlers without a device.
 #include "filledblendunit.h"
+#include "testclass.h"
 
 #include <QAbstractButton>
 #include <QTest>
@@ -38,7 +39,7 @@ void addHandlers()
 
 Q_DECLARE_METATYPE(Save)
 
-class TestBlendUnitSettings : public QObject
+class BlendUnitSettingsTest : public QObject
 {
     Q_OBJECT
 
@@ -54,7 +55,7 @@ private slots:
     void zoomReadWithoutADeviceDoesNothing();
 };
 
-void TestBlendUnitSettings::savingIsReported_data()
+void BlendUnitSettingsTest::savingIsReported_data()
 {
     QTest::addColumn<Save>("save");
     QTest::addColumn<bool>("refused");
@@ -74,7 +75,7 @@ void TestBlendUnitSettings::savingIsReported_data()
         "Could not saved blend unit expert parameters");
 }
 
-void TestBlendUnitSettings::savingIsReported()
+void BlendUnitSettingsTest::savingIsReported()
 {
     QFETCH(const Save, save);
     QFETCH(const bool, refused);
@@ -93,7 +94,7 @@ void TestBlendUnitSettings::savingIsReported()
     QCOMPARE(test.lastCommandOk(), !refused);
 }
 
-void TestBlendUnitSettings::saveButtonNeedsAConnection()
+void BlendUnitSettingsTest::saveButtonNeedsAConnection()
 {
     TestWindow test;
     auto &button = test.child<QAbstractButton>("saveParamButtonUser");
@@ -110,7 +111,7 @@ void TestBlendUnitSettings::saveButtonNeedsAConnection()
     QCOMPARE(test.takeLog(), QStringList{});
 }
 
-void TestBlendUnitSettings::beforeConnectingNothingHappens()
+void BlendUnitSettingsTest::beforeConnectingNothingHappens()
 {
     QFETCH(const QByteArray, handler);
     TestWindow test;
@@ -122,7 +123,7 @@ void TestBlendUnitSettings::beforeConnectingNothingHappens()
     QCOMPARE(test.takeLog(), QStringList{});
 }
 
-void TestBlendUnitSettings::afterDisconnectingNothingHappens()
+void BlendUnitSettingsTest::afterDisconnectingNothingHappens()
 {
     QFETCH(const QByteArray, handler);
     TestWindow test;
@@ -136,7 +137,7 @@ void TestBlendUnitSettings::afterDisconnectingNothingHappens()
     QCOMPARE(test.takeLog(), QStringList{});
 }
 
-void TestBlendUnitSettings::zoomReadWithoutADeviceDoesNothing()
+void BlendUnitSettingsTest::zoomReadWithoutADeviceDoesNothing()
 {
     TestWindow test;
     test.takeCalls();
@@ -155,5 +156,5 @@ void TestBlendUnitSettings::zoomReadWithoutADeviceDoesNothing()
     QCOMPARE(test.takeLog(), QStringList{});
 }
 
-QTEST_MAIN(TestBlendUnitSettings)
+PILOTEL_TEST_CLASS(BlendUnitSettingsTest)
 #include "tst_blend_unit_settings.moc"

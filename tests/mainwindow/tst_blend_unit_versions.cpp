@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Tests of the firmware versions of the Blend Unit, which tell whether it answers at all.
 #include "filledblendunit.h"
+#include "testclass.h"
 
 #include <QPlainTextEdit>
 #include <QTabWidget>
@@ -28,7 +29,7 @@ QString textOf(const TestWindow &test, const char *box)
 
 } // namespace
 
-class TestBlendUnitVersions : public QObject
+class BlendUnitVersionsTest : public QObject
 {
     Q_OBJECT
 
@@ -42,7 +43,7 @@ private slots:
     void failedReadOfAllLeavesTheBlendUnitAddressed();
 };
 
-void TestBlendUnitVersions::versionLines_data()
+void BlendUnitVersionsTest::versionLines_data()
 {
     QTest::addColumn<int>("processor");
     QTest::addColumn<int>("fpga");
@@ -61,7 +62,7 @@ void TestBlendUnitVersions::versionLines_data()
     row("all ones", 0xFFFF, 0xFFFF, "RISC-V version = f.f.f Betaf", "FPGA version = f.f.f.f");
 }
 
-void TestBlendUnitVersions::versionLines()
+void BlendUnitVersionsTest::versionLines()
 {
     QFETCH(const int, processor);
     QFETCH(const int, fpga);
@@ -79,7 +80,7 @@ void TestBlendUnitVersions::versionLines()
     QCOMPARE(test.takeLog().mid(0, 4), expected);
 }
 
-void TestBlendUnitVersions::bothVersionsZeroEndTheRead_data()
+void BlendUnitVersionsTest::bothVersionsZeroEndTheRead_data()
 {
     QTest::addColumn<bool>("ok");
 
@@ -87,7 +88,7 @@ void TestBlendUnitVersions::bothVersionsZeroEndTheRead_data()
     QTest::newRow("refused") << false;
 }
 
-void TestBlendUnitVersions::bothVersionsZeroEndTheRead()
+void BlendUnitVersionsTest::bothVersionsZeroEndTheRead()
 {
     QFETCH(const bool, ok);
     TestWindow test;
@@ -108,7 +109,7 @@ void TestBlendUnitVersions::bothVersionsZeroEndTheRead()
     QVERIFY(test.child<QAbstractButton>("BU_FUSION_MODE_PB").isChecked());
 }
 
-void TestBlendUnitVersions::withoutADeviceTheReadFails()
+void BlendUnitVersionsTest::withoutADeviceTheReadFails()
 {
     TestWindow test;
     const QStringList line{"Could not read Fusion parameters"};
@@ -127,7 +128,7 @@ void TestBlendUnitVersions::withoutADeviceTheReadFails()
     QCOMPARE(test.takeLog(), line);
 }
 
-void TestBlendUnitVersions::withoutADeviceTheReadOfAllFails()
+void BlendUnitVersionsTest::withoutADeviceTheReadOfAllFails()
 {
     TestWindow test;
     test.takeCalls();
@@ -138,7 +139,7 @@ void TestBlendUnitVersions::withoutADeviceTheReadOfAllFails()
     QCOMPARE(test.takeLog(), QStringList{"Could not read Fusion parameters"});
 }
 
-void TestBlendUnitVersions::failedReadOfAllLeavesTheBlendUnitAddressed()
+void BlendUnitVersionsTest::failedReadOfAllLeavesTheBlendUnitAddressed()
 {
     TestWindow test;
     test.beConnected();
@@ -168,5 +169,5 @@ void TestBlendUnitVersions::failedReadOfAllLeavesTheBlendUnitAddressed()
     QCOMPARE(test.simulator.journal().front().target, 0);
 }
 
-QTEST_MAIN(TestBlendUnitVersions)
+PILOTEL_TEST_CLASS(BlendUnitVersionsTest)
 #include "tst_blend_unit_versions.moc"

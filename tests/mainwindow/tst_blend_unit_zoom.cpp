@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Tests of the read of the Blend Unit's zoom.
 #include "filledblendunit.h"
+#include "testclass.h"
 
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -64,7 +65,7 @@ QStringList infraredPage(const TestWindow &test)
 
 } // namespace
 
-class TestBlendUnitZoom : public QObject
+class BlendUnitZoomTest : public QObject
 {
     Q_OBJECT
 
@@ -85,7 +86,7 @@ private slots:
     void methodWithoutAnItemIsConfiguredOnce();
 };
 
-void TestBlendUnitZoom::fusionReadShowsFactorAndTellsAll()
+void BlendUnitZoomTest::fusionReadShowsFactorAndTellsAll()
 {
     TestWindow test;
     beConnectedAndZoomed(test);
@@ -100,7 +101,7 @@ void TestBlendUnitZoom::fusionReadShowsFactorAndTellsAll()
     QCOMPARE(infraredPage(test), infraredBefore);
 }
 
-void TestBlendUnitZoom::infraredReadShowsAndTellsAll()
+void BlendUnitZoomTest::infraredReadShowsAndTellsAll()
 {
     TestWindow test;
     beConnectedAndZoomed(test);
@@ -116,7 +117,7 @@ void TestBlendUnitZoom::infraredReadShowsAndTellsAll()
     QCOMPARE(fusionFactor(test).value(), 1.0);
 }
 
-void TestBlendUnitZoom::otherSelectorShowsAndTellsNothing_data()
+void BlendUnitZoomTest::otherSelectorShowsAndTellsNothing_data()
 {
     QTest::addColumn<int>("selector");
 
@@ -125,7 +126,7 @@ void TestBlendUnitZoom::otherSelectorShowsAndTellsNothing_data()
     }
 }
 
-void TestBlendUnitZoom::otherSelectorShowsAndTellsNothing()
+void BlendUnitZoomTest::otherSelectorShowsAndTellsNothing()
 {
     QFETCH(const int, selector);
     TestWindow test;
@@ -144,7 +145,7 @@ void TestBlendUnitZoom::otherSelectorShowsAndTellsNothing()
     QCOMPARE(fusionFactor(test).value(), 1.0);
 }
 
-void TestBlendUnitZoom::factorText_data()
+void BlendUnitZoomTest::factorText_data()
 {
     QTest::addColumn<double>("factor");
     QTest::addColumn<QString>("text");
@@ -167,7 +168,7 @@ void TestBlendUnitZoom::factorText_data()
     row("nan", qQNaN(), 1.0);
 }
 
-void TestBlendUnitZoom::factorText()
+void BlendUnitZoomTest::factorText()
 {
     QFETCH(const double, factor);
     QFETCH(const QString, text);
@@ -185,7 +186,7 @@ void TestBlendUnitZoom::factorText()
     }
 }
 
-void TestBlendUnitZoom::refusedReadTellsZeros_data()
+void BlendUnitZoomTest::refusedReadTellsZeros_data()
 {
     QTest::addColumn<QStringList>("refused");
     QTest::addColumn<QString>("factor");
@@ -202,7 +203,7 @@ void TestBlendUnitZoom::refusedReadTellsZeros_data()
     row("both", {"getZoomConfig", "getZoomResolution"}, "0", {"0", "0", "0", "0"}, {"1", "0", "0", "0", "0"});
 }
 
-void TestBlendUnitZoom::refusedReadTellsZeros()
+void BlendUnitZoomTest::refusedReadTellsZeros()
 {
     QFETCH(const QStringList, refused);
     QFETCH(const QString, factor);
@@ -225,7 +226,7 @@ void TestBlendUnitZoom::refusedReadTellsZeros()
     QCOMPARE(fusionFactor(test).value(), shown.first().toDouble());
 }
 
-void TestBlendUnitZoom::readKeepsTheResultOfTheLastCommand_data()
+void BlendUnitZoomTest::readKeepsTheResultOfTheLastCommand_data()
 {
     QTest::addColumn<bool>("zoomRefused");
 
@@ -233,7 +234,7 @@ void TestBlendUnitZoom::readKeepsTheResultOfTheLastCommand_data()
     QTest::newRow("zoom refused") << true;
 }
 
-void TestBlendUnitZoom::readKeepsTheResultOfTheLastCommand()
+void BlendUnitZoomTest::readKeepsTheResultOfTheLastCommand()
 {
     QFETCH(const bool, zoomRefused);
     TestWindow test;
@@ -253,7 +254,7 @@ void TestBlendUnitZoom::readKeepsTheResultOfTheLastCommand()
     QVERIFY(!test.lastCommandOk());
 }
 
-void TestBlendUnitZoom::numbersBeyondTheBoxesAreToldAsTheyAre()
+void BlendUnitZoomTest::numbersBeyondTheBoxesAreToldAsTheyAre()
 {
     TestWindow test;
     beConnectedAndZoomed(test);
@@ -270,7 +271,7 @@ void TestBlendUnitZoom::numbersBeyondTheBoxesAreToldAsTheyAre()
     QCOMPARE(infraredPage(test), shown);
 }
 
-void TestBlendUnitZoom::differentMethodIsConfiguredWithinTheRead_data()
+void BlendUnitZoomTest::differentMethodIsConfiguredWithinTheRead_data()
 {
     QTest::addColumn<int>("selector");
     QTest::addColumn<int>("fusionMethodIndex");
@@ -286,7 +287,7 @@ void TestBlendUnitZoom::differentMethodIsConfiguredWithinTheRead_data()
     row("IR read, the Fusion page's method is the same", infraredZoom, 1, "4");
 }
 
-void TestBlendUnitZoom::differentMethodIsConfiguredWithinTheRead()
+void BlendUnitZoomTest::differentMethodIsConfiguredWithinTheRead()
 {
     QFETCH(const int, selector);
     QFETCH(const int, fusionMethodIndex);
@@ -314,7 +315,7 @@ void TestBlendUnitZoom::differentMethodIsConfiguredWithinTheRead()
     QVERIFY(test.lastCommandOk());
 }
 
-void TestBlendUnitZoom::methodWithoutAnItemIsConfiguredOnce()
+void BlendUnitZoomTest::methodWithoutAnItemIsConfiguredOnce()
 {
     TestWindow test;
     beConnectedAndZoomed(test);
@@ -329,5 +330,5 @@ void TestBlendUnitZoom::methodWithoutAnItemIsConfiguredOnce()
     QCOMPARE(infraredMethod(test).currentIndex(), -1);
 }
 
-QTEST_MAIN(TestBlendUnitZoom)
+PILOTEL_TEST_CLASS(BlendUnitZoomTest)
 #include "tst_blend_unit_zoom.moc"

@@ -3,6 +3,7 @@
 // Tests of the table of bad pixels: its transfer from and to the camera.
 #include "camerapage.h"
 #include "owndirectory.h"
+#include "testclass.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -52,7 +53,7 @@ QString line(const Transfer &transfer, const char *fileName)
 
 } // namespace
 
-class TestBprTable : public QObject
+class BprTableTest : public QObject
 {
     Q_OBJECT
 
@@ -81,7 +82,7 @@ private:
     std::optional<OwnDirectory> directory;
 };
 
-void TestBprTable::readingSavesTheTable()
+void BprTableTest::readingSavesTheTable()
 {
     TestWindow test;
     openCameraPage(test, "LutSection");
@@ -94,7 +95,7 @@ void TestBprTable::readingSavesTheTable()
     QVERIFY(QFileInfo{"bpr_SN10417.bin"}.size() > 640 * 480 / 8);
 }
 
-void TestBprTable::writingSendsTheFile()
+void BprTableTest::writingSendsTheFile()
 {
     TestWindow test;
     openCameraPage(test, "LutSection");
@@ -109,7 +110,7 @@ void TestBprTable::writingSendsTheFile()
     QCOMPARE(test.takeLog(), QStringList{"BPR table bpr_SN10417.bin correctly written."});
 }
 
-void TestBprTable::writingWithoutAFileIsToldInABox()
+void BprTableTest::writingWithoutAFileIsToldInABox()
 {
     TestWindow test;
     openCameraPage(test, "LutSection");
@@ -120,7 +121,7 @@ void TestBprTable::writingWithoutAFileIsToldInABox()
     QCOMPARE(test.takeLog(), QStringList{"BPR table bpr_SN10417.bin correctly written."});
 }
 
-void TestBprTable::aFailureIsToldInABoxBeforeTheLine()
+void BprTableTest::aFailureIsToldInABoxBeforeTheLine()
 {
     QFETCH(const std::size_t, place);
     const Transfer &transfer{transfers.at(place)};
@@ -146,7 +147,7 @@ void TestBprTable::aFailureIsToldInABoxBeforeTheLine()
     QCOMPARE(test.takeLog(), QStringList{line(transfer, "bpr_SN10417.bin")});
 }
 
-void TestBprTable::aDeviceThatIsClosedMeanwhileIsNotAsked()
+void BprTableTest::aDeviceThatIsClosedMeanwhileIsNotAsked()
 {
     QFETCH(const std::size_t, place);
     const Transfer &transfer{transfers.at(place)};
@@ -166,7 +167,7 @@ void TestBprTable::aDeviceThatIsClosedMeanwhileIsNotAsked()
     QCOMPARE(test.takeLog(), QStringList{});
 }
 
-void TestBprTable::theFileIsNamedAfterTheSerialNumber_data()
+void BprTableTest::theFileIsNamedAfterTheSerialNumber_data()
 {
     QTest::addColumn<std::size_t>("place");
     QTest::addColumn<qlonglong>("serialNumber");
@@ -183,7 +184,7 @@ void TestBprTable::theFileIsNamedAfterTheSerialNumber_data()
     }
 }
 
-void TestBprTable::theFileIsNamedAfterTheSerialNumber()
+void BprTableTest::theFileIsNamedAfterTheSerialNumber()
 {
     QFETCH(const std::size_t, place);
     QFETCH(const qlonglong, serialNumber);
@@ -199,7 +200,7 @@ void TestBprTable::theFileIsNamedAfterTheSerialNumber()
     QCOMPARE(QDir{}.entryList(QDir::Files), QStringList{QString{fileName}});
 }
 
-void TestBprTable::theSerialNumberIsAskedEachTime()
+void BprTableTest::theSerialNumberIsAskedEachTime()
 {
     TestWindow test;
     openCameraPage(test, "LutSection");
@@ -211,7 +212,7 @@ void TestBprTable::theSerialNumberIsAskedEachTime()
     }
 }
 
-void TestBprTable::theUnitInViewIsTheOneTransferred()
+void BprTableTest::theUnitInViewIsTheOneTransferred()
 {
     TestWindow test;
     test.beConnected();
@@ -221,7 +222,7 @@ void TestBprTable::theUnitInViewIsTheOneTransferred()
     QCOMPARE(test.takeLog(), QStringList{"BPR table correctly saved to bpr_SN2063.bin."});
 }
 
-void TestBprTable::theLastResultIsLeft()
+void BprTableTest::theLastResultIsLeft()
 {
     QFETCH(const std::size_t, place);
     const Transfer &transfer{transfers.at(place)};
@@ -242,7 +243,7 @@ void TestBprTable::theLastResultIsLeft()
     QVERIFY(!test.lastCommandOk());
 }
 
-void TestBprTable::withoutADeviceOnlyTheBoxIsShown()
+void BprTableTest::withoutADeviceOnlyTheBoxIsShown()
 {
     QFETCH(const std::size_t, place);
     const Transfer &transfer{transfers.at(place)};
@@ -265,14 +266,14 @@ void TestBprTable::withoutADeviceOnlyTheBoxIsShown()
     QCOMPARE(QDir{}.entryList(QDir::Files), QStringList{});
 }
 
-void TestBprTable::otherButtonsDoNothing_data()
+void BprTableTest::otherButtonsDoNothing_data()
 {
     QTest::addColumn<QString>("button");
     QTest::newRow("reset of the table") << "resetBPRTableButton";
     QTest::newRow("graphic editor") << "bpGraphicEditorButton";
 }
 
-void TestBprTable::otherButtonsDoNothing()
+void BprTableTest::otherButtonsDoNothing()
 {
     QFETCH(const QString, button);
     TestWindow test;
@@ -284,6 +285,5 @@ void TestBprTable::otherButtonsDoNothing()
     QVERIFY(test.child<QAbstractButton>(button).isEnabled());
 }
 
-QTEST_MAIN(TestBprTable)
-
+PILOTEL_TEST_CLASS(BprTableTest)
 #include "tst_bpr_table.moc"

@@ -3,6 +3,7 @@
 // Tests of the camera's read when the camera does not answer, or not everything.
 #include "camerapage.h"
 #include "changedcamera.h"
+#include "testclass.h"
 
 #include <QPlainTextEdit>
 #include <QTest>
@@ -33,7 +34,7 @@ QStringList shownOf(const TestWindow &test)
 
 } // namespace
 
-class TestCameraFailures : public QObject
+class CameraFailuresTest : public QObject
 {
     Q_OBJECT
 
@@ -48,7 +49,7 @@ private slots:
     void aSilentCameraIsReadToTheEnd();
 };
 
-void TestCameraFailures::bothVersionWordsZeroEndTheRead()
+void CameraFailuresTest::bothVersionWordsZeroEndTheRead()
 {
     TestWindow test;
     openCameraPage(test, "LutSection");
@@ -71,7 +72,7 @@ void TestCameraFailures::bothVersionWordsZeroEndTheRead()
     QCOMPARE(shownOf(test), before);
 }
 
-void TestCameraFailures::withoutADeviceOnlyABoxIsShown()
+void CameraFailuresTest::withoutADeviceOnlyABoxIsShown()
 {
     TestWindow test;
     test.takeCallsAndRecords();
@@ -84,7 +85,7 @@ void TestCameraFailures::withoutADeviceOnlyABoxIsShown()
     QCOMPARE(test.takeLog(), QStringList{});
 }
 
-void TestCameraFailures::afterDisconnectingOnlyABoxIsShown()
+void CameraFailuresTest::afterDisconnectingOnlyABoxIsShown()
 {
     TestWindow test;
     test.beConnected();
@@ -99,7 +100,7 @@ void TestCameraFailures::afterDisconnectingOnlyABoxIsShown()
     QCOMPARE(test.takeLog(), QStringList{});
 }
 
-void TestCameraFailures::aRefusalDoesNotEndTheRead_data()
+void CameraFailuresTest::aRefusalDoesNotEndTheRead_data()
 {
     QTest::addColumn<QByteArray>("operation");
     QTest::addColumn<QStringList>("linesGone");
@@ -168,7 +169,7 @@ void TestCameraFailures::aRefusalDoesNotEndTheRead_data()
         {"configureEdgeCorrection(0, 3, 5) -> true"});
 }
 
-void TestCameraFailures::aRefusalDoesNotEndTheRead()
+void CameraFailuresTest::aRefusalDoesNotEndTheRead()
 {
     QFETCH(const QByteArray, operation);
     QFETCH(const QStringList, linesGone);
@@ -192,7 +193,7 @@ void TestCameraFailures::aRefusalDoesNotEndTheRead()
     QCOMPARE(commandsOf(test.takeCalls()), commands);
 }
 
-void TestCameraFailures::aRefusedSettingIsShownAsOff_data()
+void CameraFailuresTest::aRefusedSettingIsShownAsOff_data()
 {
     QTest::addColumn<QString>("button");
     QTest::addColumn<QString>("text");
@@ -209,7 +210,7 @@ void TestCameraFailures::aRefusedSettingIsShownAsOff_data()
     row("getMipiOutput", "mipiOutputButton", "MIPI Output: Deactivated", "MIPI output value = Disabled");
 }
 
-void TestCameraFailures::aRefusedSettingIsShownAsOff()
+void CameraFailuresTest::aRefusedSettingIsShownAsOff()
 {
     QFETCH(const QString, button);
     QFETCH(const QString, text);
@@ -226,7 +227,7 @@ void TestCameraFailures::aRefusedSettingIsShownAsOff()
     QCOMPARE(commandsOf(test.takeCalls()), QStringList{});
 }
 
-void TestCameraFailures::aSilentCameraIsReadToTheEnd()
+void CameraFailuresTest::aSilentCameraIsReadToTheEnd()
 {
     TestWindow test;
     openCameraPage(test, "LutSection");
@@ -243,6 +244,5 @@ void TestCameraFailures::aSilentCameraIsReadToTheEnd()
     QCOMPARE(test.child<QPlainTextEdit>("FpgaTempTextEdit").toPlainText(), QString{"-273C"});
 }
 
-QTEST_MAIN(TestCameraFailures)
-
+PILOTEL_TEST_CLASS(CameraFailuresTest)
 #include "tst_camera_failures.moc"

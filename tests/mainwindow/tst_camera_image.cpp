@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Tests of what a read of the camera shows, tells and sends back: contrast, limits and edges of the image.
 #include "camerapage.h"
+#include "testclass.h"
 
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -13,7 +14,7 @@
 
 using veltrix_simulator::Value;
 
-class TestCameraImage : public QObject
+class CameraImageTest : public QObject
 {
     Q_OBJECT
 
@@ -35,7 +36,7 @@ private slots:
     void edgeCorrection();
 };
 
-void TestCameraImage::colourTable_data()
+void CameraImageTest::colourTable_data()
 {
     QTest::addColumn<int>("value");
     QTest::addColumn<int>("index");
@@ -59,7 +60,7 @@ void TestCameraImage::colourTable_data()
         << 255 << -1 << "Color Lut = " << QStringList{"setColorLut(255) -> false"};
 }
 
-void TestCameraImage::colourTable()
+void CameraImageTest::colourTable()
 {
     QFETCH(const int, value);
     QFETCH(const int, index);
@@ -75,7 +76,7 @@ void TestCameraImage::colourTable()
     QCOMPARE(commandsOf(test.takeCalls()), commands);
 }
 
-void TestCameraImage::contrastType_data()
+void CameraImageTest::contrastType_data()
 {
     QTest::addColumn<int>("value");
     QTest::addColumn<int>("index");
@@ -90,7 +91,7 @@ void TestCameraImage::contrastType_data()
         << 255 << -1 << "Contrast type = CLAHE (LOCAL)" << QStringList{"configureContrastType(255) -> false"};
 }
 
-void TestCameraImage::contrastType()
+void CameraImageTest::contrastType()
 {
     QFETCH(const int, value);
     QFETCH(const int, index);
@@ -106,7 +107,7 @@ void TestCameraImage::contrastType()
     QCOMPARE(commandsOf(test.takeCalls()), commands);
 }
 
-void TestCameraImage::gamma_data()
+void CameraImageTest::gamma_data()
 {
     QTest::addColumn<qint64>("raw");
     QTest::addColumn<QString>("line");
@@ -126,7 +127,7 @@ void TestCameraImage::gamma_data()
     row("only 24 bits are kept", 0xFFFF0CCC, "Gamma value = 65535.1", 20, 2.5);
 }
 
-void TestCameraImage::gamma()
+void CameraImageTest::gamma()
 {
     QFETCH(const qint64, raw);
     QFETCH(const QString, line);
@@ -143,7 +144,7 @@ void TestCameraImage::gamma()
     QCOMPARE(commandsOf(test.takeCalls()), QStringList{});
 }
 
-void TestCameraImage::gammaOnTheStepThatIsShownChangesNothing()
+void CameraImageTest::gammaOnTheStepThatIsShownChangesNothing()
 {
     TestWindow test;
     openCameraPage(test, "LutSection");
@@ -160,7 +161,7 @@ void TestCameraImage::gammaOnTheStepThatIsShownChangesNothing()
     QCOMPARE(test.child<QDoubleSpinBox>("gammaEdit").value(), 2.2);
 }
 
-void TestCameraImage::clhe_data()
+void CameraImageTest::clhe_data()
 {
     QTest::addColumn<qint64>("raw");
     QTest::addColumn<QString>("line");
@@ -177,7 +178,7 @@ void TestCameraImage::clhe_data()
     row(4294967295, "CLHE value = 4.29497e+09", 10000);
 }
 
-void TestCameraImage::clhe()
+void CameraImageTest::clhe()
 {
     QFETCH(const qint64, raw);
     QFETCH(const QString, line);
@@ -193,7 +194,7 @@ void TestCameraImage::clhe()
     QCOMPARE(commandsOf(test.takeCalls()), QStringList{});
 }
 
-void TestCameraImage::temporalFilter_data()
+void CameraImageTest::temporalFilter_data()
 {
     QTest::addColumn<int>("value");
     QTest::addColumn<QString>("line");
@@ -207,7 +208,7 @@ void TestCameraImage::temporalFilter_data()
     row(255, "LUT temporal filter = 255", 8);
 }
 
-void TestCameraImage::temporalFilter()
+void CameraImageTest::temporalFilter()
 {
     QFETCH(const int, value);
     QFETCH(const QString, line);
@@ -223,7 +224,7 @@ void TestCameraImage::temporalFilter()
     QCOMPARE(commandsOf(test.takeCalls()), QStringList{});
 }
 
-void TestCameraImage::gainLimitation_data()
+void CameraImageTest::gainLimitation_data()
 {
     QTest::addColumn<int>("result");
     QTest::addColumn<int>("black");
@@ -245,7 +246,7 @@ void TestCameraImage::gainLimitation_data()
     row("255 is a failure", 255, 33, 44, {"AHC gain limitation read error"}, 20, 80);
 }
 
-void TestCameraImage::gainLimitation()
+void CameraImageTest::gainLimitation()
 {
     QFETCH(const int, result);
     QFETCH(const int, black);
@@ -268,7 +269,7 @@ void TestCameraImage::gainLimitation()
     QCOMPARE(commandsOf(test.takeCalls()), QStringList{});
 }
 
-void TestCameraImage::edgeCorrection_data()
+void CameraImageTest::edgeCorrection_data()
 {
     QTest::addColumn<QVector<qint64>>("record");
     QTest::addColumn<int>("index");
@@ -304,7 +305,7 @@ void TestCameraImage::edgeCorrection_data()
         {"configureEdgeCorrection(255, 64, 20) -> false"});
 }
 
-void TestCameraImage::edgeCorrection()
+void CameraImageTest::edgeCorrection()
 {
     QFETCH(const QVector<qint64>, record);
     QFETCH(const int, index);
@@ -328,6 +329,5 @@ void TestCameraImage::edgeCorrection()
     QCOMPARE(test.child<QDoubleSpinBox>("SharpeningTHEdit").value(), thresholdPosition * 0.1);
 }
 
-QTEST_MAIN(TestCameraImage)
-
+PILOTEL_TEST_CLASS(CameraImageTest)
 #include "tst_camera_image.moc"

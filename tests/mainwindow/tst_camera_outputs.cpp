@@ -2,13 +2,14 @@
 // SPDX-License-Identifier: MIT
 // Tests of what a read of the camera shows, tells and sends back: versions, on/off settings and outputs.
 #include "camerapage.h"
+#include "testclass.h"
 
 #include <QComboBox>
 #include <QTest>
 
 #include <string>
 
-class TestCameraOutputs : public QObject
+class CameraOutputsTest : public QObject
 {
     Q_OBJECT
 
@@ -23,7 +24,7 @@ private slots:
     void frameRate();
 };
 
-void TestCameraOutputs::versionLine_data()
+void CameraOutputsTest::versionLine_data()
 {
     QTest::addColumn<int>("processor");
     QTest::addColumn<int>("fpga");
@@ -42,7 +43,7 @@ void TestCameraOutputs::versionLine_data()
     row(0xF000, 0xC000, R"(RISC-V version = 0.0.0\nFPGA version = 0.0.0 60Hz)");
 }
 
-void TestCameraOutputs::versionLine()
+void CameraOutputsTest::versionLine()
 {
     QFETCH(const int, processor);
     QFETCH(const int, fpga);
@@ -57,7 +58,7 @@ void TestCameraOutputs::versionLine()
              QStringList{"log(2, \"" + record + "\")"});
 }
 
-void TestCameraOutputs::onOffSetting_data()
+void CameraOutputsTest::onOffSetting_data()
 {
     QTest::addColumn<QByteArray>("key");
     QTest::addColumn<bool>("on");
@@ -85,7 +86,7 @@ void TestCameraOutputs::onOffSetting_data()
     rows("polarity", "polarityButton", "Invert Polarity", "Polarity value = ", "1", "0");
 }
 
-void TestCameraOutputs::onOffSetting()
+void CameraOutputsTest::onOffSetting()
 {
     QFETCH(const QByteArray, key);
     QFETCH(const bool, on);
@@ -109,7 +110,7 @@ void TestCameraOutputs::onOffSetting()
     QCOMPARE(commandsOf(test.takeCalls()), QStringList{});
 }
 
-void TestCameraOutputs::videoOutput_data()
+void CameraOutputsTest::videoOutput_data()
 {
     QTest::addColumn<int>("value");
     QTest::addColumn<int>("index");
@@ -137,7 +138,7 @@ void TestCameraOutputs::videoOutput_data()
         << 255 << -1 << nothingSelected << QStringList{"setVideoOutput(255) -> false"};
 }
 
-void TestCameraOutputs::videoOutput()
+void CameraOutputsTest::videoOutput()
 {
     QFETCH(const int, value);
     QFETCH(const int, index);
@@ -154,7 +155,7 @@ void TestCameraOutputs::videoOutput()
     QCOMPARE(commandsOf(test.takeCalls()), commands);
 }
 
-void TestCameraOutputs::frameRate_data()
+void CameraOutputsTest::frameRate_data()
 {
     QTest::addColumn<int>("before");
     QTest::addColumn<int>("hertz");
@@ -178,7 +179,7 @@ void TestCameraOutputs::frameRate_data()
     row(60, 255, 0, "Frame rate = 9Hz", {"setFrameRate(9) -> true"});
 }
 
-void TestCameraOutputs::frameRate()
+void CameraOutputsTest::frameRate()
 {
     QFETCH(const int, before);
     QFETCH(const int, hertz);
@@ -199,6 +200,5 @@ void TestCameraOutputs::frameRate()
     QCOMPARE(commandsOf(test.takeCalls()), commands);
 }
 
-QTEST_MAIN(TestCameraOutputs)
-
+PILOTEL_TEST_CLASS(CameraOutputsTest)
 #include "tst_camera_outputs.moc"

@@ -3,10 +3,11 @@
 // Tests of the camera's read as a whole: its calls and lines in order, what it shows and what it sends back.
 #include "camerapage.h"
 #include "changedcamera.h"
+#include "testclass.h"
 
 #include <QTest>
 
-class TestCameraReading : public QObject
+class CameraReadingTest : public QObject
 {
     Q_OBJECT
 
@@ -18,7 +19,7 @@ private slots:
     void showsWhatItReads();
 };
 
-void TestCameraReading::callsAndTellsInOrder()
+void CameraReadingTest::callsAndTellsInOrder()
 {
     TestWindow test;
     openCameraPage(test, "LutSection");
@@ -29,7 +30,7 @@ void TestCameraReading::callsAndTellsInOrder()
     QCOMPARE(test.takeLog(), logOf(changedCameraRead()));
 }
 
-void TestCameraReading::sendsNothingBackWhenNoControlChanges()
+void CameraReadingTest::sendsNothingBackWhenNoControlChanges()
 {
     TestWindow test{changeCamera};
     openCameraPage(test, "LutSection");
@@ -41,7 +42,7 @@ void TestCameraReading::sendsNothingBackWhenNoControlChanges()
     QCOMPARE(test.takeLog(), logOf(withoutWriteBacks(changedCameraRead())));
 }
 
-void TestCameraReading::buttonReadsTheCameraAfterTheBlendUnit()
+void CameraReadingTest::buttonReadsTheCameraAfterTheBlendUnit()
 {
     TestWindow test;
     openCameraPage(test, "LutSection");
@@ -59,7 +60,7 @@ void TestCameraReading::buttonReadsTheCameraAfterTheBlendUnit()
     QCOMPARE(calls.first(), QString{"setTarget(0) -> true"});
 }
 
-void TestCameraReading::showsWhatItReads_data()
+void CameraReadingTest::showsWhatItReads_data()
 {
     QTest::addColumn<QString>("widget");
     QTest::addColumn<QByteArray>("property");
@@ -124,7 +125,7 @@ void TestCameraReading::showsWhatItReads_data()
     row("SharpeningTHEdit", "value", 5.0);
 }
 
-void TestCameraReading::showsWhatItReads()
+void CameraReadingTest::showsWhatItReads()
 {
     QFETCH(const QString, widget);
     QFETCH(const QByteArray, property);
@@ -137,6 +138,5 @@ void TestCameraReading::showsWhatItReads()
     QCOMPARE(test.child<QWidget>(widget).property(property), value);
 }
 
-QTEST_MAIN(TestCameraReading)
-
+PILOTEL_TEST_CLASS(CameraReadingTest)
 #include "tst_camera_reading.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Tests of what a read of the camera shows, tells and sends back: the regions of interest.
 #include "camerapage.h"
+#include "testclass.h"
 
 #include <QCheckBox>
 #include <QSpinBox>
@@ -34,7 +35,7 @@ std::string key(int region, const char *coordinate)
 
 } // namespace
 
-class TestCameraRegions : public QObject
+class CameraRegionsTest : public QObject
 {
     Q_OBJECT
 
@@ -50,7 +51,7 @@ private slots:
     void valuesBeyondTheBoxes();
 };
 
-void TestCameraRegions::oneRegionIsShownByTheReadersNumber_data()
+void CameraRegionsTest::oneRegionIsShownByTheReadersNumber_data()
 {
     QTest::addColumn<int>("region");
     QTest::addColumn<QString>("boxes");
@@ -65,7 +66,7 @@ void TestCameraRegions::oneRegionIsShownByTheReadersNumber_data()
     row(3, "Roi1Exc", "ROI1 exclusive", {"roi1ExcEnable"});
 }
 
-void TestCameraRegions::oneRegionIsShownByTheReadersNumber()
+void CameraRegionsTest::oneRegionIsShownByTheReadersNumber()
 {
     QFETCH(const int, region);
     QFETCH(const QString, boxes);
@@ -89,7 +90,7 @@ void TestCameraRegions::oneRegionIsShownByTheReadersNumber()
     QCOMPARE(linesOf(test.takeLog(), label), lines);
 }
 
-void TestCameraRegions::noX1NoEnableBox_data()
+void CameraRegionsTest::noX1NoEnableBox_data()
 {
     QTest::addColumn<int>("region");
     QTest::addColumn<QString>("enableBox");
@@ -98,7 +99,7 @@ void TestCameraRegions::noX1NoEnableBox_data()
     QTest::newRow("ROI1 exclusive") << 3 << "roi1ExcEnable";
 }
 
-void TestCameraRegions::noX1NoEnableBox()
+void CameraRegionsTest::noX1NoEnableBox()
 {
     QFETCH(const int, region);
     QFETCH(const QString, enableBox);
@@ -122,7 +123,7 @@ void TestCameraRegions::noX1NoEnableBox()
     QCOMPARE(test.child<QCheckBox>(enableBox).isChecked(), true);
 }
 
-void TestCameraRegions::aRegionThatIsGoneIsSentBackAsZeros()
+void CameraRegionsTest::aRegionThatIsGoneIsSentBackAsZeros()
 {
     TestWindow test{[](auto &simulator) {
         simulator.set("camera.roi2.x1", 100);
@@ -146,7 +147,7 @@ void TestCameraRegions::aRegionThatIsGoneIsSentBackAsZeros()
     QCOMPARE(commandsOf(test.takeCalls()), commands);
 }
 
-void TestCameraRegions::everythingIsReadBeforeAnythingIsSentBack()
+void CameraRegionsTest::everythingIsReadBeforeAnythingIsSentBack()
 {
     // Sending back the region that the readers call 1 writes what they call 2: read too late, it would show.
     TestWindow test;
@@ -165,7 +166,7 @@ void TestCameraRegions::everythingIsReadBeforeAnythingIsSentBack()
     QVERIFY(calls.lastIndexOf(reads.last()) < calls.indexOf(linesOf(calls, "setRoi").first()));
 }
 
-void TestCameraRegions::aRegionSetAsNumber1IsReadAsNumber1()
+void CameraRegionsTest::aRegionSetAsNumber1IsReadAsNumber1()
 {
     // The setters call ROI1 inclusive number 1, the readers ROI0 exclusive; nobody translates.
     TestWindow test;
@@ -178,7 +179,7 @@ void TestCameraRegions::aRegionSetAsNumber1IsReadAsNumber1()
     QCOMPARE(linesOf(test.takeLog(), "ROI0 exclusive X1"), QStringList{"ROI0 exclusive X1 value = 5"});
 }
 
-void TestCameraRegions::valuesBeyondTheBoxes_data()
+void CameraRegionsTest::valuesBeyondTheBoxes_data()
 {
     QTest::addColumn<qint64>("value");
     QTest::addColumn<int>("xShown");
@@ -198,7 +199,7 @@ void TestCameraRegions::valuesBeyondTheBoxes_data()
     row(4294967295, 635, 475);
 }
 
-void TestCameraRegions::valuesBeyondTheBoxes()
+void CameraRegionsTest::valuesBeyondTheBoxes()
 {
     QFETCH(const qint64, value);
     QFETCH(const int, xShown);
@@ -229,6 +230,5 @@ void TestCameraRegions::valuesBeyondTheBoxes()
     QCOMPARE(checkedBoxes(test).size(), value == 0 ? 0 : 3);
 }
 
-QTEST_MAIN(TestCameraRegions)
-
+PILOTEL_TEST_CLASS(CameraRegionsTest)
 #include "tst_camera_regions.moc"

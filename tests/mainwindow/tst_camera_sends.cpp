@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Tests of the settings that are sliders with spin boxes: a released slider and a finished edit send the box.
 #include "coupledpairs.h"
+#include "testclass.h"
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -74,7 +75,7 @@ QString line(const Sending &sending, const char *outcome)
 
 } // namespace
 
-class TestCameraSends : public QObject
+class CameraSendsTest : public QObject
 {
     Q_OBJECT
 
@@ -101,7 +102,7 @@ private slots:
     void withoutADeviceNothingHappens();
 };
 
-void TestCameraSends::releasingTheSliderSendsTheBox()
+void CameraSendsTest::releasingTheSliderSendsTheBox()
 {
     QFETCH(const std::size_t, place);
     const Sending &sending{sendings.at(place)};
@@ -119,7 +120,7 @@ void TestCameraSends::releasingTheSliderSendsTheBox()
     QCOMPARE(widgets.value(), QString{sending.text}.toDouble());
 }
 
-void TestCameraSends::theEndOfADragSendsOnce()
+void CameraSendsTest::theEndOfADragSendsOnce()
 {
     QFETCH(const std::size_t, place);
     const Sending &sending{sendings.at(place)};
@@ -140,7 +141,7 @@ void TestCameraSends::theEndOfADragSendsOnce()
     QCOMPARE(test.takeLog(), QStringList{line(sending, "OK")});
 }
 
-void TestCameraSends::movingTheSliderSendsNothing()
+void CameraSendsTest::movingTheSliderSendsNothing()
 {
     QFETCH(const std::size_t, place);
     TestWindow test;
@@ -158,7 +159,7 @@ void TestCameraSends::movingTheSliderSendsNothing()
     QCOMPARE(test.takeLog(), QStringList{});
 }
 
-void TestCameraSends::enterSendsTheBox()
+void CameraSendsTest::enterSendsTheBox()
 {
     QFETCH(const std::size_t, place);
     const Sending &sending{sendings.at(place)};
@@ -175,7 +176,7 @@ void TestCameraSends::enterSendsTheBox()
     QCOMPARE(widgets.slider.value(), sending.position);
 }
 
-void TestCameraSends::leavingSendsTheBox()
+void CameraSendsTest::leavingSendsTheBox()
 {
     QFETCH(const std::size_t, place);
     const Sending &sending{sendings.at(place)};
@@ -189,7 +190,7 @@ void TestCameraSends::leavingSendsTheBox()
     QCOMPARE(test.takeLog(), QStringList{line(sending, "OK")});
 }
 
-void TestCameraSends::enterAndLeavingSendNothingElse()
+void CameraSendsTest::enterAndLeavingSendNothingElse()
 {
     QFETCH(const std::size_t, place);
     const Sending &sending{sendings.at(place)};
@@ -206,7 +207,7 @@ void TestCameraSends::enterAndLeavingSendNothingElse()
     QCOMPARE(calls, QStringList{QString{sending.call} + " -> true"});
 }
 
-void TestCameraSends::aRefusalIsToldAndRemembered()
+void CameraSendsTest::aRefusalIsToldAndRemembered()
 {
     QFETCH(const std::size_t, place);
     const Sending &sending{sendings.at(place)};
@@ -226,7 +227,7 @@ void TestCameraSends::aRefusalIsToldAndRemembered()
     QCOMPARE(widgets.value(), QString{sending.text}.toDouble());
 }
 
-void TestCameraSends::encodings_data()
+void CameraSendsTest::encodings_data()
 {
     QTest::addColumn<QString>("slider");
     QTest::addColumn<QString>("typed");
@@ -261,7 +262,7 @@ void TestCameraSends::encodings_data()
     row("tintSlider", "0", "setTint(0) -> true");
 }
 
-void TestCameraSends::encodings()
+void CameraSendsTest::encodings()
 {
     QFETCH(const QString, slider);
     QFETCH(const QString, typed);
@@ -276,7 +277,7 @@ void TestCameraSends::encodings()
     QCOMPARE(test.takeCalls(), QStringList{call});
 }
 
-void TestCameraSends::theBoxIsSentWhereTheSliderEnds_data()
+void CameraSendsTest::theBoxIsSentWhereTheSliderEnds_data()
 {
     QTest::addColumn<QString>("slider");
     QTest::addColumn<bool>("atItsEnd");
@@ -299,7 +300,7 @@ void TestCameraSends::theBoxIsSentWhereTheSliderEnds_data()
     row("gmsSlider", false, 4294967296.0, "setGms(4095) -> true");
 }
 
-void TestCameraSends::theBoxIsSentWhereTheSliderEnds()
+void CameraSendsTest::theBoxIsSentWhereTheSliderEnds()
 {
     QFETCH(const QString, slider);
     QFETCH(const bool, atItsEnd);
@@ -318,7 +319,7 @@ void TestCameraSends::theBoxIsSentWhereTheSliderEnds()
     QCOMPARE(test.takeCalls(), QStringList{call});
 }
 
-void TestCameraSends::withoutADeviceNothingHappens()
+void CameraSendsTest::withoutADeviceNothingHappens()
 {
     QFETCH(const std::size_t, place);
     const Sending &sending{sendings.at(place)};
@@ -342,6 +343,5 @@ void TestCameraSends::withoutADeviceNothingHappens()
     QCOMPARE(test.lastCommandOk(), lastCommandOk);
 }
 
-QTEST_MAIN(TestCameraSends)
-
+PILOTEL_TEST_CLASS(CameraSendsTest)
 #include "tst_camera_sends.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Tests of the camera's settings that are combo boxes: each is sent the moment the operator changes it.
 #include "camerapage.h"
+#include "testclass.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -82,7 +83,7 @@ void typeInto(QDoubleSpinBox &spinBox, const QString &text)
 
 } // namespace
 
-class TestCameraSettings : public QObject
+class CameraSettingsTest : public QObject
 {
     Q_OBJECT
 
@@ -104,7 +105,7 @@ private slots:
     void withoutADeviceNothingHappens();
 };
 
-void TestCameraSettings::keyboardChoiceIsSent_data()
+void CameraSettingsTest::keyboardChoiceIsSent_data()
 {
     QTest::addColumn<QString>("comboBox");
     QTest::addColumn<int>("key");
@@ -128,7 +129,7 @@ void TestCameraSettings::keyboardChoiceIsSent_data()
         "Configure EDGE CORRECTION OK");
 }
 
-void TestCameraSettings::keyboardChoiceIsSent()
+void CameraSettingsTest::keyboardChoiceIsSent()
 {
     QFETCH(const QString, comboBox);
     QFETCH(const int, key);
@@ -142,7 +143,7 @@ void TestCameraSettings::keyboardChoiceIsSent()
     QVERIFY(test.lastCommandOk());
 }
 
-void TestCameraSettings::mouseChoiceIsSent_data()
+void CameraSettingsTest::mouseChoiceIsSent_data()
 {
     QTest::addColumn<QString>("comboBox");
     QTest::addColumn<int>("index");
@@ -160,7 +161,7 @@ void TestCameraSettings::mouseChoiceIsSent_data()
     row("EdgeCorrectionCB", 2, {"configureEdgeCorrection(2, 64, 20) -> true"});
 }
 
-void TestCameraSettings::mouseChoiceIsSent()
+void CameraSettingsTest::mouseChoiceIsSent()
 {
     QFETCH(const QString, comboBox);
     QFETCH(const int, index);
@@ -173,7 +174,7 @@ void TestCameraSettings::mouseChoiceIsSent()
     QCOMPARE(test.takeLog(), QStringList{QString{settingOf(comboBox).action} + " OK"});
 }
 
-void TestCameraSettings::theSameChoiceIsNotSentAgain()
+void CameraSettingsTest::theSameChoiceIsNotSentAgain()
 {
     QFETCH(const QString, comboBox);
     TestWindow test;
@@ -183,7 +184,7 @@ void TestCameraSettings::theSameChoiceIsNotSentAgain()
     QCOMPARE(test.takeCallsAndRecords(), QStringList{});
 }
 
-void TestCameraSettings::refusalIsToldAndRemembered()
+void CameraSettingsTest::refusalIsToldAndRemembered()
 {
     QFETCH(const QString, comboBox);
     const Setting &setting{settingOf(comboBox)};
@@ -206,7 +207,7 @@ void TestCameraSettings::refusalIsToldAndRemembered()
     QVERIFY(test.lastCommandOk());
 }
 
-void TestCameraSettings::noSelectionIsSentAs255_data()
+void CameraSettingsTest::noSelectionIsSentAs255_data()
 {
     QTest::addColumn<QString>("comboBox");
     QTest::addColumn<QStringList>("calls");
@@ -220,7 +221,7 @@ void TestCameraSettings::noSelectionIsSentAs255_data()
     row("EdgeCorrectionCB", {"configureEdgeCorrection(255, 64, 20) -> false"});
 }
 
-void TestCameraSettings::noSelectionIsSentAs255()
+void CameraSettingsTest::noSelectionIsSentAs255()
 {
     QFETCH(const QString, comboBox);
     QFETCH(const QStringList, calls);
@@ -233,7 +234,7 @@ void TestCameraSettings::noSelectionIsSentAs255()
     QVERIFY(!test.lastCommandOk());
 }
 
-void TestCameraSettings::frameRateThatTheCameraRunsAtIsNotSent()
+void CameraSettingsTest::frameRateThatTheCameraRunsAtIsNotSent()
 {
     TestWindow test;
     openCameraPage(test, "ImageProcSection");
@@ -251,7 +252,7 @@ void TestCameraSettings::frameRateThatTheCameraRunsAtIsNotSent()
     QVERIFY(!test.lastCommandOk());
 }
 
-void TestCameraSettings::edgeCorrectionSendsWholeGainAndThreshold_data()
+void CameraSettingsTest::edgeCorrectionSendsWholeGainAndThreshold_data()
 {
     QTest::addColumn<QString>("gain");
     QTest::addColumn<QString>("threshold");
@@ -265,7 +266,7 @@ void TestCameraSettings::edgeCorrectionSendsWholeGainAndThreshold_data()
     row("1024", "200", "configureEdgeCorrection(1, 1024, 200) -> true");
 }
 
-void TestCameraSettings::edgeCorrectionSendsWholeGainAndThreshold()
+void CameraSettingsTest::edgeCorrectionSendsWholeGainAndThreshold()
 {
     QFETCH(const QString, gain);
     QFETCH(const QString, threshold);
@@ -290,7 +291,7 @@ void TestCameraSettings::edgeCorrectionSendsWholeGainAndThreshold()
              QStringList{QString{"configureEdgeCorrection(2, 2, %1) -> true"}.arg(wholeThreshold)});
 }
 
-void TestCameraSettings::withoutADeviceNothingHappens()
+void CameraSettingsTest::withoutADeviceNothingHappens()
 {
     QFETCH(const QString, comboBox);
     const Setting &setting{settingOf(comboBox)};
@@ -307,6 +308,5 @@ void TestCameraSettings::withoutADeviceNothingHappens()
     QCOMPARE(test.takeLog(), QStringList{});
 }
 
-QTEST_MAIN(TestCameraSettings)
-
+PILOTEL_TEST_CLASS(CameraSettingsTest)
 #include "tst_camera_settings.moc"

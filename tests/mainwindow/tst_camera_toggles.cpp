@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Tests of the camera's toggle buttons: what a click sends, tells and shows.
 #include "camerapage.h"
+#include "testclass.h"
 
 #include <QPushButton>
 #include <QTest>
@@ -94,7 +95,7 @@ void openWithoutReading(TestWindow &test)
 
 } // namespace
 
-class TestCameraToggles : public QObject
+class CameraTogglesTest : public QObject
 {
     Q_OBJECT
 
@@ -115,7 +116,7 @@ private slots:
     void withoutADeviceNothingHappens();
 };
 
-void TestCameraToggles::aClickSendsTheNewState()
+void CameraTogglesTest::aClickSendsTheNewState()
 {
     QFETCH(const std::size_t, place);
     const Toggle &toggle{toggles.at(place)};
@@ -134,7 +135,7 @@ void TestCameraToggles::aClickSendsTheNewState()
     }
 }
 
-void TestCameraToggles::theSpaceKeyTogglesToo()
+void CameraTogglesTest::theSpaceKeyTogglesToo()
 {
     QFETCH(const std::size_t, place);
     const Toggle &toggle{toggles.at(place)};
@@ -148,7 +149,7 @@ void TestCameraToggles::theSpaceKeyTogglesToo()
     QCOMPARE(button.text(), toggle.deactivated);
 }
 
-void TestCameraToggles::aRefusalLeavesTheTextAndTheNewState_data()
+void CameraTogglesTest::aRefusalLeavesTheTextAndTheNewState_data()
 {
     QTest::addColumn<std::size_t>("place");
     QTest::addColumn<bool>("before");
@@ -159,7 +160,7 @@ void TestCameraToggles::aRefusalLeavesTheTextAndTheNewState_data()
     }
 }
 
-void TestCameraToggles::aRefusalLeavesTheTextAndTheNewState()
+void CameraTogglesTest::aRefusalLeavesTheTextAndTheNewState()
 {
     QFETCH(const std::size_t, place);
     QFETCH(const bool, before);
@@ -177,7 +178,7 @@ void TestCameraToggles::aRefusalLeavesTheTextAndTheNewState()
     QCOMPARE(test.child<QPushButton>(toggle.button).text(), textOf(toggle, before));
 }
 
-void TestCameraToggles::theTextCatchesUpWithTheNextClicks()
+void CameraTogglesTest::theTextCatchesUpWithTheNextClicks()
 {
     QFETCH(const std::size_t, place);
     const Toggle &toggle{toggles.at(place)};
@@ -198,7 +199,7 @@ void TestCameraToggles::theTextCatchesUpWithTheNextClicks()
     QCOMPARE(test.takeLog(), (QStringList{line(toggle, "KO"), line(toggle, "OK"), line(toggle, "OK")}));
 }
 
-void TestCameraToggles::onlyTheOppositeWordChanges()
+void CameraTogglesTest::onlyTheOppositeWordChanges()
 {
     QFETCH(const std::size_t, place);
     const Toggle &toggle{toggles.at(place)};
@@ -216,7 +217,7 @@ void TestCameraToggles::onlyTheOppositeWordChanges()
     }
 }
 
-void TestCameraToggles::beforeAnyReadTheFormsTextsCount_data()
+void CameraTogglesTest::beforeAnyReadTheFormsTextsCount_data()
 {
     QTest::addColumn<std::size_t>("place");
     QTest::addColumn<QString>("atTheStart");
@@ -238,7 +239,7 @@ void TestCameraToggles::beforeAnyReadTheFormsTextsCount_data()
     row(6, "Horizontal Flip: Deactivated", "Horizontal Flip: Deactivated", "Horizontal Flip: Activated");
 }
 
-void TestCameraToggles::beforeAnyReadTheFormsTextsCount()
+void CameraTogglesTest::beforeAnyReadTheFormsTextsCount()
 {
     QFETCH(const std::size_t, place);
     QFETCH(const QString, atTheStart);
@@ -260,7 +261,7 @@ void TestCameraToggles::beforeAnyReadTheFormsTextsCount()
     QCOMPARE(button.text(), whenChecked);
 }
 
-void TestCameraToggles::withoutADeviceNothingHappens()
+void CameraTogglesTest::withoutADeviceNothingHappens()
 {
     QFETCH(const std::size_t, place);
     const Toggle &toggle{toggles.at(place)};
@@ -284,6 +285,5 @@ void TestCameraToggles::withoutADeviceNothingHappens()
     }
 }
 
-QTEST_MAIN(TestCameraToggles)
-
+PILOTEL_TEST_CLASS(CameraTogglesTest)
 #include "tst_camera_toggles.moc"

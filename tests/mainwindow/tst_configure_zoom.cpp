@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Tests of Configure Zoom by all that triggers it.
 #include "filledblendunit.h"
+#include "testclass.h"
 
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -79,7 +80,7 @@ void addTriggers()
 
 Q_DECLARE_METATYPE(Trigger)
 
-class TestConfigureZoom : public QObject
+class ConfigureZoomTest : public QObject
 {
     Q_OBJECT
 
@@ -94,7 +95,7 @@ private slots:
     void zoomControlsSendNothingByThemselves();
 };
 
-void TestConfigureZoom::configureSendsFactorAndMethodOfTheFusionPage()
+void ConfigureZoomTest::configureSendsFactorAndMethodOfTheFusionPage()
 {
     QFETCH(const Trigger, trigger);
     TestWindow test;
@@ -114,7 +115,7 @@ void TestConfigureZoom::configureSendsFactorAndMethodOfTheFusionPage()
     QVERIFY(test.lastCommandOk());
 }
 
-void TestConfigureZoom::configureStopsWhenTheRecordCannotBeRead()
+void ConfigureZoomTest::configureStopsWhenTheRecordCannotBeRead()
 {
     QFETCH(const Trigger, trigger);
     TestWindow test;
@@ -129,7 +130,7 @@ void TestConfigureZoom::configureStopsWhenTheRecordCannotBeRead()
     QVERIFY(!test.lastCommandOk());
 }
 
-void TestConfigureZoom::refusedConfigureIsReported()
+void ConfigureZoomTest::refusedConfigureIsReported()
 {
     QFETCH(const Trigger, trigger);
     TestWindow test;
@@ -145,7 +146,7 @@ void TestConfigureZoom::refusedConfigureIsReported()
     QVERIFY(!test.lastCommandOk());
 }
 
-void TestConfigureZoom::factorTravelsInSinglePrecision()
+void ConfigureZoomTest::factorTravelsInSinglePrecision()
 {
     TestWindow test;
     beConnectedAndZoomed(test);
@@ -156,7 +157,7 @@ void TestConfigureZoom::factorTravelsInSinglePrecision()
     QVERIFY(test.simulator.get("blendUnit.zoom.factor") == Value{static_cast<double>(1.001F)});
 }
 
-void TestConfigureZoom::zoomControlsSendNothingByThemselves()
+void ConfigureZoomTest::zoomControlsSendNothingByThemselves()
 {
     TestWindow test;
     beConnectedAndZoomed(test);
@@ -170,5 +171,5 @@ void TestConfigureZoom::zoomControlsSendNothingByThemselves()
     QCOMPARE(test.takeLog(), QStringList{});
 }
 
-QTEST_MAIN(TestConfigureZoom)
+PILOTEL_TEST_CLASS(ConfigureZoomTest)
 #include "tst_configure_zoom.moc"

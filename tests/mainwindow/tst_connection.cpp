@@ -3,6 +3,7 @@
 // Connecting: what is said to the SDK and told in the log, and the device target afterwards.
 #include "connectingtranscripts.h"
 #include "connectioncontrols.h"
+#include "testclass.h"
 #include "testwindow.h"
 
 #include <QTabWidget>
@@ -162,5 +163,5 @@ void ConnectionTest::readsExpertParametersAgainOnRequest()
     QCOMPARE(test.takeLog(), logOf(expertRead(1)));
 }
 
-QTEST_MAIN(ConnectionTest)
+PILOTEL_TEST_CLASS(ConnectionTest)
 #include "tst_connection.moc"

@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: MIT
 // The connections of the window, held against the table of them.
 #include "boxpresser.h"
+#include "form_fixture.h"
 #include "panel.h"
+#include "testclass.h"
 #include "testwindow.h"
-#include "ui_mainwindow.h"
 
 #include <QMetaMethod>
 #include <QPlainTextEdit>
@@ -273,10 +274,8 @@ private slots:
 void ConnectionTableTest::connectionsAreThoseOfTheTable()
 {
     // The same form without the program's wiring: what Qt connects among a widget's own parts.
-    QMainWindow bare;
-    Ui_MainWindow form{};
-    form.setupUi(&bare);
-    QMap<QString, int> expected{receiverCounts(bare)};
+    const MainForm bare;
+    QMap<QString, int> expected{receiverCounts(bare.window)};
     for (const Connection &connection : connectionTable()) {
         const QString key{connection.sender + QLatin1Char{' '} + QString::fromLatin1(connection.signal)};
         QVERIFY2(expected.contains(key), qPrintable(key));
@@ -334,5 +333,5 @@ void ConnectionTableTest::handlersAreToldApart()
     }
 }
 
-QTEST_MAIN(ConnectionTableTest)
+PILOTEL_TEST_CLASS(ConnectionTableTest)
 #include "tst_connection_table.moc"

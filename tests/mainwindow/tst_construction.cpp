@@ -3,6 +3,7 @@
 // The window as it is built.
 #include "connectioncontrols.h"
 #include "mouse.h"
+#include "testclass.h"
 #include "testwindow.h"
 
 #include <QComboBox>
@@ -308,5 +309,5 @@ void ConstructionTest::handlersCanBeInvokedByName()
     QVERIFY(metaObject.indexOfSlot(signature.constData()) >= metaObject.methodOffset());
 }
 
-QTEST_MAIN(ConstructionTest)
+PILOTEL_TEST_CLASS(ConstructionTest)
 #include "tst_construction.moc"

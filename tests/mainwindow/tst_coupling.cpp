@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Tests of the sliders and their spin boxes: each moves its partner, and neither calls the device.
 #include "coupledpairs.h"
+#include "testclass.h"
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -51,7 +52,7 @@ void sendMouse(QWidget &widget, QEvent::Type type, const QPoint &place)
 
 Q_DECLARE_METATYPE(KeyStrokes)
 
-class TestCoupling : public QObject
+class CouplingTest : public QObject
 {
     Q_OBJECT
 
@@ -71,7 +72,7 @@ private slots:
     void draggingSendsNothingBeforeTheRelease();
 };
 
-void TestCoupling::sliderKeysMoveTheBox_data()
+void CouplingTest::sliderKeysMoveTheBox_data()
 {
     QTest::addColumn<QByteArray>("slider");
     QTest::addColumn<KeyStrokes>("keyStrokes");
@@ -113,7 +114,7 @@ void TestCoupling::sliderKeysMoveTheBox_data()
                        {Qt::Key_End, 20, 20.0}});
 }
 
-void TestCoupling::sliderKeysMoveTheBox()
+void CouplingTest::sliderKeysMoveTheBox()
 {
     QFETCH(const QByteArray, slider);
     QFETCH(const KeyStrokes, keyStrokes);
@@ -131,7 +132,7 @@ void TestCoupling::sliderKeysMoveTheBox()
     QCOMPARE(test.takeLog(), QStringList{});
 }
 
-void TestCoupling::typingMovesTheSlider_data()
+void CouplingTest::typingMovesTheSlider_data()
 {
     QTest::addColumn<QByteArray>("slider");
     QTest::addColumn<QString>("typed");
@@ -155,7 +156,7 @@ void TestCoupling::typingMovesTheSlider_data()
     row("tintSlider", "15", 15);
 }
 
-void TestCoupling::typingMovesTheSlider()
+void CouplingTest::typingMovesTheSlider()
 {
     QFETCH(const QByteArray, slider);
     QFETCH(const QString, typed);
@@ -172,7 +173,7 @@ void TestCoupling::typingMovesTheSlider()
     QCOMPARE(test.takeLog(), QStringList{});
 }
 
-void TestCoupling::everyPositionShowsItsValue()
+void CouplingTest::everyPositionShowsItsValue()
 {
     QFETCH(const std::size_t, place);
     const Pair &pair{pairs.at(place)};
@@ -188,7 +189,7 @@ void TestCoupling::everyPositionShowsItsValue()
     QCOMPARE(test.takeCallsAndRecords(), QStringList{});
 }
 
-void TestCoupling::everyValueHasItsPosition()
+void CouplingTest::everyValueHasItsPosition()
 {
     QFETCH(const std::size_t, place);
     const Pair &pair{pairs.at(place)};
@@ -205,7 +206,7 @@ void TestCoupling::everyValueHasItsPosition()
     QCOMPARE(test.takeCallsAndRecords(), QStringList{});
 }
 
-void TestCoupling::aChangeIsToldOnceByEachOfAPair()
+void CouplingTest::aChangeIsToldOnceByEachOfAPair()
 {
     QFETCH(const std::size_t, place);
     const Pair &pair{pairs.at(place)};
@@ -228,7 +229,7 @@ void TestCoupling::aChangeIsToldOnceByEachOfAPair()
     QCOMPARE(boxSpy.count(), 2);
 }
 
-void TestCoupling::aValueBetweenTwoStepsGoesToTheNearest_data()
+void CouplingTest::aValueBetweenTwoStepsGoesToTheNearest_data()
 {
     QTest::addColumn<double>("value");
     QTest::addColumn<int>("position");
@@ -242,7 +243,7 @@ void TestCoupling::aValueBetweenTwoStepsGoesToTheNearest_data()
     row("0.54 goes down", 0.54, 0, 0.5);
 }
 
-void TestCoupling::aValueBetweenTwoStepsGoesToTheNearest()
+void CouplingTest::aValueBetweenTwoStepsGoesToTheNearest()
 {
     QFETCH(const double, value);
     QFETCH(const int, position);
@@ -263,7 +264,7 @@ void TestCoupling::aValueBetweenTwoStepsGoesToTheNearest()
     QCOMPARE(widgets.value(), shown);
 }
 
-void TestCoupling::draggingSendsNothingBeforeTheRelease()
+void CouplingTest::draggingSendsNothingBeforeTheRelease()
 {
     TestWindow test;
     openCameraPage(test, "LutSection");
@@ -281,6 +282,5 @@ void TestCoupling::draggingSendsNothingBeforeTheRelease()
     QCOMPARE(test.takeCallsAndRecords(), QStringList{});
 }
 
-QTEST_MAIN(TestCoupling)
-
+PILOTEL_TEST_CLASS(CouplingTest)
 #include "tst_coupling.moc"

@@ -2,12 +2,13 @@
 // SPDX-License-Identifier: MIT
 // Tests of the sliders and their spin boxes where one reaches beyond the other.
 #include "coupledpairs.h"
+#include "testclass.h"
 
 #include <QTest>
 
 #include <limits>
 
-class TestCouplingLimits : public QObject
+class CouplingLimitsTest : public QObject
 {
     Q_OBJECT
 
@@ -21,7 +22,7 @@ private slots:
     void handlersEndAtTheRangesOfTheirPair();
 };
 
-void TestCouplingLimits::aSliderPullsItsBoxBackToItsEnd_data()
+void CouplingLimitsTest::aSliderPullsItsBoxBackToItsEnd_data()
 {
     QTest::addColumn<QByteArray>("slider");
     QTest::addColumn<QString>("typed");
@@ -36,7 +37,7 @@ void TestCouplingLimits::aSliderPullsItsBoxBackToItsEnd_data()
     row("gmsSlider", "4096", 4095, 4095.0);
 }
 
-void TestCouplingLimits::aSliderPullsItsBoxBackToItsEnd()
+void CouplingLimitsTest::aSliderPullsItsBoxBackToItsEnd()
 {
     QFETCH(const QByteArray, slider);
     QFETCH(const QString, typed);
@@ -52,7 +53,7 @@ void TestCouplingLimits::aSliderPullsItsBoxBackToItsEnd()
     QCOMPARE(widgets.value(), value);
 }
 
-void TestCouplingLimits::aSliderAtItsEndLeavesItsBoxAlone()
+void CouplingLimitsTest::aSliderAtItsEndLeavesItsBoxAlone()
 {
     TestWindow test;
     openCameraPage(test, "LutSection");
@@ -71,7 +72,7 @@ void TestCouplingLimits::aSliderAtItsEndLeavesItsBoxAlone()
     QCOMPARE(gms.value(), 4294967296.0);
 }
 
-void TestCouplingLimits::aBoxPullsItsSliderBackToItsEnd_data()
+void CouplingLimitsTest::aBoxPullsItsSliderBackToItsEnd_data()
 {
     QTest::addColumn<QByteArray>("slider");
     QTest::addColumn<int>("moved");
@@ -84,7 +85,7 @@ void TestCouplingLimits::aBoxPullsItsSliderBackToItsEnd_data()
     row("tintSlider", 20, 2, 2.0);
 }
 
-void TestCouplingLimits::aBoxPullsItsSliderBackToItsEnd()
+void CouplingLimitsTest::aBoxPullsItsSliderBackToItsEnd()
 {
     QFETCH(const QByteArray, slider);
     QFETCH(const int, moved);
@@ -101,7 +102,7 @@ void TestCouplingLimits::aBoxPullsItsSliderBackToItsEnd()
     QCOMPARE(test.takeCallsAndRecords(), QStringList{});
 }
 
-void TestCouplingLimits::handlersEndAtTheRangesOfTheirPair_data()
+void CouplingLimitsTest::handlersEndAtTheRangesOfTheirPair_data()
 {
     QTest::addColumn<std::size_t>("place");
     QTest::addColumn<QVariant>("argument");
@@ -128,7 +129,7 @@ void TestCouplingLimits::handlersEndAtTheRangesOfTheirPair_data()
     }
 }
 
-void TestCouplingLimits::handlersEndAtTheRangesOfTheirPair()
+void CouplingLimitsTest::handlersEndAtTheRangesOfTheirPair()
 {
     QFETCH(const std::size_t, place);
     QFETCH(const QVariant, argument);
@@ -150,6 +151,5 @@ void TestCouplingLimits::handlersEndAtTheRangesOfTheirPair()
     QCOMPARE(test.takeCallsAndRecords(), QStringList{});
 }
 
-QTEST_MAIN(TestCouplingLimits)
-
+PILOTEL_TEST_CLASS(CouplingLimitsTest)
 #include "tst_coupling_limits.moc"

@@ -5,6 +5,7 @@
 #include "connectioncontrols.h"
 #include "halftyped.h"
 #include "mouse.h"
+#include "testclass.h"
 #include "testwindow.h"
 
 #include <QComboBox>
@@ -217,5 +218,5 @@ void DisconnectionTest::finishesAPendingEditThatTheDeviceRefuses()
     QCOMPARE(test.takeLog(), logOf(refused));
 }
 
-QTEST_MAIN(DisconnectionTest)
+PILOTEL_TEST_CLASS(DisconnectionTest)
 #include "tst_disconnection.moc"

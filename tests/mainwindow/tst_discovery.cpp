@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Scanning for ports and choosing the baud rate.
 #include "connectioncontrols.h"
+#include "testclass.h"
 #include "testwindow.h"
 
 #include <QComboBox>
@@ -193,5 +194,5 @@ void DiscoveryTest::setsTheBaudRateWhileConnected()
     QVERIFY(test.simulator.isDeviceOpen());
 }
 
-QTEST_MAIN(DiscoveryTest)
+PILOTEL_TEST_CLASS(DiscoveryTest)
 #include "tst_discovery.moc"

@@ -3,6 +3,7 @@
 // How numbers travel between the widgets and the device, and how they are told, at the edges too.
 #include "encodings.h"
 #include "logtext.h"
+#include "testclass.h"
 
 #include <QTest>
 
@@ -19,7 +20,7 @@ constexpr int lowestInt{std::numeric_limits<int>::min()};
 
 } // namespace
 
-class TestEncodings : public QObject
+class EncodingsTest : public QObject
 {
     Q_OBJECT
 
@@ -53,7 +54,7 @@ private slots:
     void namesOnOffStates();
 };
 
-void TestEncodings::truncatesTowardZeroToTheLow32Bits_data()
+void EncodingsTest::truncatesTowardZeroToTheLow32Bits_data()
 {
     QTest::addColumn<double>("value");
     QTest::addColumn<quint32>("bits");
@@ -84,7 +85,7 @@ void TestEncodings::truncatesTowardZeroToTheLow32Bits_data()
     row("NaN counts as 0", notANumber, 0, 0);
 }
 
-void TestEncodings::truncatesTowardZeroToTheLow32Bits()
+void EncodingsTest::truncatesTowardZeroToTheLow32Bits()
 {
     QFETCH(const double, value);
     QFETCH(const quint32, bits);
@@ -93,7 +94,7 @@ void TestEncodings::truncatesTowardZeroToTheLow32Bits()
     QCOMPARE(truncateToInt32(value), number);
 }
 
-void TestEncodings::encodesFixedPoint_data()
+void EncodingsTest::encodesFixedPoint_data()
 {
     QTest::addColumn<double>("value");
     QTest::addColumn<quint32>("fixedPoint");
@@ -116,14 +117,14 @@ void TestEncodings::encodesFixedPoint_data()
     row("NaN", notANumber, 0);
 }
 
-void TestEncodings::encodesFixedPoint()
+void EncodingsTest::encodesFixedPoint()
 {
     QFETCH(const double, value);
     QFETCH(const quint32, fixedPoint);
     QCOMPARE(toFixedPoint16_16(value), fixedPoint);
 }
 
-void TestEncodings::decodesFixedPointInSinglePrecision_data()
+void EncodingsTest::decodesFixedPointInSinglePrecision_data()
 {
     QTest::addColumn<quint32>("fixedPoint");
     QTest::addColumn<double>("value");
@@ -141,7 +142,7 @@ void TestEncodings::decodesFixedPointInSinglePrecision_data()
     row("just below the rounding to the top", 0xFFFFFF7F, 65535.99609375);
 }
 
-void TestEncodings::decodesFixedPointInSinglePrecision()
+void EncodingsTest::decodesFixedPointInSinglePrecision()
 {
     QFETCH(const quint32, fixedPoint);
     QFETCH(const double, value);
@@ -150,7 +151,7 @@ void TestEncodings::decodesFixedPointInSinglePrecision()
     QVERIFY2(!(difference < 0.0) && !(difference > 0.0), qPrintable(QString::number(difference)));
 }
 
-void TestEncodings::roundsHalfAwayFromZero_data()
+void EncodingsTest::roundsHalfAwayFromZero_data()
 {
     QTest::addColumn<double>("value");
     QTest::addColumn<int>("rounded");
@@ -178,14 +179,14 @@ void TestEncodings::roundsHalfAwayFromZero_data()
     row("NaN counts as 0", notANumber, 0);
 }
 
-void TestEncodings::roundsHalfAwayFromZero()
+void EncodingsTest::roundsHalfAwayFromZero()
 {
     QFETCH(const double, value);
     QFETCH(const int, rounded);
     QCOMPARE(roundToInt(value), rounded);
 }
 
-void TestEncodings::keepsTheLowByte_data()
+void EncodingsTest::keepsTheLowByte_data()
 {
     QTest::addColumn<int>("value");
     QTest::addColumn<int>("byte");
@@ -201,14 +202,14 @@ void TestEncodings::keepsTheLowByte_data()
     row("lowest int", lowestInt, 0);
 }
 
-void TestEncodings::keepsTheLowByte()
+void EncodingsTest::keepsTheLowByte()
 {
     QFETCH(const int, value);
     QFETCH(const int, byte);
     QCOMPARE(int{toByte(value)}, byte);
 }
 
-void TestEncodings::stopsAtTheLargestInt_data()
+void EncodingsTest::stopsAtTheLargestInt_data()
 {
     QTest::addColumn<quint64>("value");
     QTest::addColumn<int>("nearest");
@@ -224,14 +225,14 @@ void TestEncodings::stopsAtTheLargestInt_data()
     row("largest 64-bit number", std::numeric_limits<quint64>::max(), highestInt);
 }
 
-void TestEncodings::stopsAtTheLargestInt()
+void EncodingsTest::stopsAtTheLargestInt()
 {
     QFETCH(const quint64, value);
     QFETCH(const int, nearest);
     QCOMPARE(nearestInt(value), nearest);
 }
 
-void TestEncodings::convertsMillikelvinToCelsius_data()
+void EncodingsTest::convertsMillikelvinToCelsius_data()
 {
     QTest::addColumn<float>("millikelvin");
     QTest::addColumn<QString>("celsius");
@@ -247,14 +248,14 @@ void TestEncodings::convertsMillikelvinToCelsius_data()
     row("NaN", std::numeric_limits<float>::quiet_NaN(), "nan");
 }
 
-void TestEncodings::convertsMillikelvinToCelsius()
+void EncodingsTest::convertsMillikelvinToCelsius()
 {
     QFETCH(const float, millikelvin);
     QFETCH(const QString, celsius);
     QCOMPARE(QString::number(static_cast<double>(toCelsius(millikelvin)), 'g', 6), celsius);
 }
 
-void TestEncodings::mapsIndexToFrameRate_data()
+void EncodingsTest::mapsIndexToFrameRate_data()
 {
     QTest::addColumn<int>("index");
     QTest::addColumn<int>("hertz");
@@ -272,14 +273,14 @@ void TestEncodings::mapsIndexToFrameRate_data()
     row("lowest int is none", lowestInt, 0);
 }
 
-void TestEncodings::mapsIndexToFrameRate()
+void EncodingsTest::mapsIndexToFrameRate()
 {
     QFETCH(const int, index);
     QFETCH(const int, hertz);
     QCOMPARE(int{frameRateHz(index)}, hertz);
 }
 
-void TestEncodings::mapsFrameRateToIndex_data()
+void EncodingsTest::mapsFrameRateToIndex_data()
 {
     QTest::addColumn<int>("hertz");
     QTest::addColumn<int>("otherwise");
@@ -298,7 +299,7 @@ void TestEncodings::mapsFrameRateToIndex_data()
     row("255 Hz is unknown", 255, 1, 1);
 }
 
-void TestEncodings::mapsFrameRateToIndex()
+void EncodingsTest::mapsFrameRateToIndex()
 {
     QFETCH(const int, hertz);
     QFETCH(const int, otherwise);
@@ -306,7 +307,7 @@ void TestEncodings::mapsFrameRateToIndex()
     QCOMPARE(frameRateIndex(static_cast<std::uint8_t>(hertz), otherwise), index);
 }
 
-void TestEncodings::writesDoublesWithSixDigits_data()
+void EncodingsTest::writesDoublesWithSixDigits_data()
 {
     QTest::addColumn<double>("value");
     QTest::addColumn<QString>("text");
@@ -328,14 +329,14 @@ void TestEncodings::writesDoublesWithSixDigits_data()
     row(notANumber, "nan");
 }
 
-void TestEncodings::writesDoublesWithSixDigits()
+void EncodingsTest::writesDoublesWithSixDigits()
 {
     QFETCH(const double, value);
     QFETCH(const QString, text);
     QCOMPARE(QString::fromStdString(joinText(value)), text);
 }
 
-void TestEncodings::joinsPiecesInOrder()
+void EncodingsTest::joinsPiecesInOrder()
 {
     QCOMPARE(joinText("Operating time = ", 123456U, " min"), std::string{"Operating time = 123456 min"});
     QCOMPARE(joinText("Horizontal flip value = ", true), std::string{"Horizontal flip value = 1"});
@@ -344,7 +345,7 @@ void TestEncodings::joinsPiecesInOrder()
     QCOMPARE(joinText("filter = ", +std::uint8_t{65}), std::string{"filter = 65"});
 }
 
-void TestEncodings::writesHexadecimalDigits_data()
+void EncodingsTest::writesHexadecimalDigits_data()
 {
     QTest::addColumn<quint32>("value");
     QTest::addColumn<QString>("text");
@@ -358,14 +359,14 @@ void TestEncodings::writesHexadecimalDigits_data()
     row(0xFFFFFFFF, "ffffffff");
 }
 
-void TestEncodings::writesHexadecimalDigits()
+void EncodingsTest::writesHexadecimalDigits()
 {
     QFETCH(const quint32, value);
     QFETCH(const QString, text);
     QCOMPARE(QString::fromStdString(hexText(value)), text);
 }
 
-void TestEncodings::writesVersionWords_data()
+void EncodingsTest::writesVersionWords_data()
 {
     QTest::addColumn<int>("word");
     QTest::addColumn<QString>("text");
@@ -379,14 +380,14 @@ void TestEncodings::writesVersionWords_data()
     row(0xFFFF, "f.f.f");
 }
 
-void TestEncodings::writesVersionWords()
+void EncodingsTest::writesVersionWords()
 {
     QFETCH(const int, word);
     QFETCH(const QString, text);
     QCOMPARE(QString::fromStdString(versionText(static_cast<std::uint16_t>(word))), text);
 }
 
-void TestEncodings::takesEachVersionDigit()
+void EncodingsTest::takesEachVersionDigit()
 {
     QCOMPARE(versionDigit(0x1A3C, 3), std::string{"1"});
     QCOMPARE(versionDigit(0x1A3C, 2), std::string{"a"});
@@ -394,12 +395,11 @@ void TestEncodings::takesEachVersionDigit()
     QCOMPARE(versionDigit(0x1A3C, 0), std::string{"c"});
 }
 
-void TestEncodings::namesOnOffStates()
+void EncodingsTest::namesOnOffStates()
 {
     QCOMPARE(enabledWord(true), "Enabled");
     QCOMPARE(enabledWord(false), "Disabled");
 }
 
-QTEST_APPLESS_MAIN(TestEncodings)
-
+PILOTEL_TEST_CLASS(EncodingsTest)
 #include "tst_encodings.moc"

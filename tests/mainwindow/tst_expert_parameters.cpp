@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Tests of the camera's expert parameters: reading them, and the correction boxes.
 #include "camerapage.h"
+#include "testclass.h"
 
 #include <QCheckBox>
 #include <QDoubleSpinBox>
@@ -65,7 +66,7 @@ void clickIndicator(TestWindow &test, const char *checkBox)
 
 } // namespace
 
-class TestExpertParameters : public QObject
+class ExpertParametersTest : public QObject
 {
     Q_OBJECT
 
@@ -88,7 +89,7 @@ private slots:
     void withoutADeviceNothingHappens();
 };
 
-void TestExpertParameters::readCallsAndTellsInOrder()
+void ExpertParametersTest::readCallsAndTellsInOrder()
 {
     TestWindow test;
     openCameraPage(test, "ExpertMode");
@@ -118,7 +119,7 @@ void TestExpertParameters::readCallsAndTellsInOrder()
     QCOMPARE(test.takeLog(), readTold("2", "250", "1024", "10"));
 }
 
-void TestExpertParameters::readSendsBackTheBoxesThatChange()
+void ExpertParametersTest::readSendsBackTheBoxesThatChange()
 {
     TestWindow test;
     openCameraPage(test, "ExpertMode");
@@ -158,7 +159,7 @@ void TestExpertParameters::readSendsBackTheBoxesThatChange()
     QCOMPARE(commandsOf(test.takeCalls()), QStringList{});
 }
 
-void TestExpertParameters::buttonReadsTheCameraAfterTheWarp()
+void ExpertParametersTest::buttonReadsTheCameraAfterTheWarp()
 {
     TestWindow test;
     openCameraPage(test, "ExpertMode");
@@ -186,7 +187,7 @@ void TestExpertParameters::buttonReadsTheCameraAfterTheWarp()
     QCOMPARE(test.takeLog(), switched + switched + readTold("2", "250", "1024", "10") + switched);
 }
 
-void TestExpertParameters::readShowsValues_data()
+void ExpertParametersTest::readShowsValues_data()
 {
     QTest::addColumn<QByteArray>("name");
     QTest::addColumn<qint64>("value");
@@ -212,7 +213,7 @@ void TestExpertParameters::readShowsValues_data()
     row("tint", 2147483648, 20, 20.0);
 }
 
-void TestExpertParameters::readShowsValues()
+void ExpertParametersTest::readShowsValues()
 {
     QFETCH(const QByteArray, name);
     QFETCH(const qint64, value);
@@ -230,7 +231,7 @@ void TestExpertParameters::readShowsValues()
     QCOMPARE(commandsOf(test.takeCalls()), QStringList{});
 }
 
-void TestExpertParameters::readShowsVerticalFlip_data()
+void ExpertParametersTest::readShowsVerticalFlip_data()
 {
     QTest::addColumn<bool>("on");
     QTest::addColumn<QString>("line");
@@ -238,7 +239,7 @@ void TestExpertParameters::readShowsVerticalFlip_data()
     QTest::newRow("off") << false << "Vertical flip state = Disabled";
 }
 
-void TestExpertParameters::readShowsVerticalFlip()
+void ExpertParametersTest::readShowsVerticalFlip()
 {
     QFETCH(const bool, on);
     QFETCH(const QString, line);
@@ -255,7 +256,7 @@ void TestExpertParameters::readShowsVerticalFlip()
     QCOMPARE(commandsOf(test.takeCalls()), QStringList{});
 }
 
-void TestExpertParameters::readSendsBackOneBox()
+void ExpertParametersTest::readSendsBackOneBox()
 {
     QFETCH(const std::size_t, place);
     const Correction &correction{corrections.at(place)};
@@ -277,7 +278,7 @@ void TestExpertParameters::readSendsBackOneBox()
     QVERIFY(!test.lastCommandOk());
 }
 
-void TestExpertParameters::aRefusalDoesNotEndTheRead_data()
+void ExpertParametersTest::aRefusalDoesNotEndTheRead_data()
 {
     QTest::addColumn<QByteArray>("operation");
     QTest::addColumn<int>("line");
@@ -296,7 +297,7 @@ void TestExpertParameters::aRefusalDoesNotEndTheRead_data()
     row("getVerticalFlip", 8, "Vertical flip state = Disabled");
 }
 
-void TestExpertParameters::aRefusalDoesNotEndTheRead()
+void ExpertParametersTest::aRefusalDoesNotEndTheRead()
 {
     QFETCH(const QByteArray, operation);
     QFETCH(const int, line);
@@ -313,7 +314,7 @@ void TestExpertParameters::aRefusalDoesNotEndTheRead()
     QCOMPARE(commandsOf(test.takeCalls()), commands);
 }
 
-void TestExpertParameters::clickingABoxSendsItsState()
+void ExpertParametersTest::clickingABoxSendsItsState()
 {
     QFETCH(const std::size_t, place);
     const Correction &correction{corrections.at(place)};
@@ -331,7 +332,7 @@ void TestExpertParameters::clickingABoxSendsItsState()
     QCOMPARE(test.takeLog(), QStringList{});
 }
 
-void TestExpertParameters::theResultOfABoxIsDiscarded()
+void ExpertParametersTest::theResultOfABoxIsDiscarded()
 {
     QFETCH(const std::size_t, place);
     const Correction &correction{corrections.at(place)};
@@ -352,7 +353,7 @@ void TestExpertParameters::theResultOfABoxIsDiscarded()
     QCOMPARE(test.takeLog(), QStringList{});
 }
 
-void TestExpertParameters::withoutADeviceNothingHappens()
+void ExpertParametersTest::withoutADeviceNothingHappens()
 {
     const char *const handlers[]{"ReadKrParamsExpert", "bprControlChanged", "offsetControlChanged",
                                  "gainControlChanged"};
@@ -373,6 +374,5 @@ void TestExpertParameters::withoutADeviceNothingHappens()
     QCOMPARE(test.takeLog(), QStringList{});
 }
 
-QTEST_MAIN(TestExpertParameters)
-
+PILOTEL_TEST_CLASS(ExpertParametersTest)
 #include "tst_expert_parameters.moc"

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // The ranges, defaults and steps that the expert sliders take from the configuration.
+#include "testclass.h"
 #include "testwindow.h"
 
 #include <QDoubleSpinBox>
@@ -237,5 +238,5 @@ void ExpertRangesTest::asksTheConfigurationOnce()
     QCOMPARE(test.takeLog(), QStringList{});
 }
 
-QTEST_MAIN(ExpertRangesTest)
+PILOTEL_TEST_CLASS(ExpertRangesTest)
 #include "tst_expert_ranges.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Tests of the expert parameters that are applied: switches, baud rate, correction request, offline defaults.
 #include "camerapage.h"
+#include "testclass.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -42,7 +43,7 @@ QVector<qint64> wordsWithDefaults(const QVector<qint64> &defaults)
 
 } // namespace
 
-class TestExpertSends : public QObject
+class ExpertSendsTest : public QObject
 {
     Q_OBJECT
 
@@ -68,7 +69,7 @@ private slots:
     void withoutADeviceNothingHappens();
 };
 
-void TestExpertSends::applySendsTheSwitchesAndTheBaudRate_data()
+void ExpertSendsTest::applySendsTheSwitchesAndTheBaudRate_data()
 {
     QTest::addColumn<QString>("switched");
     QTest::addColumn<QStringList>("commands");
@@ -89,7 +90,7 @@ void TestExpertSends::applySendsTheSwitchesAndTheBaudRate_data()
     row("PermanentButton", "false", "true", "true", "true", "115200, true");
 }
 
-void TestExpertSends::applySendsTheSwitchesAndTheBaudRate()
+void ExpertSendsTest::applySendsTheSwitchesAndTheBaudRate()
 {
     QFETCH(const QString, switched);
     QFETCH(const QStringList, commands);
@@ -102,7 +103,7 @@ void TestExpertSends::applySendsTheSwitchesAndTheBaudRate()
     QCOMPARE(commandsOf(test.takeCalls()), commands);
 }
 
-void TestExpertSends::applyTellsEachInOrder()
+void ExpertSendsTest::applyTellsEachInOrder()
 {
     TestWindow test;
     openCameraPage(test, "ExpertMode");
@@ -132,7 +133,7 @@ void TestExpertSends::applyTellsEachInOrder()
     QCOMPARE(wordsOf(test.simulator), wordsWithDefaults({2, 1024, 250, 10}));
 }
 
-void TestExpertSends::applyGoesOnAfterEveryRefusal()
+void ExpertSendsTest::applyGoesOnAfterEveryRefusal()
 {
     TestWindow test;
     openCameraPage(test, "ExpertMode");
@@ -157,7 +158,7 @@ void TestExpertSends::applyGoesOnAfterEveryRefusal()
     QVERIFY(!test.lastCommandOk());
 }
 
-void TestExpertSends::applyOfflineBeforeTheFirstConnection()
+void ExpertSendsTest::applyOfflineBeforeTheFirstConnection()
 {
     TestWindow test;
     test.child<QSlider>("gskSlider").setValue(3);
@@ -172,7 +173,7 @@ void TestExpertSends::applyOfflineBeforeTheFirstConnection()
     QCOMPARE(wordsOf(test.simulator), wordsWithDefaults({3, 42, 777, 1}));
 }
 
-void TestExpertSends::applyOfflineAfterADisconnection()
+void ExpertSendsTest::applyOfflineAfterADisconnection()
 {
     TestWindow test;
     test.beConnected();
@@ -190,7 +191,7 @@ void TestExpertSends::applyOfflineAfterADisconnection()
     QCOMPARE(wordsOf(test.simulator), wordsWithDefaults({3, 4000, 1, 19}));
 }
 
-void TestExpertSends::applyOfflineWritesWhatTheControlsHold_data()
+void ExpertSendsTest::applyOfflineWritesWhatTheControlsHold_data()
 {
     QTest::addColumn<QString>("slider");
     QTest::addColumn<int>("position");
@@ -207,7 +208,7 @@ void TestExpertSends::applyOfflineWritesWhatTheControlsHold_data()
     row("GMS is the 32 bits of the box", "gmsSlider", 99, 4294967295.0, {0, -1, 0, 0});
 }
 
-void TestExpertSends::applyOfflineWritesWhatTheControlsHold()
+void ExpertSendsTest::applyOfflineWritesWhatTheControlsHold()
 {
     QFETCH(const QString, slider);
     QFETCH(const int, position);
@@ -230,7 +231,7 @@ void TestExpertSends::applyOfflineWritesWhatTheControlsHold()
     QCOMPARE(wordsOf(test.simulator), wordsWithDefaults(defaults));
 }
 
-void TestExpertSends::whatWasWrittenOfflineIsTheNextDefault()
+void ExpertSendsTest::whatWasWrittenOfflineIsTheNextDefault()
 {
     // Without expert mode nothing is read over the defaults.
     TestWindow test{[](Simulator &simulator) {
@@ -253,7 +254,7 @@ void TestExpertSends::whatWasWrittenOfflineIsTheNextDefault()
     QCOMPARE(test.child<QSlider>("tintSlider").value(), 1);
 }
 
-void TestExpertSends::everyBaudRateIsSent_data()
+void ExpertSendsTest::everyBaudRateIsSent_data()
 {
     QTest::addColumn<int>("index");
     QTest::addColumn<bool>("permanent");
@@ -271,7 +272,7 @@ void TestExpertSends::everyBaudRateIsSent_data()
     row(4, true, "setMavlinkBaudRate(921600, true) -> true");
 }
 
-void TestExpertSends::everyBaudRateIsSent()
+void ExpertSendsTest::everyBaudRateIsSent()
 {
     QFETCH(const int, index);
     QFETCH(const bool, permanent);
@@ -292,7 +293,7 @@ void TestExpertSends::everyBaudRateIsSent()
     QVERIFY(test.lastCommandOk());
 }
 
-void TestExpertSends::aRefusedBaudRateIsToldInABox()
+void ExpertSendsTest::aRefusedBaudRateIsToldInABox()
 {
     TestWindow test;
     openCameraPage(test, "ExpertMode");
@@ -314,7 +315,7 @@ void TestExpertSends::aRefusedBaudRateIsToldInABox()
     QCOMPARE(test.child<QComboBox>("BaudRateCB").currentIndex(), 4);
 }
 
-void TestExpertSends::noBaudRateIsSentAsZero()
+void ExpertSendsTest::noBaudRateIsSentAsZero()
 {
     TestWindow test;
     openCameraPage(test, "ExpertMode");
@@ -324,7 +325,7 @@ void TestExpertSends::noBaudRateIsSentAsZero()
     QCOMPARE(test.boxes.takeShown(), QStringList{baudRateBox});
 }
 
-void TestExpertSends::permanentButtonTellsItsState()
+void ExpertSendsTest::permanentButtonTellsItsState()
 {
     TestWindow test;
     openCameraPage(test, "ExpertMode");
@@ -341,7 +342,7 @@ void TestExpertSends::permanentButtonTellsItsState()
     QCOMPARE(test.takeLog(), QStringList{});
 }
 
-void TestExpertSends::nucRequestIsSent()
+void ExpertSendsTest::nucRequestIsSent()
 {
     TestWindow test;
     openCameraPage(test, "ExpertMode");
@@ -350,7 +351,7 @@ void TestExpertSends::nucRequestIsSent()
     QCOMPARE(test.takeLog(), QStringList{});
 }
 
-void TestExpertSends::aRefusedNucRequestIsToldInABox()
+void ExpertSendsTest::aRefusedNucRequestIsToldInABox()
 {
     TestWindow test;
     openCameraPage(test, "ExpertMode");
@@ -363,7 +364,7 @@ void TestExpertSends::aRefusedNucRequestIsToldInABox()
     QVERIFY(test.lastCommandOk());
 }
 
-void TestExpertSends::nucRequestLeavesTheLastResult()
+void ExpertSendsTest::nucRequestLeavesTheLastResult()
 {
     TestWindow test;
     openCameraPage(test, "ExpertMode");
@@ -373,14 +374,14 @@ void TestExpertSends::nucRequestLeavesTheLastResult()
     QVERIFY(!test.lastCommandOk());
 }
 
-void TestExpertSends::withoutADeviceNothingHappens_data()
+void ExpertSendsTest::withoutADeviceNothingHappens_data()
 {
     QTest::addColumn<QByteArray>("handler");
     QTest::newRow("baud rate") << QByteArray{"krBaudRateChanged"};
     QTest::newRow("correction request") << QByteArray{"ApplyNucRequest"};
 }
 
-void TestExpertSends::withoutADeviceNothingHappens()
+void ExpertSendsTest::withoutADeviceNothingHappens()
 {
     QFETCH(const QByteArray, handler);
     TestWindow test;
@@ -399,6 +400,5 @@ void TestExpertSends::withoutADeviceNothingHappens()
     }
 }
 
-QTEST_MAIN(TestExpertSends)
-
+PILOTEL_TEST_CLASS(ExpertSendsTest)
 #include "tst_expert_sends.moc"

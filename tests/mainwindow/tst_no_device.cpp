@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Every handler while no device is open.
 #include "connectioncontrols.h"
+#include "testclass.h"
 #include "testwindow.h"
 
 #include <QComboBox>
@@ -247,5 +248,5 @@ void NoDeviceTest::controlsWithoutADeviceSendNothing()
     QCOMPARE(boxes.filter("Camera not connected"), boxes);
 }
 
-QTEST_MAIN(NoDeviceTest)
+PILOTEL_TEST_CLASS(NoDeviceTest)
 #include "tst_no_device.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Scanning on a host whose serial ports are told by the test.
 #include "connectioncontrols.h"
+#include "testclass.h"
 #include "testwindow.h"
 
 #include <QComboBox>
@@ -124,5 +125,5 @@ void NoPortsTest::warnsAtEveryScan()
     QCOMPARE(test.enabledOf(connectionControls()), enabledWithPorts());
 }
 
-QTEST_MAIN(NoPortsTest)
+PILOTEL_TEST_CLASS(NoPortsTest)
 #include "tst_no_ports.moc"

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // The operation log and the temperature read-outs.
+#include "testclass.h"
 #include "testwindow.h"
 
 #include <QPlainTextEdit>
@@ -340,5 +341,5 @@ void OperationLogTest::readsNoTemperatureWithoutADevice()
     QCOMPARE(test.takeLog(), QStringList{});
 }
 
-QTEST_MAIN(OperationLogTest)
+PILOTEL_TEST_CLASS(OperationLogTest)
 #include "tst_operation_log.moc"

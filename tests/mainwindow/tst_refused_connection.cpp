@@ -3,6 +3,7 @@
 // Connecting when something goes wrong on the way, and connecting again.
 #include "connectingtranscripts.h"
 #include "connectioncontrols.h"
+#include "testclass.h"
 #include "testwindow.h"
 
 #include <QTest>
@@ -354,5 +355,5 @@ void RefusedConnectionTest::returnsTheDeviceBeforeConnectingAgain()
     QCOMPARE(test.enabledOf(connectionControls()), enabledWhileConnected());
 }
 
-QTEST_MAIN(RefusedConnectionTest)
+PILOTEL_TEST_CLASS(RefusedConnectionTest)
 #include "tst_refused_connection.moc"

@@ -2,11 +2,12 @@
 // SPDX-License-Identifier: MIT
 // Tests of the regions of interest: what a finished edit of a coordinate sends.
 #include "regioncoordinates.h"
+#include "testclass.h"
 
 #include <QSpinBox>
 #include <QTest>
 
-class TestRegionEditing : public QObject
+class RegionEditingTest : public QObject
 {
     Q_OBJECT
 
@@ -25,7 +26,7 @@ private slots:
     void anUnknownRegionSendsZeroUnchecked();
 };
 
-void TestRegionEditing::enterSendsTheCoordinate()
+void RegionEditingTest::enterSendsTheCoordinate()
 {
     QFETCH(const std::size_t, place);
     const Coordinate &coordinate{coordinates.at(place)};
@@ -46,7 +47,7 @@ void TestRegionEditing::enterSendsTheCoordinate()
     QVERIFY(test.lastCommandOk());
 }
 
-void TestRegionEditing::leavingSendsTheCoordinate()
+void RegionEditingTest::leavingSendsTheCoordinate()
 {
     QFETCH(const std::size_t, place);
     const Coordinate &coordinate{coordinates.at(place)};
@@ -65,7 +66,7 @@ void TestRegionEditing::leavingSendsTheCoordinate()
     QCOMPARE(test.takeLog(), QStringList{line});
 }
 
-void TestRegionEditing::aRefusalIsToldWithoutTheRegion()
+void RegionEditingTest::aRefusalIsToldWithoutTheRegion()
 {
     QFETCH(const std::size_t, place);
     const Coordinate &coordinate{coordinates.at(place)};
@@ -88,7 +89,7 @@ void TestRegionEditing::aRefusalIsToldWithoutTheRegion()
     QCOMPARE(shown(test, coordinate.box), 123);
 }
 
-void TestRegionEditing::everyCommandCarriesAllFlags()
+void RegionEditingTest::everyCommandCarriesAllFlags()
 {
     QFETCH(const std::size_t, place);
     const Coordinate &coordinate{coordinates.at(place)};
@@ -109,7 +110,7 @@ void TestRegionEditing::everyCommandCarriesAllFlags()
                                                 all ? "true, true, true" : "true, false, true")});
 }
 
-void TestRegionEditing::settingABoxSendsNothing()
+void RegionEditingTest::settingABoxSendsNothing()
 {
     QFETCH(const std::size_t, place);
     TestWindow test;
@@ -118,7 +119,7 @@ void TestRegionEditing::settingABoxSendsNothing()
     QCOMPARE(test.takeCallsAndRecords(), QStringList{});
 }
 
-void TestRegionEditing::anUnknownRegionSendsZeroUnchecked_data()
+void RegionEditingTest::anUnknownRegionSendsZeroUnchecked_data()
 {
     QTest::addColumn<QByteArray>("name");
     QTest::addColumn<int>("number");
@@ -129,7 +130,7 @@ void TestRegionEditing::anUnknownRegionSendsZeroUnchecked_data()
     }
 }
 
-void TestRegionEditing::anUnknownRegionSendsZeroUnchecked()
+void RegionEditingTest::anUnknownRegionSendsZeroUnchecked()
 {
     QFETCH(const QByteArray, name);
     QFETCH(const int, number);
@@ -156,6 +157,5 @@ void TestRegionEditing::anUnknownRegionSendsZeroUnchecked()
     QCOMPARE(shown(test, "Roi0IncY1"), 300);
 }
 
-QTEST_MAIN(TestRegionEditing)
-
+PILOTEL_TEST_CLASS(RegionEditingTest)
 #include "tst_region_editing.moc"

@@ -4,12 +4,13 @@
 // edited.
 #include "mouse.h"
 #include "regioncoordinates.h"
+#include "testclass.h"
 
 #include <QCoreApplication>
 #include <QSpinBox>
 #include <QTest>
 
-class TestRegionOrder : public QObject
+class RegionOrderTest : public QObject
 {
     Q_OBJECT
 
@@ -31,7 +32,7 @@ private slots:
     void withoutADeviceOnlyTheOrderIsChecked();
 };
 
-void TestRegionOrder::equalCoordinatesAreInOrder()
+void RegionOrderTest::equalCoordinatesAreInOrder()
 {
     QFETCH(const std::size_t, place);
     const Coordinate &coordinate{coordinates.at(place)};
@@ -49,7 +50,7 @@ void TestRegionOrder::equalCoordinatesAreInOrder()
     QCOMPARE(test.boxes.takeShown(), QStringList{});
 }
 
-void TestRegionOrder::wrongOrderMovesTheFirstAndSendsTheEdited()
+void RegionOrderTest::wrongOrderMovesTheFirstAndSendsTheEdited()
 {
     QFETCH(const std::size_t, place);
     const Coordinate &coordinate{coordinates.at(place)};
@@ -77,7 +78,7 @@ void TestRegionOrder::wrongOrderMovesTheFirstAndSendsTheEdited()
     QVERIFY(test.lastCommandOk());
 }
 
-void TestRegionOrder::wrongOrderIsToldInTheseWords_data()
+void RegionOrderTest::wrongOrderIsToldInTheseWords_data()
 {
     QTest::addColumn<int>("number");
     QTest::addColumn<QString>("edited");
@@ -101,7 +102,7 @@ void TestRegionOrder::wrongOrderIsToldInTheseWords_data()
         "setRoiX2(100, 3, false, false, true) -> true", "Set ROI 3 X2 value OK");
 }
 
-void TestRegionOrder::wrongOrderIsToldInTheseWords()
+void RegionOrderTest::wrongOrderIsToldInTheseWords()
 {
     QFETCH(const int, number);
     QFETCH(const QString, edited);
@@ -127,7 +128,7 @@ void TestRegionOrder::wrongOrderIsToldInTheseWords()
     QCOMPARE(test.child<QSpinBox>(pair + '2').value(), second);
 }
 
-void TestRegionOrder::oneCommandHoweverTheEditEnds_data()
+void RegionOrderTest::oneCommandHoweverTheEditEnds_data()
 {
     QTest::addColumn<QString>("edited");
     QTest::addColumn<int>("value");
@@ -142,7 +143,7 @@ void TestRegionOrder::oneCommandHoweverTheEditEnds_data()
     }
 }
 
-void TestRegionOrder::oneCommandHoweverTheEditEnds()
+void RegionOrderTest::oneCommandHoweverTheEditEnds()
 {
     QFETCH(const QString, edited);
     QFETCH(const int, value);
@@ -172,7 +173,7 @@ void TestRegionOrder::oneCommandHoweverTheEditEnds()
     QCOMPARE(shown(test, "Roi0IncX1"), shown(test, "Roi0IncX2"));
 }
 
-void TestRegionOrder::theBoxComesBeforeTheCommand()
+void RegionOrderTest::theBoxComesBeforeTheCommand()
 {
     TestWindow test;
     openRegion(test, 0);
@@ -193,7 +194,7 @@ void TestRegionOrder::theBoxComesBeforeTheCommand()
     QCOMPARE(test.takeCalls(), QStringList{"setRoiX1(300, 0, false, false, false) -> true"});
 }
 
-void TestRegionOrder::leavingAfterTheCorrectionSendsWhatIsShown()
+void RegionOrderTest::leavingAfterTheCorrectionSendsWhatIsShown()
 {
     TestWindow test;
     openRegion(test, 0);
@@ -210,7 +211,7 @@ void TestRegionOrder::leavingAfterTheCorrectionSendsWhatIsShown()
     QCOMPARE(test.boxes.takeShown().size(), 1);
 }
 
-void TestRegionOrder::aRefusalAfterTheCorrectionKeepsIt()
+void RegionOrderTest::aRefusalAfterTheCorrectionKeepsIt()
 {
     TestWindow test;
     openRegion(test, 1);
@@ -229,7 +230,7 @@ void TestRegionOrder::aRefusalAfterTheCorrectionKeepsIt()
     QCOMPARE(shown(test, "Roi1IncY2"), 30);
 }
 
-void TestRegionOrder::disconnectingFinishesTheEditFirst()
+void RegionOrderTest::disconnectingFinishesTheEditFirst()
 {
     TestWindow test;
     openRegion(test, 0);
@@ -245,7 +246,7 @@ void TestRegionOrder::disconnectingFinishesTheEditFirst()
     QCOMPARE(test.takeLog(), QStringList{"Set ROI 0 X1 value OK"});
 }
 
-void TestRegionOrder::aDeviceThatIsClosedMeanwhileGetsNothing()
+void RegionOrderTest::aDeviceThatIsClosedMeanwhileGetsNothing()
 {
     TestWindow test;
     openRegion(test, 0);
@@ -265,7 +266,7 @@ void TestRegionOrder::aDeviceThatIsClosedMeanwhileGetsNothing()
     QCOMPARE(shown(test, "Roi0IncX1"), 200);
 }
 
-void TestRegionOrder::withoutADeviceOnlyTheOrderIsChecked()
+void RegionOrderTest::withoutADeviceOnlyTheOrderIsChecked()
 {
     QFETCH(const std::size_t, place);
     const Coordinate &coordinate{coordinates.at(place)};
@@ -296,6 +297,5 @@ void TestRegionOrder::withoutADeviceOnlyTheOrderIsChecked()
     }
 }
 
-QTEST_MAIN(TestRegionOrder)
-
+PILOTEL_TEST_CLASS(RegionOrderTest)
 #include "tst_region_order.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Tests of the regions of interest: the enable boxes and what they send.
 #include "camerapage.h"
+#include "testclass.h"
 
 #include <QCheckBox>
 #include <QSpinBox>
@@ -83,7 +84,7 @@ QStringList zeros()
 
 } // namespace
 
-class TestRegionsOfInterest : public QObject
+class RegionsOfInterestTest : public QObject
 {
     Q_OBJECT
 
@@ -106,7 +107,7 @@ private slots:
     void withoutADeviceNothingHappens();
 };
 
-void TestRegionsOfInterest::optionalRegionsAreOffAtTheStart()
+void RegionsOfInterestTest::optionalRegionsAreOffAtTheStart()
 {
     TestWindow test;
     openCameraPage(test, "LutSection");
@@ -121,7 +122,7 @@ void TestRegionsOfInterest::optionalRegionsAreOffAtTheStart()
     QVERIFY(!test.child<QCheckBox>("checkBox").isEnabled());
 }
 
-void TestRegionsOfInterest::checkingSendsTheValuesShown_data()
+void RegionsOfInterestTest::checkingSendsTheValuesShown_data()
 {
     QTest::addColumn<int>("number");
     QTest::addColumn<QStringList>("expected");
@@ -142,7 +143,7 @@ void TestRegionsOfInterest::checkingSendsTheValuesShown_data()
                                           "setRoiY2(304, 3, false, false, true) -> true"};
 }
 
-void TestRegionsOfInterest::checkingSendsTheValuesShown()
+void RegionsOfInterestTest::checkingSendsTheValuesShown()
 {
     QFETCH(const int, number);
     QFETCH(const QStringList, expected);
@@ -161,7 +162,7 @@ void TestRegionsOfInterest::checkingSendsTheValuesShown()
     }
 }
 
-void TestRegionsOfInterest::uncheckingSendsZerosAndKeepsTheValues_data()
+void RegionsOfInterestTest::uncheckingSendsZerosAndKeepsTheValues_data()
 {
     QTest::addColumn<int>("number");
     QTest::addColumn<QStringList>("expected");
@@ -179,7 +180,7 @@ void TestRegionsOfInterest::uncheckingSendsZerosAndKeepsTheValues_data()
          "setRoiY1(0, 3, false, false, false) -> true", "setRoiY2(0, 3, false, false, false) -> true"});
 }
 
-void TestRegionsOfInterest::uncheckingSendsZerosAndKeepsTheValues()
+void RegionsOfInterestTest::uncheckingSendsZerosAndKeepsTheValues()
 {
     QFETCH(const int, number);
     QFETCH(const QStringList, expected);
@@ -203,7 +204,7 @@ void TestRegionsOfInterest::uncheckingSendsZerosAndKeepsTheValues()
     QCOMPARE(test.enabledOf(boxesOf(region)), boxesOf(region));
 }
 
-void TestRegionsOfInterest::everyCommandCarriesAllFlags_data()
+void RegionsOfInterestTest::everyCommandCarriesAllFlags_data()
 {
     QTest::addColumn<QVector<int>>("checkedBefore");
     QTest::addColumn<int>("clicked");
@@ -220,7 +221,7 @@ void TestRegionsOfInterest::everyCommandCarriesAllFlags_data()
     row("2 and 3 on, then 3 off", {2, 3}, 3, "false, true, false");
 }
 
-void TestRegionsOfInterest::everyCommandCarriesAllFlags()
+void RegionsOfInterestTest::everyCommandCarriesAllFlags()
 {
     QFETCH(const QVector<int>, checkedBefore);
     QFETCH(const int, clicked);
@@ -240,7 +241,7 @@ void TestRegionsOfInterest::everyCommandCarriesAllFlags()
     QCOMPARE(test.takeCallsAndRecords(), commands(region, values, flags));
 }
 
-void TestRegionsOfInterest::uncheckingSendsNothingForTheBoxInFocus()
+void RegionsOfInterestTest::uncheckingSendsNothingForTheBoxInFocus()
 {
     TestWindow test;
     openCameraPage(test, "LutSection");
@@ -258,7 +259,7 @@ void TestRegionsOfInterest::uncheckingSendsNothingForTheBoxInFocus()
     QCOMPARE(test.takeLog(), QStringList{});
 }
 
-void TestRegionsOfInterest::theSpaceKeyTogglesToo()
+void RegionsOfInterestTest::theSpaceKeyTogglesToo()
 {
     TestWindow test;
     openCameraPage(test, "LutSection");
@@ -273,7 +274,7 @@ void TestRegionsOfInterest::theSpaceKeyTogglesToo()
     QCOMPARE(test.takeCallsAndRecords(), commands(regionOf(2), zeros(), "false, false, false"));
 }
 
-void TestRegionsOfInterest::coordinatesInTheWrongOrderAreSentUnchecked()
+void RegionsOfInterestTest::coordinatesInTheWrongOrderAreSentUnchecked()
 {
     TestWindow test;
     openCameraPage(test, "LutSection");
@@ -288,7 +289,7 @@ void TestRegionsOfInterest::coordinatesInTheWrongOrderAreSentUnchecked()
     QCOMPARE(test.child<QSpinBox>("Roi1ExcX1").value(), 300);
 }
 
-void TestRegionsOfInterest::oneRefusalIsRememberedAndTheOthersAreSent_data()
+void RegionsOfInterestTest::oneRefusalIsRememberedAndTheOthersAreSent_data()
 {
     QTest::addColumn<int>("number");
     QTest::addColumn<QByteArray>("refused");
@@ -299,7 +300,7 @@ void TestRegionsOfInterest::oneRefusalIsRememberedAndTheOthersAreSent_data()
     }
 }
 
-void TestRegionsOfInterest::oneRefusalIsRememberedAndTheOthersAreSent()
+void RegionsOfInterestTest::oneRefusalIsRememberedAndTheOthersAreSent()
 {
     QFETCH(const int, number);
     QFETCH(const QByteArray, refused);
@@ -327,7 +328,7 @@ void TestRegionsOfInterest::oneRefusalIsRememberedAndTheOthersAreSent()
     QCOMPARE(test.takeCallsAndRecords().size(), 4);
 }
 
-void TestRegionsOfInterest::fourSuccessesAreRemembered()
+void RegionsOfInterestTest::fourSuccessesAreRemembered()
 {
     QFETCH(const int, number);
     TestWindow test;
@@ -340,7 +341,7 @@ void TestRegionsOfInterest::fourSuccessesAreRemembered()
     QVERIFY(test.lastCommandOk());
 }
 
-void TestRegionsOfInterest::withoutADeviceNothingHappens()
+void RegionsOfInterestTest::withoutADeviceNothingHappens()
 {
     QFETCH(const int, number);
     const OptionalRegion &region{regionOf(number)};
@@ -363,6 +364,5 @@ void TestRegionsOfInterest::withoutADeviceNothingHappens()
     QCOMPARE(test.enabledOf({region.enableBox}), QStringList{});
 }
 
-QTEST_MAIN(TestRegionsOfInterest)
-
+PILOTEL_TEST_CLASS(RegionsOfInterestTest)
 #include "tst_regions_of_interest.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Tests of the reset: where each default of the configuration is shown, also one beyond its control's range.
 #include "camerapage.h"
+#include "testclass.h"
 
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -64,7 +65,7 @@ public:
 
 } // namespace
 
-class TestResetDefaults : public QObject
+class ResetDefaultsTest : public QObject
 {
     Q_OBJECT
 
@@ -91,7 +92,7 @@ private:
     static void isShown();
 };
 
-void TestResetDefaults::isShown()
+void ResetDefaultsTest::isShown()
 {
     QFETCH(const QString, key);
     QFETCH(const QVariant, said);
@@ -109,7 +110,7 @@ void TestResetDefaults::isShown()
     QCOMPARE(test.child<QWidget>(control).property(property).toDouble(), shown);
 }
 
-void TestResetDefaults::numbersAreShown_data()
+void ResetDefaultsTest::numbersAreShown_data()
 {
     const DefaultRows rows;
     rows.of("defaultGamma", "gammaSlider", "value",
@@ -156,7 +157,7 @@ void TestResetDefaults::numbersAreShown_data()
     rows.of("defaultAhcWhiteGainLimit", "AhcWhiteGainLimSpin", "value", {{0, 0}, {66, 66}, {255, 100}});
 }
 
-void TestResetDefaults::regionsAreShown_data()
+void ResetDefaultsTest::regionsAreShown_data()
 {
     const DefaultRows rows;
     for (const char *const region : {"Roi0Inc", "Roi0Exc", "Roi1Inc", "Roi1Exc"}) {
@@ -179,7 +180,7 @@ void TestResetDefaults::regionsAreShown_data()
     }
 }
 
-void TestResetDefaults::choicesAreShown_data()
+void ResetDefaultsTest::choicesAreShown_data()
 {
     const DefaultRows rows;
     rows.of("defaultFrameRate", "frameRateCB", "currentIndex",
@@ -191,7 +192,7 @@ void TestResetDefaults::choicesAreShown_data()
             {{0, 0}, {5, 5}, {8, 8}, {9, -1}, {255, -1}});
 }
 
-void TestResetDefaults::switchesAreShown_data()
+void ResetDefaultsTest::switchesAreShown_data()
 {
     const DefaultRows rows;
     for (const auto &[key, control] : {
@@ -211,7 +212,7 @@ void TestResetDefaults::switchesAreShown_data()
     }
 }
 
-void TestResetDefaults::contrastTypeIsShownAsTheRegions_data()
+void ResetDefaultsTest::contrastTypeIsShownAsTheRegions_data()
 {
     QTest::addColumn<int>("said");
     QTest::addColumn<QStringList>("commands");
@@ -225,7 +226,7 @@ void TestResetDefaults::contrastTypeIsShownAsTheRegions_data()
                                                  "configureContrastType(0) -> true"};
 }
 
-void TestResetDefaults::contrastTypeIsShownAsTheRegions()
+void ResetDefaultsTest::contrastTypeIsShownAsTheRegions()
 {
     QFETCH(const int, said);
     QFETCH(const QStringList, commands);
@@ -238,7 +239,7 @@ void TestResetDefaults::contrastTypeIsShownAsTheRegions()
     QCOMPARE(test.takeCalls().filter("configureContrastType"), commands);
 }
 
-void TestResetDefaults::defaultsAreTakenInTheirOrder()
+void ResetDefaultsTest::defaultsAreTakenInTheirOrder()
 {
     TestWindow test;
     openCameraPage(test, "LutSection");
@@ -298,7 +299,7 @@ void TestResetDefaults::defaultsAreTakenInTheirOrder()
     QCOMPARE(taken, expected);
 }
 
-void TestResetDefaults::slidersThatStandRightLeaveTheirBoxes_data()
+void ResetDefaultsTest::slidersThatStandRightLeaveTheirBoxes_data()
 {
     QTest::addColumn<QString>("key");
     QTest::addColumn<QVariant>("said");
@@ -313,7 +314,7 @@ void TestResetDefaults::slidersThatStandRightLeaveTheirBoxes_data()
     row("GMS", "gmsDefault", 4095, "gmsEdit", 2000000.0);
 }
 
-void TestResetDefaults::slidersThatStandRightLeaveTheirBoxes()
+void ResetDefaultsTest::slidersThatStandRightLeaveTheirBoxes()
 {
     QFETCH(const QString, key);
     QFETCH(const QVariant, said);
@@ -332,7 +333,7 @@ void TestResetDefaults::slidersThatStandRightLeaveTheirBoxes()
     QCOMPARE(spinBox.value(), typed);
 }
 
-void TestResetDefaults::sharpeningGainIsRoundedBeforeItIsSent_data()
+void ResetDefaultsTest::sharpeningGainIsRoundedBeforeItIsSent_data()
 {
     QTest::addColumn<double>("said");
     QTest::addColumn<int>("sent");
@@ -345,7 +346,7 @@ void TestResetDefaults::sharpeningGainIsRoundedBeforeItIsSent_data()
     QTest::newRow("not a number") << notANumber << 0;
 }
 
-void TestResetDefaults::sharpeningGainIsRoundedBeforeItIsSent()
+void ResetDefaultsTest::sharpeningGainIsRoundedBeforeItIsSent()
 {
     QFETCH(const double, said);
     QFETCH(const int, sent);
@@ -363,7 +364,7 @@ void TestResetDefaults::sharpeningGainIsRoundedBeforeItIsSent()
                           "configureEdgeCorrection(1, 77, 88) -> true"}));
 }
 
-void TestResetDefaults::buttonsKeepTheirTextsAndSendNothing()
+void ResetDefaultsTest::buttonsKeepTheirTextsAndSendNothing()
 {
     struct Button
     {
@@ -399,7 +400,7 @@ void TestResetDefaults::buttonsKeepTheirTextsAndSendNothing()
     }
 }
 
-void TestResetDefaults::resetIsOfferedWhileConnected()
+void ResetDefaultsTest::resetIsOfferedWhileConnected()
 {
     TestWindow test;
     const QStringList reset{"resetParamButtonUser"};
@@ -412,6 +413,5 @@ void TestResetDefaults::resetIsOfferedWhileConnected()
     QCOMPARE(test.enabledOf(reset), QStringList{});
 }
 
-QTEST_MAIN(TestResetDefaults)
-
+PILOTEL_TEST_CLASS(ResetDefaultsTest)
 #include "tst_reset_defaults.moc"

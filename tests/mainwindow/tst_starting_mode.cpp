@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // Tests of the Blend Unit's starting mode.
+#include "testclass.h"
 #include "testwindow.h"
 
 #include <QComboBox>
@@ -53,7 +54,7 @@ void addStartingModeChoices()
 
 } // namespace
 
-class TestStartingMode : public QObject
+class StartingModeTest : public QObject
 {
     Q_OBJECT
 
@@ -68,7 +69,7 @@ private slots:
     void refusedWriteBackOfStartingModeIsReported();
 };
 
-void TestStartingMode::choiceOfStartingModeIsSent()
+void StartingModeTest::choiceOfStartingModeIsSent()
 {
     QFETCH(const int, shown);
     QFETCH(const int, key);
@@ -85,7 +86,7 @@ void TestStartingMode::choiceOfStartingModeIsSent()
     QVERIFY(test.lastCommandOk());
 }
 
-void TestStartingMode::refusedStartingModeKeepsTheChoice()
+void StartingModeTest::refusedStartingModeKeepsTheChoice()
 {
     QFETCH(const int, shown);
     QFETCH(const int, key);
@@ -102,7 +103,7 @@ void TestStartingMode::refusedStartingModeKeepsTheChoice()
     QVERIFY(!test.lastCommandOk());
 }
 
-void TestStartingMode::sameStartingModeAgainSendsNothing()
+void StartingModeTest::sameStartingModeAgainSendsNothing()
 {
     TestWindow test{withStartingMode(3)};
     test.beConnected();
@@ -113,7 +114,7 @@ void TestStartingMode::sameStartingModeAgainSendsNothing()
     QCOMPARE(test.takeLog(), QStringList{});
 }
 
-void TestStartingMode::readOfStartingMode_data()
+void StartingModeTest::readOfStartingMode_data()
 {
     QTest::addColumn<bool>("ok");
     QTest::addColumn<int>("answered");
@@ -141,7 +142,7 @@ void TestStartingMode::readOfStartingMode_data()
     row("255 has no item", true, 255, -1, noItem, notSet, false);
 }
 
-void TestStartingMode::readOfStartingMode()
+void StartingModeTest::readOfStartingMode()
 {
     QFETCH(const bool, ok);
     QFETCH(const int, answered);
@@ -162,7 +163,7 @@ void TestStartingMode::readOfStartingMode()
     QCOMPARE(test.lastCommandOk(), lastCommandOk);
 }
 
-void TestStartingMode::refusedWriteBackOfStartingModeIsReported()
+void StartingModeTest::refusedWriteBackOfStartingModeIsReported()
 {
     TestWindow test{withStartingMode(2)};
     test.beConnected();
@@ -178,5 +179,5 @@ void TestStartingMode::refusedWriteBackOfStartingModeIsReported()
     QVERIFY(!test.lastCommandOk());
 }
 
-QTEST_MAIN(TestStartingMode)
+PILOTEL_TEST_CLASS(StartingModeTest)
 #include "tst_starting_mode.moc"

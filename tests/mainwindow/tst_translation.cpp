@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // Boxes and captions can be translated; the lines of the log cannot.
+#include "testclass.h"
 #include "testwindow.h"
 
 #include <QComboBox>
@@ -32,7 +33,7 @@ public:
 
 } // namespace
 
-class TestTranslation : public QObject
+class TranslationTest : public QObject
 {
     Q_OBJECT
 
@@ -44,7 +45,7 @@ private slots:
     void theResetFindsTheTranslatedItem();
 };
 
-void TestTranslation::boxesAreTranslated_data()
+void TranslationTest::boxesAreTranslated_data()
 {
     QTest::addColumn<QString>("refused");
     QTest::addColumn<QString>("handler");
@@ -72,7 +73,7 @@ void TestTranslation::boxesAreTranslated_data()
         {});
 }
 
-void TestTranslation::boxesAreTranslated()
+void TranslationTest::boxesAreTranslated()
 {
     QFETCH(const QString, refused);
     QFETCH(const QString, handler);
@@ -93,7 +94,7 @@ void TestTranslation::boxesAreTranslated()
     QCOMPARE(test.takeLog(), log);
 }
 
-void TestTranslation::theBoxOfARegionIsTranslatedPieceByPiece()
+void TranslationTest::theBoxOfARegionIsTranslatedPieceByPiece()
 {
     const MarkingTranslator translator;
     TestWindow test;
@@ -107,7 +108,7 @@ void TestTranslation::theBoxOfARegionIsTranslatedPieceByPiece()
              QStringList{R"(window icon "<ROI>" "<ROI ><0>< X1 must be lower than ROI X2>" [OK])"});
 }
 
-void TestTranslation::captionsThatChangeAreTranslated()
+void TranslationTest::captionsThatChangeAreTranslated()
 {
     const MarkingTranslator translator;
     TestWindow test;
@@ -119,7 +120,7 @@ void TestTranslation::captionsThatChangeAreTranslated()
     QCOMPARE(test.child<QPushButton>("PermanentButton").text(), QStringLiteral("<Permanent>"));
 }
 
-void TestTranslation::theResetFindsTheTranslatedItem()
+void TranslationTest::theResetFindsTheTranslatedItem()
 {
     const MarkingTranslator translator;
     TestWindow test;
@@ -131,5 +132,5 @@ void TestTranslation::theResetFindsTheTranslatedItem()
     QCOMPARE(test.child<QComboBox>("contrastTypeEdit").currentText(), QStringLiteral("<CLHE (ROI)>"));
 }
 
-QTEST_MAIN(TestTranslation)
+PILOTEL_TEST_CLASS(TranslationTest)
 #include "tst_translation.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // A device that acknowledges a read without filling anything in: what is shown is zero, never what lay in
 // memory.
+#include "testclass.h"
 #include "testwindow.h"
 
 #include <QPlainTextEdit>
@@ -9,7 +10,7 @@
 
 using veltrix_simulator::Value;
 
-class TestUntouchedAnswers : public QObject
+class UntouchedAnswersTest : public QObject
 {
     Q_OBJECT
 
@@ -22,7 +23,7 @@ private slots:
     void aWarpIsZero();
 };
 
-void TestUntouchedAnswers::readsShowZeros_data()
+void UntouchedAnswersTest::readsShowZeros_data()
 {
     QTest::addColumn<QString>("operation");
     QTest::addColumn<bool>("byteResult");
@@ -41,7 +42,7 @@ void TestUntouchedAnswers::readsShowZeros_data()
     row("getVisibleClhe", {"Visible CLHE threshold = 0", "Visible filter coefficient = 0"});
 }
 
-void TestUntouchedAnswers::readsShowZeros()
+void UntouchedAnswersTest::readsShowZeros()
 {
     QFETCH(const QString, operation);
     QFETCH(const bool, byteResult);
@@ -60,7 +61,7 @@ void TestUntouchedAnswers::readsShowZeros()
     QCOMPARE(log.last(), QStringLiteral("target correctly changed"));
 }
 
-void TestUntouchedAnswers::anIdentityIsNotRememberedFromTheLastConnection()
+void UntouchedAnswersTest::anIdentityIsNotRememberedFromTheLastConnection()
 {
     TestWindow test;
     test.beConnected();
@@ -73,7 +74,7 @@ void TestUntouchedAnswers::anIdentityIsNotRememberedFromTheLastConnection()
     QVERIFY(!test.simulator.isDeviceOpen());
 }
 
-void TestUntouchedAnswers::aStartingModeThatIsNotGivenSelectsNothing()
+void UntouchedAnswersTest::aStartingModeThatIsNotGivenSelectsNothing()
 {
     TestWindow test;
     test.beConnected();
@@ -86,7 +87,7 @@ void TestUntouchedAnswers::aStartingModeThatIsNotGivenSelectsNothing()
     QCOMPARE(test.takeCalls(), calls);
 }
 
-void TestUntouchedAnswers::temperaturesAreZeroMillikelvin()
+void UntouchedAnswersTest::temperaturesAreZeroMillikelvin()
 {
     TestWindow test;
     test.beConnected();
@@ -98,7 +99,7 @@ void TestUntouchedAnswers::temperaturesAreZeroMillikelvin()
     QCOMPARE(test.child<QPlainTextEdit>("SensorTempTextEdit").toPlainText(), QStringLiteral("-273C"));
 }
 
-void TestUntouchedAnswers::aWarpIsZero()
+void UntouchedAnswersTest::aWarpIsZero()
 {
     TestWindow test;
     test.beConnected();
@@ -109,5 +110,5 @@ void TestUntouchedAnswers::aWarpIsZero()
     QCOMPARE(test.takeCalls(), QStringList{"getWarp(0) -> true {a11=0, a21=0, a12=0, a22=0, a13=0, a23=0}"});
 }
 
-QTEST_MAIN(TestUntouchedAnswers)
+PILOTEL_TEST_CLASS(UntouchedAnswersTest)
 #include "tst_untouched_answers.moc"

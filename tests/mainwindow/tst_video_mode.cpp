@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // Tests of the Blend Unit's video mode, and of its mode handlers without a device.
+#include "testclass.h"
 #include "testwindow.h"
 
 #include <QTest>
@@ -87,7 +88,7 @@ void addHandlers()
 
 } // namespace
 
-class TestVideoMode : public QObject
+class VideoModeTest : public QObject
 {
     Q_OBJECT
 
@@ -111,7 +112,7 @@ private slots:
     void afterDisconnectingNothingHappens();
 };
 
-void TestVideoMode::acceptedClickChecksExactlyItsButton()
+void VideoModeTest::acceptedClickChecksExactlyItsButton()
 {
     QFETCH(const int, shown);
     QFETCH(const int, pressed);
@@ -127,7 +128,7 @@ void TestVideoMode::acceptedClickChecksExactlyItsButton()
     QVERIFY(test.lastCommandOk());
 }
 
-void TestVideoMode::refusedClickShowsWhatWasShown()
+void VideoModeTest::refusedClickShowsWhatWasShown()
 {
     QFETCH(const int, shown);
     QFETCH(const int, pressed);
@@ -143,7 +144,7 @@ void TestVideoMode::refusedClickShowsWhatWasShown()
     QVERIFY(!test.lastCommandOk());
 }
 
-void TestVideoMode::acceptedHandlerByNameChecksExactlyItsButton()
+void VideoModeTest::acceptedHandlerByNameChecksExactlyItsButton()
 {
     QFETCH(const int, shown);
     QFETCH(const int, pressed);
@@ -157,7 +158,7 @@ void TestVideoMode::acceptedHandlerByNameChecksExactlyItsButton()
     QCOMPARE(checkedButtons(test), buttonsOf(pressed));
 }
 
-void TestVideoMode::refusedHandlerByNameTouchesNoButton()
+void VideoModeTest::refusedHandlerByNameTouchesNoButton()
 {
     QFETCH(const int, shown);
     QFETCH(const int, pressed);
@@ -172,7 +173,7 @@ void TestVideoMode::refusedHandlerByNameTouchesNoButton()
     QCOMPARE(checkedButtons(test), buttonsOf(shown));
 }
 
-void TestVideoMode::refusedSpaceKeyShowsWhatWasShown()
+void VideoModeTest::refusedSpaceKeyShowsWhatWasShown()
 {
     TestWindow test{withVideoMode(2)};
     test.beConnected();
@@ -186,7 +187,7 @@ void TestVideoMode::refusedSpaceKeyShowsWhatWasShown()
     QCOMPARE(checkedButtons(test), QStringList{"BU_FUSION_MODE_PB"});
 }
 
-void TestVideoMode::eachSwitchIsTheLastCommand()
+void VideoModeTest::eachSwitchIsTheLastCommand()
 {
     TestWindow test;
     test.beConnected();
@@ -201,7 +202,7 @@ void TestVideoMode::eachSwitchIsTheLastCommand()
     }
 }
 
-void TestVideoMode::readShowsTheMode_data()
+void VideoModeTest::readShowsTheMode_data()
 {
     QTest::addColumn<int>("shown");
     QTest::addColumn<bool>("ok");
@@ -226,7 +227,7 @@ void TestVideoMode::readShowsTheMode_data()
     row("refused with a mode", 0, false, 1, 0, unknown);
 }
 
-void TestVideoMode::readShowsTheMode()
+void VideoModeTest::readShowsTheMode()
 {
     QFETCH(const int, shown);
     QFETCH(const bool, ok);
@@ -246,7 +247,7 @@ void TestVideoMode::readShowsTheMode()
     QCOMPARE(test.lastCommandOk(), ok);
 }
 
-void TestVideoMode::beforeConnectingNothingHappens()
+void VideoModeTest::beforeConnectingNothingHappens()
 {
     QFETCH(const QByteArray, handler);
     TestWindow test;
@@ -259,7 +260,7 @@ void TestVideoMode::beforeConnectingNothingHappens()
     QCOMPARE(checkedButtons(test), QStringList{});
 }
 
-void TestVideoMode::afterDisconnectingNothingHappens()
+void VideoModeTest::afterDisconnectingNothingHappens()
 {
     QFETCH(const QByteArray, handler);
     TestWindow test{withVideoMode(1)};
@@ -274,5 +275,5 @@ void TestVideoMode::afterDisconnectingNothingHappens()
     QCOMPARE(checkedButtons(test), QStringList{"BU_VISIBLE_MODE_PB"});
 }
 
-QTEST_MAIN(TestVideoMode)
+PILOTEL_TEST_CLASS(VideoModeTest)
 #include "tst_video_mode.moc"

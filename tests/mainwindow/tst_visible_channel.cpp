@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Tests of the visible channel's automatic gain control and CLHE.
 #include "filledblendunit.h"
+#include "testclass.h"
 
 #include <QSpinBox>
 #include <QTest>
@@ -84,7 +85,7 @@ void addEdits()
 
 } // namespace
 
-class TestVisibleChannel : public QObject
+class VisibleChannelTest : public QObject
 {
     Q_OBJECT
 
@@ -108,7 +109,7 @@ private slots:
     void pendingEditIsSentBeforeTheDeviceIsClosed();
 };
 
-void TestVisibleChannel::agcReadShowsAndTells_data()
+void VisibleChannelTest::agcReadShowsAndTells_data()
 {
     QTest::addColumn<QList<int>>("read");
     QTest::addColumn<QList<int>>("shown");
@@ -119,7 +120,7 @@ void TestVisibleChannel::agcReadShowsAndTells_data()
     QTest::newRow("beyond the boxes") << QList<int>{101, 200, 255} << QList<int>{100, 100, 100};
 }
 
-void TestVisibleChannel::agcReadShowsAndTells()
+void VisibleChannelTest::agcReadShowsAndTells()
 {
     QFETCH(const QList<int>, read);
     QFETCH(const QList<int>, shown);
@@ -144,7 +145,7 @@ void TestVisibleChannel::agcReadShowsAndTells()
     QVERIFY(test.lastCommandOk());
 }
 
-void TestVisibleChannel::refusedAgcReadLeavesTheBoxes()
+void VisibleChannelTest::refusedAgcReadLeavesTheBoxes()
 {
     TestWindow test{fillBlendUnit};
     beOnVisiblePage(test);
@@ -160,7 +161,7 @@ void TestVisibleChannel::refusedAgcReadLeavesTheBoxes()
     QVERIFY(!test.lastCommandOk());
 }
 
-void TestVisibleChannel::clheReadShowsAndTells_data()
+void VisibleChannelTest::clheReadShowsAndTells_data()
 {
     QTest::addColumn<qint64>("threshold");
     QTest::addColumn<int>("coefficient");
@@ -177,7 +178,7 @@ void TestVisibleChannel::clheReadShowsAndTells_data()
     row("all ones", 4294967295, 255, {65535, 100});
 }
 
-void TestVisibleChannel::clheReadShowsAndTells()
+void VisibleChannelTest::clheReadShowsAndTells()
 {
     QFETCH(const qint64, threshold);
     QFETCH(const int, coefficient);
@@ -200,7 +201,7 @@ void TestVisibleChannel::clheReadShowsAndTells()
     QVERIFY(test.lastCommandOk());
 }
 
-void TestVisibleChannel::refusedClheReadLeavesTheBoxes()
+void VisibleChannelTest::refusedClheReadLeavesTheBoxes()
 {
     TestWindow test{fillBlendUnit};
     beOnVisiblePage(test);
@@ -215,7 +216,7 @@ void TestVisibleChannel::refusedClheReadLeavesTheBoxes()
     QVERIFY(!test.lastCommandOk());
 }
 
-void TestVisibleChannel::finishedEditIsSentOnce()
+void VisibleChannelTest::finishedEditIsSentOnce()
 {
     QFETCH(const QString, box);
     QFETCH(const QString, text);
@@ -232,7 +233,7 @@ void TestVisibleChannel::finishedEditIsSentOnce()
     QVERIFY(test.lastCommandOk());
 }
 
-void TestVisibleChannel::refusedEditIsReported()
+void VisibleChannelTest::refusedEditIsReported()
 {
     QFETCH(const QString, box);
     QFETCH(const QString, text);
@@ -252,7 +253,7 @@ void TestVisibleChannel::refusedEditIsReported()
     QVERIFY(!test.lastCommandOk());
 }
 
-void TestVisibleChannel::unfinishedEditSendsNothing_data()
+void VisibleChannelTest::unfinishedEditSendsNothing_data()
 {
     QTest::addColumn<QString>("box");
 
@@ -262,7 +263,7 @@ void TestVisibleChannel::unfinishedEditSendsNothing_data()
     }
 }
 
-void TestVisibleChannel::unfinishedEditSendsNothing()
+void VisibleChannelTest::unfinishedEditSendsNothing()
 {
     QFETCH(const QString, box);
     TestWindow test{fillBlendUnit};
@@ -274,7 +275,7 @@ void TestVisibleChannel::unfinishedEditSendsNothing()
     QCOMPARE(test.takeLog(), QStringList{});
 }
 
-void TestVisibleChannel::steppingSendsOnLeaving()
+void VisibleChannelTest::steppingSendsOnLeaving()
 {
     TestWindow test{fillBlendUnit};
     beOnVisiblePage(test);
@@ -289,7 +290,7 @@ void TestVisibleChannel::steppingSendsOnLeaving()
     QCOMPARE(test.takeCalls(), QStringList{"setVisibleClhe(1434, 33) -> true"});
 }
 
-void TestVisibleChannel::editFinishedTwiceSendsTheSameValue()
+void VisibleChannelTest::editFinishedTwiceSendsTheSameValue()
 {
     TestWindow test{fillBlendUnit};
     beOnVisiblePage(test);
@@ -304,7 +305,7 @@ void TestVisibleChannel::editFinishedTwiceSendsTheSameValue()
     }
 }
 
-void TestVisibleChannel::pendingEditIsSentBeforeTheDeviceIsClosed_data()
+void VisibleChannelTest::pendingEditIsSentBeforeTheDeviceIsClosed_data()
 {
     QTest::addColumn<bool>("byName");
     QTest::addColumn<QString>("box");
@@ -319,7 +320,7 @@ void TestVisibleChannel::pendingEditIsSentBeforeTheDeviceIsClosed_data()
     }
 }
 
-void TestVisibleChannel::pendingEditIsSentBeforeTheDeviceIsClosed()
+void VisibleChannelTest::pendingEditIsSentBeforeTheDeviceIsClosed()
 {
     QFETCH(const bool, byName);
     QFETCH(const QString, box);
@@ -341,5 +342,5 @@ void TestVisibleChannel::pendingEditIsSentBeforeTheDeviceIsClosed()
     QCOMPARE(test.simulator.callsWhileNotOpen(), std::size_t{0});
 }
 
-QTEST_MAIN(TestVisibleChannel)
+PILOTEL_TEST_CLASS(VisibleChannelTest)
 #include "tst_visible_channel.moc"

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // Tests of the Blend Unit's warp.
+#include "testclass.h"
 #include "testwindow.h"
 
 #include <QComboBox>
@@ -65,7 +66,7 @@ void sendWarp(const TestWindow &test)
 
 Q_DECLARE_METATYPE(Coefficients)
 
-class TestWarp : public QObject
+class WarpTest : public QObject
 {
     Q_OBJECT
 
@@ -86,7 +87,7 @@ private slots:
     void warpBoxesSendNothingByThemselves();
 };
 
-void TestWarp::streamSwitchReloadsTheWarpSilently_data()
+void WarpTest::streamSwitchReloadsTheWarpSilently_data()
 {
     QTest::addColumn<int>("before");
     QTest::addColumn<int>("stream");
@@ -105,7 +106,7 @@ void TestWarp::streamSwitchReloadsTheWarpSilently_data()
     row("infrared", 1, 2, infrared, {-1.0, -2.0, -3.0, -4.0, -5.0, -6.0});
 }
 
-void TestWarp::streamSwitchReloadsTheWarpSilently()
+void WarpTest::streamSwitchReloadsTheWarpSilently()
 {
     QFETCH(const int, before);
     QFETCH(const int, stream);
@@ -127,7 +128,7 @@ void TestWarp::streamSwitchReloadsTheWarpSilently()
     QVERIFY(test.lastCommandOk());
 }
 
-void TestWarp::sameStreamAgainReadsNothing()
+void WarpTest::sameStreamAgainReadsNothing()
 {
     TestWindow test;
     test.beConnected();
@@ -139,7 +140,7 @@ void TestWarp::sameStreamAgainReadsNothing()
     QCOMPARE(test.takeCalls(), QStringList{});
 }
 
-void TestWarp::refusedWarpReadLeavesTheBoxes()
+void WarpTest::refusedWarpReadLeavesTheBoxes()
 {
     TestWindow test;
     test.beConnected();
@@ -155,7 +156,7 @@ void TestWarp::refusedWarpReadLeavesTheBoxes()
     QVERIFY(!test.lastCommandOk());
 }
 
-void TestWarp::unusualCoefficientsAreShownWithinTheBoxes_data()
+void WarpTest::unusualCoefficientsAreShownWithinTheBoxes_data()
 {
     QTest::addColumn<double>("coefficient");
     QTest::addColumn<double>("shown");
@@ -170,7 +171,7 @@ void TestWarp::unusualCoefficientsAreShownWithinTheBoxes_data()
     QTest::newRow("not a number") << qQNaN() << -32768.0;
 }
 
-void TestWarp::unusualCoefficientsAreShownWithinTheBoxes()
+void WarpTest::unusualCoefficientsAreShownWithinTheBoxes()
 {
     QFETCH(const double, coefficient);
     QFETCH(const double, shown);
@@ -194,7 +195,7 @@ void TestWarp::unusualCoefficientsAreShownWithinTheBoxes()
     QCOMPARE(test.takeCalls(), QStringList{call});
 }
 
-void TestWarp::warpIsSentInWholeNumbers_data()
+void WarpTest::warpIsSentInWholeNumbers_data()
 {
     QTest::addColumn<Coefficients>("entered");
     QTest::addColumn<QString>("sent");
@@ -208,7 +209,7 @@ void TestWarp::warpIsSentInWholeNumbers_data()
     row("65536, -32768, 65535, -32767, 32768, -1", {65536.0, -32768.0, 65535.999, -32767.999, 32768.1, -1.9});
 }
 
-void TestWarp::warpIsSentInWholeNumbers()
+void WarpTest::warpIsSentInWholeNumbers()
 {
     QFETCH(const Coefficients, entered);
     QFETCH(const QString, sent);
@@ -224,7 +225,7 @@ void TestWarp::warpIsSentInWholeNumbers()
     QVERIFY(test.lastCommandOk());
 }
 
-void TestWarp::warpIsSentForTheChosenStream_data()
+void WarpTest::warpIsSentForTheChosenStream_data()
 {
     QTest::addColumn<int>("stream");
 
@@ -233,7 +234,7 @@ void TestWarp::warpIsSentForTheChosenStream_data()
     QTest::newRow("infrared") << 2;
 }
 
-void TestWarp::warpIsSentForTheChosenStream()
+void WarpTest::warpIsSentForTheChosenStream()
 {
     QFETCH(const int, stream);
     TestWindow test;
@@ -247,7 +248,7 @@ void TestWarp::warpIsSentForTheChosenStream()
     QCOMPARE(test.takeCalls(), QStringList{QString{"setWarp(%1, 1, 2, 3, 4, 5, 6) -> true"}.arg(stream)});
 }
 
-void TestWarp::warpWithoutAStreamIsSentAsItIs()
+void WarpTest::warpWithoutAStreamIsSentAsItIs()
 {
     TestWindow test;
     test.beConnected();
@@ -261,7 +262,7 @@ void TestWarp::warpWithoutAStreamIsSentAsItIs()
     QCOMPARE(test.takeLog(), QStringList{"Could not changed warp configuration"});
 }
 
-void TestWarp::refusedWarpIsReported()
+void WarpTest::refusedWarpIsReported()
 {
     TestWindow test;
     test.beConnected();
@@ -277,7 +278,7 @@ void TestWarp::refusedWarpIsReported()
     QVERIFY(!test.lastCommandOk());
 }
 
-void TestWarp::warpBoxesSendNothingByThemselves()
+void WarpTest::warpBoxesSendNothingByThemselves()
 {
     TestWindow test;
     test.beConnected();
@@ -288,5 +289,5 @@ void TestWarp::warpBoxesSendNothingByThemselves()
     QCOMPARE(test.takeLog(), QStringList{});
 }
 
-QTEST_MAIN(TestWarp)
+PILOTEL_TEST_CLASS(WarpTest)
 #include "tst_warp.moc"

@@ -3,6 +3,7 @@
 // The about dialog, and what happens when the window goes away.
 #include "halftyped.h"
 #include "mouse.h"
+#include "testclass.h"
 #include "testwindow.h"
 
 #include <QApplication>
@@ -172,5 +173,5 @@ void WindowLifetimeTest::canBeBuiltAgain()
     QVERIFY(!second.findChild<QWidget *>("paramSection")->isEnabled());
 }
 
-QTEST_MAIN(WindowLifetimeTest)
+PILOTEL_TEST_CLASS(WindowLifetimeTest)
 #include "tst_window_lifetime.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Which control runs which handler, told by what arrives at the device.
 #include "connectingtranscripts.h"
+#include "testclass.h"
 #include "testwindow.h"
 
 #include <QCheckBox>
@@ -272,5 +273,5 @@ void WiringTest::spinBoxesWaitForTheEndOfTheEdit()
     QCOMPARE(calls.filter("33").size(), 1);
 }
 
-QTEST_MAIN(WiringTest)
+PILOTEL_TEST_CLASS(WiringTest)
 #include "tst_wiring.moc"

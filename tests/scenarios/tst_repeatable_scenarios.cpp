@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // The same scenario and the same seed make the same trace, whatever goes wrong in it.
+#include "testclass.h"
+
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -118,5 +120,5 @@ void RepeatableScenariosTest::seedMakesTheTrace()
     QVERIFY(withoutHeader(traces[2]) != withoutHeader(traces[0]));
 }
 
-QTEST_GUILESS_MAIN(RepeatableScenariosTest)
+PILOTEL_TEST_CLASS(RepeatableScenariosTest)
 #include "tst_repeatable_scenarios.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // What an operator sees in each of the scenarios that ship.
 #include "boxpresser.h"
+#include "testclass.h"
 #include "testwindow.h"
 
 #include <QComboBox>
@@ -194,5 +195,5 @@ void ShippedScenariosTest::everyScenarioIsListed()
     QCOMPARE(run.exitCode(), 2);
 }
 
-QTEST_MAIN(ShippedScenariosTest)
+PILOTEL_TEST_CLASS(ShippedScenariosTest)
 #include "tst_shipped_scenarios.moc"

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // Each SDK header compiles on its own, without Qt, under the strict warnings of both compilers.
+#include "testclass.h"
 #include "toolbox.h"
 
 #include <QDir>
@@ -109,5 +110,5 @@ void SdkHeadersTest::brokenHeaderDoesNotCompile()
     QVERIFY2(compilation.diagnostics.contains(diagnostic), qPrintable(compilation.diagnostics));
 }
 
-QTEST_GUILESS_MAIN(SdkHeadersTest)
+PILOTEL_TEST_CLASS(SdkHeadersTest)
 #include "tst_sdk_headers.moc"

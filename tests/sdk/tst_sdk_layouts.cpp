@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // The SDK's tables and words as other targets lay them out, above all those of the Microsoft ABI.
 #include "slot_table.h"
+#include "testclass.h"
 #include "toolbox.h"
 
 #include <QMap>
@@ -289,5 +290,5 @@ void SdkLayoutsTest::brokenRecordDoesNotCompile()
              qPrintable(compilation.diagnostics));
 }
 
-QTEST_GUILESS_MAIN(SdkLayoutsTest)
+PILOTEL_TEST_CLASS(SdkLayoutsTest)
 #include "tst_sdk_layouts.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // The records, the configuration's words and the concrete classes at the SDK boundary.
 #include "still_configuration.h"
+#include "testclass.h"
 #include "veltrix_sdk/sdk.h"
 
 #include <QtTest>
@@ -194,5 +195,5 @@ void SdkRecordsTest::severityHasItsNumber()
     QCOMPARE(severity, number);
 }
 
-QTEST_GUILESS_MAIN(SdkRecordsTest)
+PILOTEL_TEST_CLASS(SdkRecordsTest)
 #include "tst_sdk_records.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // The places of the SDK's operations on the Itanium ABI, by pointer to member.
 #include "slot_table.h"
+#include "testclass.h"
 #include "veltrix_sdk/sdk.h"
 
 #include <QtTest>
@@ -124,5 +125,5 @@ void SdkSlotsTest::tableNamesEachPlaceOnce()
     QCOMPARE(static_cast<int>(names.size()), operations);
 }
 
-QTEST_GUILESS_MAIN(SdkSlotsTest)
+PILOTEL_TEST_CLASS(SdkSlotsTest)
 #include "tst_sdk_slots.moc"

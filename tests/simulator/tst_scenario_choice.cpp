@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // How a process and a test come to their scenario.
 #include "simulatedcamera.h"
+#include "testclass.h"
 
 #include <QDir>
 #include <QFile>
@@ -256,5 +257,5 @@ void ScenarioChoiceTest::refusedScenarioChangesNothing()
     QVERIFY(Simulator::instance().get("configuration.expertMode") == Value{false});
 }
 
-QTEST_GUILESS_MAIN(ScenarioChoiceTest)
+PILOTEL_TEST_CLASS(ScenarioChoiceTest)
 #include "tst_scenario_choice.moc"

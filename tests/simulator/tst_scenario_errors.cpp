@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // What is said of a scenario file that cannot be played.
 #include "scenarios/scenarioreader.h"
+#include "testclass.h"
 
 #include <QtTest>
 
@@ -354,5 +355,5 @@ void ScenarioErrorsTest::whatNestsDeeplyIsRefused()
     QVERIFY(messageOf('[' + keys + "]\n" + keys + " = [{\n" + keys).startsWith("flaky.toml:"));
 }
 
-QTEST_GUILESS_MAIN(ScenarioErrorsTest)
+PILOTEL_TEST_CLASS(ScenarioErrorsTest)
 #include "tst_scenario_errors.moc"

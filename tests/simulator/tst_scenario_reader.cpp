@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // What the keys of a scenario file set.
 #include "scenarios/scenarioreader.h"
+#include "testclass.h"
 #include "units/state.h"
 
 #include <QFile>
@@ -342,5 +343,5 @@ void ScenarioReaderTest::readmeListsEveryKey()
     QCOMPARE(documented, keys);
 }
 
-QTEST_GUILESS_MAIN(ScenarioReaderTest)
+PILOTEL_TEST_CLASS(ScenarioReaderTest)
 #include "tst_scenario_reader.moc"

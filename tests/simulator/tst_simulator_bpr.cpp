@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // The table of bad pixels, its file in the working directory, and what is wrong with a damaged one.
 #include "simulatedcamera.h"
+#include "testclass.h"
 
 #include <QDir>
 #include <QFile>
@@ -383,5 +384,5 @@ void SimulatorBprTest::serialNumberOfTenDigits()
     QCOMPARE(directory.files(), (QStringList{"bpr_SN0.bin", "bpr_SN4294967295.bin"}));
 }
 
-QTEST_GUILESS_MAIN(SimulatorBprTest)
+PILOTEL_TEST_CLASS(SimulatorBprTest)
 #include "tst_simulator_bpr.moc"

@@ -3,6 +3,7 @@
 // Ports, opening and closing, the target, and operations on a device that is not open.
 #include "everyoperation.h"
 #include "simulatedcamera.h"
+#include "testclass.h"
 #include "veltrix_sdk/extensions.h"
 
 #include <QLibrary>
@@ -244,5 +245,5 @@ void SimulatorConnectionTest::missingMemoryIsRefused()
                                  "getStartingMode(null) -> false"}));
 }
 
-QTEST_GUILESS_MAIN(SimulatorConnectionTest)
+PILOTEL_TEST_CLASS(SimulatorConnectionTest)
 #include "tst_simulator_connection.moc"

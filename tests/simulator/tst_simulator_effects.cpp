@@ -3,6 +3,7 @@
 // Effects: what a call does and answers when a rule hits it.
 #include "faults/wrongvalues.h"
 #include "scenariocamera.h"
+#include "testclass.h"
 
 #include <QElapsedTimer>
 #include <QRegularExpression>
@@ -442,5 +443,5 @@ void SimulatorEffectsTest::cableOutIsAtOnce()
     }
 }
 
-QTEST_GUILESS_MAIN(SimulatorEffectsTest)
+PILOTEL_TEST_CLASS(SimulatorEffectsTest)
 #include "tst_simulator_effects.moc"

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // What the libraries veltrix.sdk export, name by name, and what they are called inside.
+#include "testclass.h"
+
 #include <QProcess>
 #include <QRegularExpression>
 #include <QtTest>
@@ -80,5 +82,5 @@ void SimulatorExportsTest::isNamedWithoutVersion()
              QStringLiteral("libveltrix.sdk.so"));
 }
 
-QTEST_GUILESS_MAIN(SimulatorExportsTest)
+PILOTEL_TEST_CLASS(SimulatorExportsTest)
 #include "tst_simulator_exports.moc"

@@ -3,6 +3,7 @@
 // Faults: what they hit, when, and what the operation then does.
 #include "everyoperation.h"
 #include "simulatedcamera.h"
+#include "testclass.h"
 
 #include <QRegularExpression>
 #include <QtTest>
@@ -321,5 +322,5 @@ void SimulatorFaultsTest::wrongFaultIsNotAdded()
     QCOMPARE(c.device->getGamma(), 65536U);
 }
 
-QTEST_GUILESS_MAIN(SimulatorFaultsTest)
+PILOTEL_TEST_CLASS(SimulatorFaultsTest)
 #include "tst_simulator_faults.moc"

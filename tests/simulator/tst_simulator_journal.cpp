@@ -3,6 +3,7 @@
 // The journal: what a call looks like there, literally, and what else it keeps.
 #include "everyoperation.h"
 #include "simulatedcamera.h"
+#include "testclass.h"
 
 #include <QtTest>
 
@@ -223,5 +224,5 @@ void SimulatorJournalTest::logRecordIsKeptWhenComplete()
     QCOMPARE(c.simulator.journal()[1].text, std::string{R"(log(5, "first"))"});
 }
 
-QTEST_GUILESS_MAIN(SimulatorJournalTest)
+PILOTEL_TEST_CLASS(SimulatorJournalTest)
 #include "tst_simulator_journal.moc"

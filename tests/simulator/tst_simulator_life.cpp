@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // The life of the units: what drifts and what is counted as their time goes by.
 #include "scenariocamera.h"
+#include "testclass.h"
 
 #include <QtTest>
 
@@ -251,5 +252,5 @@ void SimulatorLifeTest::wrongLifeIsNamed()
     QCOMPARE(refusal, message);
 }
 
-QTEST_GUILESS_MAIN(SimulatorLifeTest)
+PILOTEL_TEST_CLASS(SimulatorLifeTest)
 #include "tst_simulator_life.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // The link: how long a call and an opening take.
 #include "scenariocamera.h"
+#include "testclass.h"
 #include "time/link.h"
 
 #include <QElapsedTimer>
@@ -202,5 +203,5 @@ void SimulatorLinkTest::openingWaits()
     QVERIFY2(time >= 40, qPrintable(QString::number(time)));
 }
 
-QTEST_GUILESS_MAIN(SimulatorLinkTest)
+PILOTEL_TEST_CLASS(SimulatorLinkTest)
 #include "tst_simulator_link.moc"

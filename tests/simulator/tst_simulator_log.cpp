@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // Where log records go and what a line of them looks like.
+#include "testclass.h"
+
 #include <QDateTime>
 #include <QFile>
 #include <QProcess>
@@ -99,5 +101,5 @@ void SimulatorLogTest::unwritableFileIsNamedOnce()
             "\"; set VELTRIX_SIMULATOR_LOG to a file that can be written, or to - for standard error.\n");
 }
 
-QTEST_GUILESS_MAIN(SimulatorLogTest)
+PILOTEL_TEST_CLASS(SimulatorLogTest)
 #include "tst_simulator_log.moc"

@@ -3,6 +3,7 @@
 // Saved parameters: what comes back after a power cycle, and files that are damaged or half written.
 #include "output/replacefile.h"
 #include "simulation.h"
+#include "testclass.h"
 #include "units/memoryfile.h"
 #include "veltrix_sdk/sdk.h"
 
@@ -559,5 +560,5 @@ void SimulatorMemoryTest::valueThatNoUnitAcceptsIsNotSaved()
     QCOMPARE(damageOf(contentOf(name)), QString{});
 }
 
-QTEST_GUILESS_MAIN(SimulatorMemoryTest)
+PILOTEL_TEST_CLASS(SimulatorMemoryTest)
 #include "tst_simulator_memory.moc"

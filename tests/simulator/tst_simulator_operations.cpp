@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // The operations as a scenario names them, and what rules cannot be applied to them.
 #include "faults/applicability.h"
+#include "testclass.h"
 
 #include <QtTest>
 
@@ -241,5 +242,5 @@ void SimulatorOperationsTest::objections()
     QCOMPARE(QString::fromStdString(reasonAgainst(rule, *found)), message);
 }
 
-QTEST_GUILESS_MAIN(SimulatorOperationsTest)
+PILOTEL_TEST_CLASS(SimulatorOperationsTest)
 #include "tst_simulator_operations.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Rules: when they hit, and what chance has to do with it.
 #include "scenariocamera.h"
+#include "testclass.h"
 
 #include <QtTest>
 
@@ -355,5 +356,5 @@ void SimulatorRulesTest::wrongRuleIsNamed()
     QVERIFY(simulation().path.faults.isEmpty());
 }
 
-QTEST_GUILESS_MAIN(SimulatorRulesTest)
+PILOTEL_TEST_CLASS(SimulatorRulesTest)
 #include "tst_simulator_rules.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Scenarios as a whole: what they settle before the first call, and what is said after the last.
 #include "scenariocamera.h"
+#include "testclass.h"
 
 #include <QBitArray>
 #include <QDir>
@@ -240,5 +241,5 @@ void SimulatorScenarioTest::unfiredFaultsAreLogged()
     QCOMPARE(text.count('\n'), 1);
 }
 
-QTEST_GUILESS_MAIN(SimulatorScenarioTest)
+PILOTEL_TEST_CLASS(SimulatorScenarioTest)
 #include "tst_simulator_scenario.moc"

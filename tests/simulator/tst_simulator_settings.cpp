@@ -3,6 +3,7 @@
 // What is set is what is read back, on the addressed unit only, and what is out of range is refused.
 #include "settings.h"
 #include "simulatedcamera.h"
+#include "testclass.h"
 
 #include <QtTest>
 
@@ -225,5 +226,5 @@ void SimulatorSettingsTest::readingStarts()
     QVERIFY(c.device->startReading());
 }
 
-QTEST_GUILESS_MAIN(SimulatorSettingsTest)
+PILOTEL_TEST_CLASS(SimulatorSettingsTest)
 #include "tst_simulator_settings.moc"

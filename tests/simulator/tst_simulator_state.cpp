@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // The state by key, what it is at power-on, and the configuration object.
 #include "simulatedcamera.h"
+#include "testclass.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -366,5 +367,5 @@ void SimulatorStateTest::wordsAreTheRecord()
     QCOMPARE(c.configuration.words.gfidMaximum, 77);
 }
 
-QTEST_GUILESS_MAIN(SimulatorStateTest)
+PILOTEL_TEST_CLASS(SimulatorStateTest)
 #include "tst_simulator_state.moc"

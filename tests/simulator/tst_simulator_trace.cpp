@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // The trace: what a line of it looks like, and that it outlives the program.
 #include "simulatedcamera.h"
+#include "testclass.h"
 
 #include <QDateTime>
 #include <QElapsedTimer>
@@ -369,5 +370,5 @@ void SimulatorTraceTest::documentedFilterComparesTraces()
     QCOMPARE(filtered(second), filtered(first));
 }
 
-QTEST_GUILESS_MAIN(SimulatorTraceTest)
+PILOTEL_TEST_CLASS(SimulatorTraceTest)
 #include "tst_simulator_trace.moc"

@@ -5,6 +5,7 @@
 #include "faults.h"
 #include "oracle.h"
 #include "paths.h"
+#include "testclass.h"
 
 #include <QComboBox>
 #include <QElapsedTimer>
@@ -265,5 +266,5 @@ void TortureTest::cleanupTestCase()
     QVERIFY(QDir::setCurrent(QDir::rootPath()));
 }
 
-QTEST_MAIN(TortureTest)
+PILOTEL_TEST_CLASS(TortureTest)
 #include "tst_torture.moc"
