@@ -3,6 +3,8 @@
 // What the window shows and lets the operator use, and how its controls follow one another.
 #include "panel.h"
 
+#include "controls.h"
+
 #include <QComboBox>
 #include <QMetaProperty>
 
@@ -11,31 +13,6 @@
 
 namespace
 {
-
-/// A slider and its box: the box shows position * step + start, the slider stands at
-/// (value - start) * perUnit, rounded half away from zero.
-struct Pair
-{
-    const char *slider;
-    const char *spinBox;
-    double step{1};
-    double start{0};
-    double perUnit{1};
-};
-
-constexpr Pair pairs[]{
-    {"gammaSlider", "gammaEdit", 0.1, 0.5, 10},
-    {"clheSlider", "clheEdit"},
-    {"sharpeningGainSlider", "sharpeningGainEdit", 0.1, 0, 10},
-    {"SharpeningTHSlider", "SharpeningTHEdit", 0.1, 0, 10},
-    {"AhcBlackGainLimSlider", "AhcBlackGainLimSpin"},
-    {"AhcWhiteGainLimSlider", "AhcWhiteGainLimSpin"},
-    {"TempoFilterSlider", "TempoFilterSpin"},
-    {"gskSlider", "gskEdit"},
-    {"gfidSlider", "gfidEdit"},
-    {"gmsSlider", "gmsEdit"},
-    {"tintSlider", "tintEdit"},
-};
 
 /// What is looked at, where a widget has it.
 constexpr const char *watchedProperties[]{
@@ -150,11 +127,12 @@ void Controls::follow(const QString &name)
 {
     for (const Pair &pair : pairs) {
         const QString slider{QLatin1String{pair.slider}};
-        const QString spinBox{QLatin1String{pair.spinBox}};
+        const QString spinBox{QLatin1String{pair.box}};
         if (name == slider) {
-            set(spinBox, value(slider) * pair.step + pair.start);
+            set(spinBox, value(slider) * pair.unitsPerStep + pair.lowest);
         } else if (name == spinBox) {
-            set(slider, std::round((value(spinBox) - pair.start) * pair.perUnit));
+            // The nearest step, halves away from zero; multiplied, as a tenth is no exact number.
+            set(slider, std::round((value(spinBox) - pair.lowest) * pair.stepsPerUnit));
         }
     }
 }

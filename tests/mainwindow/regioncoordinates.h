@@ -4,6 +4,7 @@
 #pragma once
 
 #include "camerapage.h"
+#include "controls.h"
 
 #include <QCoreApplication>
 #include <QSpinBox>
@@ -61,9 +62,6 @@ inline void finishEdit(TestWindow &test, const char *name, int number)
                                       Q_ARG(int, number)));
 }
 
-/// The enable boxes by the number of their region.
-inline constexpr std::array<const char *, 4> enableBoxes{
-    {"", "roi1IncEnable", "roi0ExcEnable", "roi1ExcEnable"}};
 /// The flags while only that region is enabled beside region 0.
 inline constexpr std::array<const char *, 4> flagsOfOnly{
     {"false, false, false", "true, false, false", "false, true, false", "false, false, true"}};
@@ -73,7 +71,7 @@ inline void openRegion(TestWindow &test, int number)
 {
     openCameraPage(test, "LutSection");
     if (number != 0) {
-        test.click(enableBoxes.at(static_cast<std::size_t>(number)));
+        test.click(regionOf(number).enable);
     }
     test.takeCallsAndRecords();
 }

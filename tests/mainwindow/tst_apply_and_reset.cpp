@@ -192,8 +192,6 @@ private slots:
     void resetGoesOnAfterEveryRefusal();
     void resetToWhatIsShownOnlyApplies();
     void resetSendsZerosForTheRegionsThatAreOffByDefault();
-    void withoutADeviceNothingHappens_data();
-    void withoutADeviceNothingHappens();
 };
 
 void ApplyAndResetTest::applySendsEverySettingInOrder()
@@ -376,31 +374,6 @@ void ApplyAndResetTest::resetSendsZerosForTheRegionsThatAreOffByDefault()
             "setRoiX1(0, 3, false, false, false) -> true", "setRoiX2(0, 3, false, false, false) -> true",
             "setRoiY1(0, 3, false, false, false) -> true", "setRoiY2(0, 3, false, false, false) -> true"}));
     QCOMPARE(test.enabledOf({"Roi1IncX1", "Roi0ExcX1", "Roi1ExcX1"}), QStringList{});
-}
-
-void ApplyAndResetTest::withoutADeviceNothingHappens_data()
-{
-    QTest::addColumn<QByteArray>("handler");
-    QTest::newRow("apply") << QByteArray{"ApplyParamsUser"};
-    QTest::newRow("reset") << QByteArray{"ResetParamsUser"};
-}
-
-void ApplyAndResetTest::withoutADeviceNothingHappens()
-{
-    QFETCH(const QByteArray, handler);
-    TestWindow test{changeDefaults};
-    test.takeCallsAndRecords();
-    test.invoke(handler);
-    QCOMPARE(test.takeCallsAndRecords(), QStringList{});
-    QCOMPARE(test.takeLog(), QStringList{});
-
-    test.beConnected();
-    test.click("disconnectDeviceButton");
-    test.takeCallsAndRecords();
-    test.invoke(handler);
-    QCOMPARE(test.takeCallsAndRecords(), QStringList{});
-    QCOMPARE(test.takeLog(), QStringList{});
-    QCOMPARE(test.child<QComboBox>("frameRateCB").currentIndex(), 4);
 }
 
 PILOTEL_TEST_CLASS(ApplyAndResetTest)

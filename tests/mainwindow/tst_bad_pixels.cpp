@@ -66,7 +66,7 @@ QVector<Pixel> pixelsOf(const Declaration &declaration, const Pixel &chosen)
     return pixels;
 }
 
-/// The calls and the lines of a declaration; those pixels are refused of which the place is.
+/// The calls and the lines of a declaration; the pixels at the given places are refused.
 struct Expectation
 {
     QStringList calls;

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// Tests of saving the Blend Unit's parameters, and of its handlers without a device.
+// Tests of saving the Blend Unit's parameters.
 #include "filledblendunit.h"
 #include "testclass.h"
 
@@ -23,18 +23,6 @@ void saveExpertParameters(TestWindow &test)
     test.child<QAbstractButton>("saveParamFactoryPB").click();
 }
 
-void addHandlers()
-{
-    QTest::addColumn<QByteArray>("handler");
-
-    for (const char *const handler :
-         {"configureZoomClicked", "readFusionParamsExpert", "fusionWarpClicked", "readVisibleAgc",
-          "visibleAgcChanged", "readVisibleClhe", "visibleClheChanged", "saveBlendUnitExpertClicked",
-          "saveBlendUnitUserClicked"}) {
-        QTest::newRow(handler) << QByteArray{handler};
-    }
-}
-
 } // namespace
 
 Q_DECLARE_METATYPE(Save)
@@ -47,12 +35,6 @@ private slots:
     void savingIsReported_data();
     void savingIsReported();
     void saveButtonNeedsAConnection();
-
-    void beforeConnectingNothingHappens_data() { addHandlers(); }
-    void beforeConnectingNothingHappens();
-    void afterDisconnectingNothingHappens_data() { addHandlers(); }
-    void afterDisconnectingNothingHappens();
-    void zoomReadWithoutADeviceDoesNothing();
 };
 
 void BlendUnitSettingsTest::savingIsReported_data()
@@ -107,51 +89,6 @@ void BlendUnitSettingsTest::saveButtonNeedsAConnection()
     QVERIFY(!button.isEnabled());
     test.takeCalls();
     QTest::mouseClick(&button, Qt::LeftButton);
-    QCOMPARE(test.takeCallsAndRecords(), QStringList{});
-    QCOMPARE(test.takeLog(), QStringList{});
-}
-
-void BlendUnitSettingsTest::beforeConnectingNothingHappens()
-{
-    QFETCH(const QByteArray, handler);
-    TestWindow test;
-    test.takeCalls();
-
-    test.invoke(handler.constData());
-
-    QCOMPARE(test.takeCallsAndRecords(), QStringList{});
-    QCOMPARE(test.takeLog(), QStringList{});
-}
-
-void BlendUnitSettingsTest::afterDisconnectingNothingHappens()
-{
-    QFETCH(const QByteArray, handler);
-    TestWindow test;
-    test.beConnected();
-    test.click("disconnectDeviceButton");
-    test.takeCalls();
-
-    test.invoke(handler.constData());
-
-    QCOMPARE(test.takeCallsAndRecords(), QStringList{});
-    QCOMPARE(test.takeLog(), QStringList{});
-}
-
-void BlendUnitSettingsTest::zoomReadWithoutADeviceDoesNothing()
-{
-    TestWindow test;
-    test.takeCalls();
-    for (const int selector : {0, 2}) {
-        readZoom(test, selector);
-    }
-    QCOMPARE(test.takeCallsAndRecords(), QStringList{});
-
-    test.beConnected();
-    test.click("disconnectDeviceButton");
-    test.takeCalls();
-    for (const int selector : {0, 2}) {
-        readZoom(test, selector);
-    }
     QCOMPARE(test.takeCallsAndRecords(), QStringList{});
     QCOMPARE(test.takeLog(), QStringList{});
 }

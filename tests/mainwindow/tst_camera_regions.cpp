@@ -149,7 +149,8 @@ void CameraRegionsTest::aRegionThatIsGoneIsSentBackAsZeros()
 
 void CameraRegionsTest::everythingIsReadBeforeAnythingIsSentBack()
 {
-    // Sending back the region that the readers call 1 writes what they call 2: read too late, it would show.
+    // Region 1 of the read commands is region 2 of the set commands. Sending region 1 back before region 2 is
+    // read would change what is read.
     TestWindow test;
     openCameraPage(test, "LutSection");
     test.simulator.set("camera.roi1.x1", 101);

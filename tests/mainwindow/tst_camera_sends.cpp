@@ -13,38 +13,6 @@
 namespace
 {
 
-/// What a pair sends, beside the table of the pairs and in its order.
-struct Sending
-{
-    const char *handler;
-    const char *action;
-    /// Position that is not the one at the start, the text that stands for it, and the command.
-    int position;
-    const char *text;
-    const char *call;
-    /// The command with the slider at its end.
-    const char *callAtEnd;
-};
-
-constexpr std::array<Sending, pairs.size()> sendings{{
-    {"gammaUserSendCommand", "Set GAMMA value", 17, "2.2", "setGamma(144179)", "setGamma(163840)"},
-    {"clheSendCommand", "Set CLHE value", 7654, "7654", "setClhe(7654)", "setClhe(10000)"},
-    {"sharpeningSendCommand", "Configure EDGE CORRECTION", 29, "2.9", "configureEdgeCorrection(0, 2, 20)",
-     "configureEdgeCorrection(0, 1024, 20)"},
-    {"sharpeningSendCommand", "Configure EDGE CORRECTION", 338, "33.8", "configureEdgeCorrection(0, 64, 33)",
-     "configureEdgeCorrection(0, 64, 200)"},
-    {"ahcGainSendCommand", "Set AHC GAINS LIMITATION values", 33, "33", "setAhcGainLimitation(33, 80)",
-     "setAhcGainLimitation(100, 80)"},
-    {"ahcGainSendCommand", "Set AHC GAINS LIMITATION values", 44, "44", "setAhcGainLimitation(20, 44)",
-     "setAhcGainLimitation(20, 100)"},
-    {"tempoFilterSendCommand", "Set LUT TEMPORAL FILTER value", 7, "7", "setLutTemporalFilter(7)",
-     "setLutTemporalFilter(8)"},
-    {"gskSendCommand", "Set GSK value", 3, "3", "setGsk(3)", "setGsk(3)"},
-    {"gfiSendCommand", "Set GFID value", 777, "777", "setGfid(777)", "setGfid(1000)"},
-    {"gmsSendCommand", "Set GMS value", 3210, "3210", "setGms(3210)", "setGms(4095)"},
-    {"tintSendCommand", "Set TINT value", 19, "19", "setTint(19)", "setTint(20)"},
-}};
-
 QPoint middleOfHandle(const QSlider &slider, int position)
 {
     const int length{slider.style()->pixelMetric(QStyle::PM_SliderLength, nullptr, &slider)};
@@ -68,9 +36,9 @@ QStringList told(const char *call, const char *action, bool accepted = true)
             QStringLiteral("log(2, \"%1 %2\")").arg(action, accepted ? "OK" : "KO")};
 }
 
-QString line(const Sending &sending, const char *outcome)
+QString line(const Pair &pair, const char *outcome)
 {
-    return QStringLiteral("%1 %2").arg(sending.action, outcome);
+    return QStringLiteral("%1 %2").arg(pair.action, outcome);
 }
 
 } // namespace
@@ -98,35 +66,33 @@ private slots:
     void theBoxIsSentWhereTheSliderEnds();
     void encodings_data();
     void encodings();
-    void withoutADeviceNothingHappens_data() { addPairs(); }
-    void withoutADeviceNothingHappens();
 };
 
 void CameraSendsTest::releasingTheSliderSendsTheBox()
 {
     QFETCH(const std::size_t, place);
-    const Sending &sending{sendings.at(place)};
+    const Pair &pair{pairs.at(place)};
     TestWindow test;
-    openCameraPage(test, pairs.at(place).page);
-    const Widgets widgets{test, pairs.at(place)};
+    openCameraPage(test, pair.page);
+    const Widgets widgets{test, pair};
 
     widgets.slider.setSliderDown(true);
-    widgets.slider.setSliderPosition(sending.position);
+    widgets.slider.setSliderPosition(pair.position);
     QCOMPARE(test.takeCallsAndRecords(), QStringList{});
     widgets.slider.setSliderDown(false);
-    QCOMPARE(test.takeCallsAndRecords(), told(sending.call, sending.action));
-    QCOMPARE(test.takeLog(), QStringList{line(sending, "OK")});
+    QCOMPARE(test.takeCallsAndRecords(), told(pair.call, pair.action));
+    QCOMPARE(test.takeLog(), QStringList{line(pair, "OK")});
     QVERIFY(test.lastCommandOk());
-    QCOMPARE(widgets.value(), QString{sending.text}.toDouble());
+    QCOMPARE(widgets.value(), QString{pair.text}.toDouble());
 }
 
 void CameraSendsTest::theEndOfADragSendsOnce()
 {
     QFETCH(const std::size_t, place);
-    const Sending &sending{sendings.at(place)};
+    const Pair &pair{pairs.at(place)};
     TestWindow test;
-    openCameraPage(test, pairs.at(place).page);
-    const Widgets widgets{test, pairs.at(place)};
+    openCameraPage(test, pair.page);
+    const Widgets widgets{test, pair};
     const QPoint end{widgets.slider.width() - 1, widgets.slider.height() / 2};
 
     sendMouse(widgets.slider, QEvent::MouseButtonPress,
@@ -137,8 +103,8 @@ void CameraSendsTest::theEndOfADragSendsOnce()
     QCOMPARE(test.takeCallsAndRecords(), QStringList{});
     sendMouse(widgets.slider, QEvent::MouseButtonRelease, end);
 
-    QCOMPARE(test.takeCallsAndRecords(), told(sending.callAtEnd, sending.action));
-    QCOMPARE(test.takeLog(), QStringList{line(sending, "OK")});
+    QCOMPARE(test.takeCallsAndRecords(), told(pair.callAtEnd, pair.action));
+    QCOMPARE(test.takeLog(), QStringList{line(pair, "OK")});
 }
 
 void CameraSendsTest::movingTheSliderSendsNothing()
@@ -162,69 +128,69 @@ void CameraSendsTest::movingTheSliderSendsNothing()
 void CameraSendsTest::enterSendsTheBox()
 {
     QFETCH(const std::size_t, place);
-    const Sending &sending{sendings.at(place)};
+    const Pair &pair{pairs.at(place)};
     TestWindow test;
-    openCameraPage(test, pairs.at(place).page);
-    const Widgets widgets{test, pairs.at(place)};
+    openCameraPage(test, pair.page);
+    const Widgets widgets{test, pair};
 
-    typeInto(widgets.box, sending.text);
+    typeInto(widgets.box, pair.text);
     QCOMPARE(test.takeCallsAndRecords(), QStringList{});
     QTest::keyClick(&widgets.box, Qt::Key_Enter);
-    QCOMPARE(test.takeCallsAndRecords(), told(sending.call, sending.action));
-    QCOMPARE(test.takeLog(), QStringList{line(sending, "OK")});
+    QCOMPARE(test.takeCallsAndRecords(), told(pair.call, pair.action));
+    QCOMPARE(test.takeLog(), QStringList{line(pair, "OK")});
     QVERIFY(test.lastCommandOk());
-    QCOMPARE(widgets.slider.value(), sending.position);
+    QCOMPARE(widgets.slider.value(), pair.position);
 }
 
 void CameraSendsTest::leavingSendsTheBox()
 {
     QFETCH(const std::size_t, place);
-    const Sending &sending{sendings.at(place)};
+    const Pair &pair{pairs.at(place)};
     TestWindow test;
-    openCameraPage(test, pairs.at(place).page);
-    const Widgets widgets{test, pairs.at(place)};
+    openCameraPage(test, pair.page);
+    const Widgets widgets{test, pair};
 
-    typeInto(widgets.box, sending.text);
+    typeInto(widgets.box, pair.text);
     QTest::mouseClick(test.child<QPlainTextEdit>("logView").viewport(), Qt::LeftButton);
-    QCOMPARE(test.takeCallsAndRecords(), told(sending.call, sending.action));
-    QCOMPARE(test.takeLog(), QStringList{line(sending, "OK")});
+    QCOMPARE(test.takeCallsAndRecords(), told(pair.call, pair.action));
+    QCOMPARE(test.takeLog(), QStringList{line(pair, "OK")});
 }
 
 void CameraSendsTest::enterAndLeavingSendNothingElse()
 {
     QFETCH(const std::size_t, place);
-    const Sending &sending{sendings.at(place)};
+    const Pair &pair{pairs.at(place)};
     TestWindow test;
-    openCameraPage(test, pairs.at(place).page);
-    const Widgets widgets{test, pairs.at(place)};
+    openCameraPage(test, pair.page);
+    const Widgets widgets{test, pair};
 
-    typeInto(widgets.box, sending.text);
+    typeInto(widgets.box, pair.text);
     QTest::keyClick(&widgets.box, Qt::Key_Return);
     test.child<QWidget>("logView").setFocus();
     QStringList calls{test.takeCalls()};
     QVERIFY(calls.size() <= 2);
     calls.removeDuplicates();
-    QCOMPARE(calls, QStringList{QString{sending.call} + " -> true"});
+    QCOMPARE(calls, QStringList{QString{pair.call} + " -> true"});
 }
 
 void CameraSendsTest::aRefusalIsToldAndRemembered()
 {
     QFETCH(const std::size_t, place);
-    const Sending &sending{sendings.at(place)};
+    const Pair &pair{pairs.at(place)};
     TestWindow test;
-    openCameraPage(test, pairs.at(place).page);
-    const Widgets widgets{test, pairs.at(place)};
+    openCameraPage(test, pair.page);
+    const Widgets widgets{test, pair};
     QVERIFY(test.lastCommandOk());
-    test.simulator.addFault({QString{sending.call}.section('(', 0, 0).toStdString()});
+    test.simulator.addFault({QString{pair.call}.section('(', 0, 0).toStdString()});
 
-    typeInto(widgets.box, sending.text);
+    typeInto(widgets.box, pair.text);
     QTest::keyClick(&widgets.box, Qt::Key_Enter);
-    QCOMPARE(test.takeCallsAndRecords(), told(sending.call, sending.action, false));
-    QCOMPARE(test.takeLog(), QStringList{line(sending, "KO")});
+    QCOMPARE(test.takeCallsAndRecords(), told(pair.call, pair.action, false));
+    QCOMPARE(test.takeLog(), QStringList{line(pair, "KO")});
     QVERIFY(!test.lastCommandOk());
     // The window stays as the operator left it.
-    QCOMPARE(widgets.slider.value(), sending.position);
-    QCOMPARE(widgets.value(), QString{sending.text}.toDouble());
+    QCOMPARE(widgets.slider.value(), pair.position);
+    QCOMPARE(widgets.value(), QString{pair.text}.toDouble());
 }
 
 void CameraSendsTest::encodings_data()
@@ -317,30 +283,6 @@ void CameraSendsTest::theBoxIsSentWhereTheSliderEnds()
     widgets.box.setFocus();
     QTest::keyClick(&widgets.box, Qt::Key_Enter);
     QCOMPARE(test.takeCalls(), QStringList{call});
-}
-
-void CameraSendsTest::withoutADeviceNothingHappens()
-{
-    QFETCH(const std::size_t, place);
-    const Sending &sending{sendings.at(place)};
-    TestWindow test;
-    test.takeCallsAndRecords();
-    test.invoke(sending.handler);
-    QCOMPARE(test.takeCallsAndRecords(), QStringList{});
-    QCOMPARE(test.takeLog(), QStringList{});
-
-    test.beConnected();
-    test.click("disconnectDeviceButton");
-    test.takeCallsAndRecords();
-    const bool lastCommandOk{test.lastCommandOk()};
-    test.invoke(sending.handler);
-    const Widgets widgets{test, pairs.at(place)};
-    widgets.slider.setSliderDown(true);
-    widgets.slider.setSliderPosition(sending.position);
-    widgets.slider.setSliderDown(false);
-    QCOMPARE(test.takeCallsAndRecords(), QStringList{});
-    QCOMPARE(test.takeLog(), QStringList{});
-    QCOMPARE(test.lastCommandOk(), lastCommandOk);
 }
 
 PILOTEL_TEST_CLASS(CameraSendsTest)

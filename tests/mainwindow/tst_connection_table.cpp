@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // The connections of the window, held against the table of them.
 #include "boxpresser.h"
+#include "controls.h"
 #include "form_fixture.h"
 #include "panel.h"
 #include "testclass.h"
@@ -26,110 +27,89 @@ struct Connection
     QVariant fired; ///< What the signal carries when it is fired; invalid when it carries nothing.
 };
 
-/// A row for senders that share a signal; the slots stand in the senders' order.
-void add(std::vector<Connection> &table, const char *senders, const char *signal, const char *handlers,
-         const QVariant &fired = {})
-{
-    const QStringList senderNames{QString::fromLatin1(senders).split(QLatin1Char{' '})};
-    const QStringList slotNames{QString::fromLatin1(handlers).split(QLatin1Char{' '})};
-    for (int place{0}; place < senderNames.size(); ++place) {
-        table.push_back({senderNames[place], signal, slotNames[qMin(place, slotNames.size() - 1)], fired});
-    }
-}
-
 std::vector<Connection> connectionTable()
 {
     std::vector<Connection> table;
-    const auto row = [&](const char *senders, const char *signal, const char *handlers,
+    const auto row = [&](const QString &sender, const char *signal, const QString &slot,
                          const QVariant &fired = {}) {
-        add(table, senders, signal, handlers, fired);
+        table.push_back({sender, signal, slot, fired});
     };
     row("Principal_tab", "currentChanged(int)", "targetChanged", 1);
 
-    row("gammaSlider clheSlider sharpeningGainSlider SharpeningTHSlider AhcBlackGainLimSlider "
-        "AhcWhiteGainLimSlider TempoFilterSlider gskSlider gfidSlider gmsSlider tintSlider",
-        "valueChanged(int)",
-        "GammaUserSliderChanged ClheUserSliderChanged SharpeningUserSliderChanged SharpeningTHSliderChanged "
-        "AhcBlackGainlimSliderChanged AhcWhiteGainlimSliderChanged TempoFilterSliderChanged "
-        "GSKExpertSliderChanged GFIDExpertSliderChanged GMSExpertSliderChanged TINTExpertSliderChanged",
-        3);
-    const char *const sends{
-        "gammaUserSendCommand clheSendCommand sharpeningSendCommand sharpeningSendCommand ahcGainSendCommand "
-        "ahcGainSendCommand tempoFilterSendCommand gskSendCommand gfiSendCommand gmsSendCommand "
-        "tintSendCommand"};
-    row("gammaSlider clheSlider sharpeningGainSlider SharpeningTHSlider AhcBlackGainLimSlider "
-        "AhcWhiteGainLimSlider TempoFilterSlider gskSlider gfidSlider gmsSlider tintSlider",
-        "sliderReleased()", sends);
-    row("gammaEdit clheEdit sharpeningGainEdit SharpeningTHEdit", "valueChanged(double)",
-        "GammaUserValueChanged ClheUserValueChanged SharpeningUserValueChanged SharpeningTHValueChanged",
-        1.5);
-    row("AhcBlackGainLimSpin AhcWhiteGainLimSpin TempoFilterSpin", "valueChanged(int)",
-        "AhcBlackGainLimSpinValueChanged AhcWhiteGainLimSpinValueChanged TempoFiltSpinValueChanged", 4);
-    row("gskEdit gfidEdit gmsEdit tintEdit", "valueChanged(double)",
-        "GSKExpertValueChanged GFIDExpertValueChanged GMSExpertValueChanged TINTExpertValueChanged", 1.0);
+    for (const Pair &pair : pairs) {
+        row(pair.slider, "valueChanged(int)", pair.sliderSlot, 3);
+        row(pair.slider, "sliderReleased()", pair.sendSlot);
+        if (pair.decimalBox) {
+            row(pair.box, "valueChanged(double)", pair.boxSlot, pair.lowest + 1.0);
+        } else {
+            row(pair.box, "valueChanged(int)", pair.boxSlot, 4);
+        }
+        row(pair.box, "editingFinished()", pair.sendSlot);
+    }
 
     // The number of the region is the connection's own.
-    const char *const corners{"x1RoiUserValueChanged(%1) x2RoiUserValueChanged(%1) "
-                              "y1RoiUserValueChanged(%1) y2RoiUserValueChanged(%1)"};
-    int region{0};
-    for (const char *const boxes : {"Roi0Inc", "Roi1Inc", "Roi0Exc", "Roi1Exc"}) {
-        const QString senders{QStringLiteral("%1X1 %1X2 %1Y1 %1Y2").arg(QString::fromLatin1(boxes))};
-        const QString handlers{QString::fromLatin1(corners).arg(region++)};
-        row(qPrintable(senders), "editingFinished()", qPrintable(handlers));
+    for (const RegionRow &region : regionRows) {
+        for (const char *const coordinate : {"X1", "X2", "Y1", "Y2"}) {
+            const QString handler{QString::fromLatin1(coordinate).toLower() +
+                                  QStringLiteral("RoiUserValueChanged(%1)").arg(region.number)};
+            row(QString::fromLatin1(region.boxes) + QString::fromLatin1(coordinate), "editingFinished()",
+                handler);
+        }
+        if (region.enable != nullptr) {
+            row(region.enable, "stateChanged(int)", region.enableSlot, 0);
+        }
     }
 
     // factorZoomEdit, valueChanged(int), zoomChanged(): neither of the two exists, nothing is connected.
 
-    row("gammaEdit clheEdit sharpeningGainEdit SharpeningTHEdit AhcBlackGainLimSpin AhcWhiteGainLimSpin "
-        "TempoFilterSpin gskEdit gfidEdit gmsEdit tintEdit",
-        "editingFinished()", sends);
-
     row("resetParamButtonUser", "clicked(bool)", "ResetParamsUser", false);
     row("readParamButtonUser", "clicked(bool)", "readAllParameters", false);
     row("readParamButtonExpert", "clicked(bool)", "readParamsExpert", false);
-    row("scanDeviceButton connectDeviceButton disconnectDeviceButton", "clicked(bool)",
-        "scanDevice connectDevice disconnectDevice", false);
+    row("scanDeviceButton", "clicked(bool)", "scanDevice", false);
+    row("connectDeviceButton", "clicked(bool)", "connectDevice", false);
+    row("disconnectDeviceButton", "clicked(bool)", "disconnectDevice", false);
     row("PermanentButton", "clicked(bool)", "changePermanentButtonText", false);
     row("AboutButton", "clicked(bool)", "createAboutWindow", false);
     row("clearLogButton", "clicked(bool)", "logView.clear", false);
     row("saveParamButtonUser", "clicked(bool)", "saveBlendUnitUserClicked", false);
-    row("ColumnCorrectionButton VignettingCorrectionButton sdiOutputButton parallelOutputButton "
-        "mipiOutputButton polarityButton horizontalFlipButton",
-        "clicked(bool)",
-        "columnCorrectionClicked vignettingCorrectionClicked sdiOutputClicked parallelOutputClicked "
-        "mipiOutputClicked polarityClicked horizontalFlipClicked",
-        false);
-    row("configureZoomButton FusionConfigureZoomPB", "clicked(bool)", "configureZoomClicked", false);
-    row("readBPRTableButton writeBPRTableButton", "clicked(bool)", "readBprTableClicked writeBprTableClicked",
-        false);
-    row("addBadPixelButton addBadPixelLineButton addBadPixelColumnButton removeBadPixelButton "
-        "removeBadPixelLineButton removeBadPixelColumnButton",
-        "clicked(bool)",
-        "addBadPixelClicked addBadPixelLineClicked addBadPixelColumnClicked removeBadPixelClicked "
-        "removeBadPixelLineClicked removeBadPixelColumnClicked",
-        false);
-    row("BU_IR_MODE_PB BU_VISIBLE_MODE_PB BU_FUSION_MODE_PB", "clicked(bool)",
-        "irModeClicked visibleModeClicked fusionModeClicked", false);
+    for (const ToggleRow &toggle : toggleRows) {
+        row(toggle.button, "clicked(bool)", toggle.slot, false);
+    }
+    row("configureZoomButton", "clicked(bool)", "configureZoomClicked", false);
+    row("FusionConfigureZoomPB", "clicked(bool)", "configureZoomClicked", false);
+    row("readBPRTableButton", "clicked(bool)", "readBprTableClicked", false);
+    row("writeBPRTableButton", "clicked(bool)", "writeBprTableClicked", false);
+    row("addBadPixelButton", "clicked(bool)", "addBadPixelClicked", false);
+    row("addBadPixelLineButton", "clicked(bool)", "addBadPixelLineClicked", false);
+    row("addBadPixelColumnButton", "clicked(bool)", "addBadPixelColumnClicked", false);
+    row("removeBadPixelButton", "clicked(bool)", "removeBadPixelClicked", false);
+    row("removeBadPixelLineButton", "clicked(bool)", "removeBadPixelLineClicked", false);
+    row("removeBadPixelColumnButton", "clicked(bool)", "removeBadPixelColumnClicked", false);
+    for (const VideoModeRow &mode : videoModeRows) {
+        row(mode.button, "clicked(bool)", mode.slot, false);
+    }
     row("FusionWarpPB", "clicked(bool)", "fusionWarpClicked", false);
     row("saveParamFactoryPB", "clicked(bool)", "saveBlendUnitExpertClicked", false);
 
-    row("roi1IncEnable roi0ExcEnable roi1ExcEnable", "stateChanged(int)",
-        "roi1IncCheck roi0ExcCheck roi1ExcCheck", 0);
-    // The state and not the click: a read that changes the box sends the value back.
-    row("gainCheckBox BPRCheckBox offsetCheckBox", "stateChanged(int)",
-        "gainControlChanged bprControlChanged offsetControlChanged", 0);
+    for (const CorrectionRow &correction : correctionRows) {
+        // The state and not the click: a read that changes the box sends the value back.
+        if (correction.slot != nullptr) {
+            row(correction.checkBox, "stateChanged(int)", correction.slot, 0);
+        }
+    }
 
     row("BaudRateConnectCB", "currentIndexChanged(int)", "ChangeBaudRate", 0);
-    row("VideoOutputCB frameRateCB contrastTypeEdit lutColorEdit EdgeCorrectionCB",
-        "currentIndexChanged(int)",
-        "videoOutputChanged frameRateChanged contrastTypeChanged colorLutChanged edgeCorrectionChanged", 0);
+    for (const ChoiceRow &choice : choiceRows) {
+        row(choice.comboBox, "currentIndexChanged(int)", choice.slot, 0);
+    }
     row("methodZoomEdit", "currentIndexChanged(int)", "configureZoomClicked", 0);
     row("FusionWarpCB", "currentIndexChanged(int)", "readFusionParamsExpert", 0);
     row("startingModeCB", "currentIndexChanged(int)", "startingModeChanged", 0);
     row("BaudRateCB", "currentIndexChanged(int)", "krBaudRateChanged", 0);
 
-    row("VisAgcTargetSB VisAgcTHSB VisAgcCoeffSB", "editingFinished()", "visibleAgcChanged");
-    row("VisClheTHSB VisClheCoeffSB", "editingFinished()", "visibleClheChanged");
+    for (const BoxRow &single : boxRows) {
+        row(single.box, "editingFinished()", single.sendSlot);
+    }
     return table;
 }
 

@@ -65,8 +65,6 @@ private slots:
     void nucRequestIsSent();
     void aRefusedNucRequestIsToldInABox();
     void nucRequestLeavesTheLastResult();
-    void withoutADeviceNothingHappens_data();
-    void withoutADeviceNothingHappens();
 };
 
 void ExpertSendsTest::applySendsTheSwitchesAndTheBaudRate_data()
@@ -372,32 +370,6 @@ void ExpertSendsTest::nucRequestLeavesTheLastResult()
     test.invoke("ApplyNucRequest");
     QCOMPARE(test.takeCalls(), QStringList{"processNucRequest() -> true"});
     QVERIFY(!test.lastCommandOk());
-}
-
-void ExpertSendsTest::withoutADeviceNothingHappens_data()
-{
-    QTest::addColumn<QByteArray>("handler");
-    QTest::newRow("baud rate") << QByteArray{"krBaudRateChanged"};
-    QTest::newRow("correction request") << QByteArray{"ApplyNucRequest"};
-}
-
-void ExpertSendsTest::withoutADeviceNothingHappens()
-{
-    QFETCH(const QByteArray, handler);
-    TestWindow test;
-    for (const bool connectedBefore : {false, true}) {
-        if (connectedBefore) {
-            test.beConnected();
-            test.click("disconnectDeviceButton");
-        }
-        test.simulator.clearJournal();
-        const bool lastCommandOk{test.lastCommandOk()};
-        test.invoke(handler);
-        test.child<QComboBox>("BaudRateCB").setCurrentIndex(connectedBefore ? 3 : 4);
-        QCOMPARE(test.takeCallsAndRecords(), QStringList{});
-        QCOMPARE(test.takeLog(), QStringList{});
-        QCOMPARE(test.lastCommandOk(), lastCommandOk);
-    }
 }
 
 PILOTEL_TEST_CLASS(ExpertSendsTest)

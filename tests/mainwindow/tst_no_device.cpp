@@ -1,11 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// Every handler while no device is open.
-#include "connectioncontrols.h"
+// Every handler, and every control that an operator could use, while no device is open.
+#include "panel.h"
 #include "testclass.h"
 #include "testwindow.h"
 
+#include <QAbstractButton>
 #include <QComboBox>
+#include <QSlider>
 #include <QTabWidget>
 #include <QTest>
 
@@ -151,7 +153,7 @@ void NoDeviceTest::handlersWithoutADeviceDoNothing()
     TestWindow test;
     bringAbout(test, situation);
     const bool lastCommandOk{test.lastCommandOk()};
-    const QStringList enabled{test.enabledOf(connectionControls())};
+    const Panel panel{panelOf(test.window())};
 
     const QMetaObject *const metaObject{test.window().metaObject()};
     if (metaObject->indexOfSlot(handler + "(int)") >= 0) {
@@ -166,7 +168,7 @@ void NoDeviceTest::handlersWithoutADeviceDoNothing()
     QCOMPARE(test.takeLog(), QStringList{});
     QCOMPARE(test.boxes.takeShown(), QStringList{});
     QCOMPARE(test.lastCommandOk(), lastCommandOk);
-    QCOMPARE(test.enabledOf(connectionControls()), enabled);
+    QCOMPARE(differences(panel, panelOf(test.window())), QStringList{});
 }
 
 void NoDeviceTest::readsWithoutADeviceSaySo_data()
@@ -235,6 +237,11 @@ void NoDeviceTest::controlsWithoutADeviceSendNothing()
     }
     for (auto *const button : test.child<QWidget>("paramSection").findChildren<QAbstractButton *>()) {
         button->click();
+    }
+    for (auto *const slider : test.child<QWidget>("paramSection").findChildren<QSlider *>()) {
+        slider->setSliderDown(true);
+        slider->setSliderPosition(slider->maximum());
+        slider->setSliderDown(false);
     }
     auto &tabs = test.child<QTabWidget>("Principal_tab");
     for (int page{tabs.count() - 1}; page >= 0; --page) {

@@ -168,7 +168,8 @@ void RegionOrderTest::oneCommandHoweverTheEditEnds()
     }
 
     QCOMPARE(test.boxes.takeShown(), QStringList{orderBox(0, "X1")});
-    // The spin box that the focus went to loses it to the box, and must not report an edit that nobody made.
+    // The message box takes the focus from the spin box that it went to; that must not count as a finished
+    // edit.
     QCOMPARE(test.takeCalls(), QStringList{call});
     QCOMPARE(shown(test, "Roi0IncX1"), shown(test, "Roi0IncX2"));
 }

@@ -2,53 +2,35 @@
 // SPDX-License-Identifier: MIT
 // Tests of the regions of interest: the enable boxes and what they send.
 #include "camerapage.h"
+#include "controls.h"
 #include "testclass.h"
 
 #include <QCheckBox>
 #include <QSpinBox>
 #include <QTest>
 
-#include <array>
-
 namespace
 {
 
-/// An optional region, by the number that the device's setters give it.
-struct OptionalRegion
-{
-    int number;
-    const char *enableBox;
-    const char *boxes;
-    const char *handler;
-};
-
-constexpr std::array<OptionalRegion, 3> regions{{
-    {1, "roi1IncEnable", "Roi1Inc", "roi1IncCheck"},
-    {2, "roi0ExcEnable", "Roi0Exc", "roi0ExcCheck"},
-    {3, "roi1ExcEnable", "Roi1Exc", "roi1ExcCheck"},
-}};
-
-const OptionalRegion &regionOf(int number)
-{
-    return regions.at(static_cast<std::size_t>(number) - 1);
-}
+/// By the number that the device's setters give them.
+constexpr int optionalRegions[]{1, 2, 3};
 
 void addRegions()
 {
     QTest::addColumn<int>("number");
-    for (const OptionalRegion &region : regions) {
-        QTest::newRow(region.enableBox) << region.number;
+    for (const int number : optionalRegions) {
+        QTest::newRow(regionOf(number).enable) << number;
     }
 }
 
-QStringList boxesOf(const OptionalRegion &region)
+QStringList boxesOf(const RegionRow &region)
 {
     const QString boxes{region.boxes};
     return {boxes + "X1", boxes + "X2", boxes + "Y1", boxes + "Y2"};
 }
 
 /// Gives the region's boxes values that all differ; the device does not hear of it.
-void showCoordinates(const TestWindow &test, const OptionalRegion &region)
+void showCoordinates(const TestWindow &test, const RegionRow &region)
 {
     int value{100 * region.number};
     for (const QString &box : boxesOf(region)) {
@@ -56,7 +38,7 @@ void showCoordinates(const TestWindow &test, const OptionalRegion &region)
     }
 }
 
-QStringList valuesOf(const TestWindow &test, const OptionalRegion &region)
+QStringList valuesOf(const TestWindow &test, const RegionRow &region)
 {
     QStringList values;
     for (const QString &box : boxesOf(region)) {
@@ -66,7 +48,7 @@ QStringList valuesOf(const TestWindow &test, const OptionalRegion &region)
 }
 
 /// The four commands of a region with the flags of all optional ones, in the order of their numbers.
-QStringList commands(const OptionalRegion &region, const QStringList &values, const char *flags)
+QStringList commands(const RegionRow &region, const QStringList &values, const char *flags)
 {
     QStringList texts;
     int place{0};
@@ -112,8 +94,9 @@ void RegionsOfInterestTest::optionalRegionsAreOffAtTheStart()
     TestWindow test;
     openCameraPage(test, "LutSection");
 
-    for (const OptionalRegion &region : regions) {
-        QCOMPARE(test.child<QCheckBox>(region.enableBox).isChecked(), false);
+    for (const int optional : optionalRegions) {
+        const RegionRow &region{regionOf(optional)};
+        QCOMPARE(test.child<QCheckBox>(region.enable).isChecked(), false);
         QCOMPARE(test.enabledOf(boxesOf(region)), QStringList{});
     }
     const QStringList always{"Roi0IncX1", "Roi0IncX2", "Roi0IncY1", "Roi0IncY2"};
@@ -147,17 +130,18 @@ void RegionsOfInterestTest::checkingSendsTheValuesShown()
 {
     QFETCH(const int, number);
     QFETCH(const QStringList, expected);
-    const OptionalRegion &region{regionOf(number)};
+    const RegionRow &region{regionOf(number)};
     TestWindow test;
     openCameraPage(test, "LutSection");
     showCoordinates(test, region);
     QCOMPARE(test.takeCallsAndRecords(), QStringList{});
 
-    test.click(region.enableBox);
+    test.click(region.enable);
     QCOMPARE(test.takeCallsAndRecords(), expected);
     QCOMPARE(test.takeLog(), QStringList{});
-    QVERIFY(test.child<QCheckBox>(region.enableBox).isChecked());
-    for (const OptionalRegion &other : regions) {
+    QVERIFY(test.child<QCheckBox>(region.enable).isChecked());
+    for (const int optional : optionalRegions) {
+        const RegionRow &other{regionOf(optional)};
         QCOMPARE(test.enabledOf(boxesOf(other)), other.number == number ? boxesOf(other) : QStringList{});
     }
 }
@@ -184,22 +168,22 @@ void RegionsOfInterestTest::uncheckingSendsZerosAndKeepsTheValues()
 {
     QFETCH(const int, number);
     QFETCH(const QStringList, expected);
-    const OptionalRegion &region{regionOf(number)};
+    const RegionRow &region{regionOf(number)};
     TestWindow test;
     openCameraPage(test, "LutSection");
     showCoordinates(test, region);
     const QStringList values{valuesOf(test, region)};
-    test.click(region.enableBox);
+    test.click(region.enable);
     const QStringList whenChecked{test.takeCallsAndRecords()};
 
-    test.click(region.enableBox);
+    test.click(region.enable);
     QCOMPARE(test.takeCallsAndRecords(), expected);
     QCOMPARE(test.takeLog(), QStringList{});
-    QVERIFY(!test.child<QCheckBox>(region.enableBox).isChecked());
+    QVERIFY(!test.child<QCheckBox>(region.enable).isChecked());
     QCOMPARE(test.enabledOf(boxesOf(region)), QStringList{});
     QCOMPARE(valuesOf(test, region), values);
 
-    test.click(region.enableBox);
+    test.click(region.enable);
     QCOMPARE(test.takeCallsAndRecords(), whenChecked);
     QCOMPARE(test.enabledOf(boxesOf(region)), boxesOf(region));
 }
@@ -226,17 +210,17 @@ void RegionsOfInterestTest::everyCommandCarriesAllFlags()
     QFETCH(const QVector<int>, checkedBefore);
     QFETCH(const int, clicked);
     QFETCH(const QByteArray, flags);
-    const OptionalRegion &region{regionOf(clicked)};
+    const RegionRow &region{regionOf(clicked)};
     TestWindow test;
     openCameraPage(test, "LutSection");
     showCoordinates(test, region);
     const QStringList shown{valuesOf(test, region)};
     for (const int number : checkedBefore) {
-        test.click(regionOf(number).enableBox);
+        test.click(regionOf(number).enable);
     }
     test.takeCallsAndRecords();
 
-    test.click(region.enableBox);
+    test.click(region.enable);
     const QStringList values{checkedBefore.contains(clicked) ? zeros() : shown};
     QCOMPARE(test.takeCallsAndRecords(), commands(region, values, flags));
 }
@@ -293,7 +277,8 @@ void RegionsOfInterestTest::oneRefusalIsRememberedAndTheOthersAreSent_data()
 {
     QTest::addColumn<int>("number");
     QTest::addColumn<QByteArray>("refused");
-    for (const OptionalRegion &region : regions) {
+    for (const int optional : optionalRegions) {
+        const RegionRow &region{regionOf(optional)};
         for (const char *const operation : {"setRoiX1", "setRoiX2", "setRoiY1", "setRoiY2"}) {
             QTest::addRow("%s of ROI %d", operation, region.number) << region.number << QByteArray{operation};
         }
@@ -304,14 +289,14 @@ void RegionsOfInterestTest::oneRefusalIsRememberedAndTheOthersAreSent()
 {
     QFETCH(const int, number);
     QFETCH(const QByteArray, refused);
-    const OptionalRegion &region{regionOf(number)};
+    const RegionRow &region{regionOf(number)};
     TestWindow test;
     openCameraPage(test, "LutSection");
     showCoordinates(test, region);
     QVERIFY(test.lastCommandOk());
     test.simulator.addFault({refused.toStdString()});
 
-    test.click(region.enableBox);
+    test.click(region.enable);
     QVERIFY(!test.lastCommandOk());
     const QStringList calls{test.takeCallsAndRecords()};
     QCOMPARE(calls.size(), 4);
@@ -320,10 +305,10 @@ void RegionsOfInterestTest::oneRefusalIsRememberedAndTheOthersAreSent()
     }
     QCOMPARE(test.takeLog(), QStringList{});
     // The window stays as the operator left it.
-    QVERIFY(test.child<QCheckBox>(region.enableBox).isChecked());
+    QVERIFY(test.child<QCheckBox>(region.enable).isChecked());
     QCOMPARE(test.enabledOf(boxesOf(region)), boxesOf(region));
 
-    test.click(region.enableBox);
+    test.click(region.enable);
     QVERIFY(!test.lastCommandOk());
     QCOMPARE(test.takeCallsAndRecords().size(), 4);
 }
@@ -334,34 +319,34 @@ void RegionsOfInterestTest::fourSuccessesAreRemembered()
     TestWindow test;
     openCameraPage(test, "LutSection");
     test.simulator.addFault({"setRoiY2", 1, 1});
-    test.click(regionOf(number).enableBox);
+    test.click(regionOf(number).enable);
     QVERIFY(!test.lastCommandOk());
 
-    test.click(regionOf(number).enableBox);
+    test.click(regionOf(number).enable);
     QVERIFY(test.lastCommandOk());
 }
 
 void RegionsOfInterestTest::withoutADeviceNothingHappens()
 {
     QFETCH(const int, number);
-    const OptionalRegion &region{regionOf(number)};
+    const RegionRow &region{regionOf(number)};
     TestWindow test;
     // The operator cannot reach the page.
     test.child<QWidget>("paramSection").setEnabled(true);
-    test.child<QCheckBox>(region.enableBox).setChecked(true);
+    test.child<QCheckBox>(region.enable).setChecked(true);
     test.takeCallsAndRecords();
-    test.invoke(region.handler);
+    test.invoke(region.enableSlot);
     QCOMPARE(test.takeCallsAndRecords(), QStringList{});
     QCOMPARE(test.enabledOf(boxesOf(region)), QStringList{});
-    test.child<QCheckBox>(region.enableBox).setChecked(false);
+    test.child<QCheckBox>(region.enable).setChecked(false);
 
     test.beConnected();
     test.click("disconnectDeviceButton");
     test.takeCallsAndRecords();
-    test.invoke(region.handler);
+    test.invoke(region.enableSlot);
     QCOMPARE(test.takeCallsAndRecords(), QStringList{});
     QCOMPARE(test.takeLog(), QStringList{});
-    QCOMPARE(test.enabledOf({region.enableBox}), QStringList{});
+    QCOMPARE(test.enabledOf({region.enable}), QStringList{});
 }
 
 PILOTEL_TEST_CLASS(RegionsOfInterestTest)

@@ -1,12 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// Tests of the Blend Unit's video mode, and of its mode handlers without a device.
+// Tests of the Blend Unit's video mode.
+#include "controls.h"
 #include "testclass.h"
 #include "testwindow.h"
 
 #include <QTest>
-
-#include <array>
 
 using veltrix_simulator::Simulator;
 using veltrix_simulator::Value;
@@ -14,35 +13,13 @@ using veltrix_simulator::Value;
 namespace
 {
 
-struct Mode
-{
-    const char *name;
-    const char *button;
-    const char *handler;
-    const char *success;
-    const char *failure;
-};
-
-constexpr std::array<Mode, 3> modes{{
-    {"infrared", "BU_IR_MODE_PB", "irModeClicked", "IR mode activated", "Could not configure IR mode"},
-    {"visible", "BU_VISIBLE_MODE_PB", "visibleModeClicked", "Visible mode activated",
-     "Could not configure visible mode"},
-    {"fusion", "BU_FUSION_MODE_PB", "fusionModeClicked", "Fusion mode activated",
-     "Could not configure fusion mode"},
-}};
-
 /// A mode that no button stands for: a window that reads it shows none.
 constexpr int unknownMode{255};
-
-const Mode &modeOf(int number)
-{
-    return modes.at(static_cast<std::size_t>(number));
-}
 
 QStringList checkedButtons(const TestWindow &test)
 {
     QStringList checked;
-    for (const Mode &mode : modes) {
+    for (const VideoModeRow &mode : videoModeRows) {
         if (test.child<QAbstractButton>(mode.button).isChecked()) {
             checked.append(mode.button);
         }
@@ -53,7 +30,7 @@ QStringList checkedButtons(const TestWindow &test)
 /// What the buttons look like after the device has reported that mode.
 QStringList buttonsOf(int mode)
 {
-    return mode == unknownMode ? QStringList{} : QStringList{modeOf(mode).button};
+    return mode == unknownMode ? QStringList{} : QStringList{videoModeAt(mode).button};
 }
 
 TestWindow::Preparation withVideoMode(int mode)
@@ -69,20 +46,10 @@ void addEveryCombination()
     QTest::addColumn<int>("pressed");
 
     for (const int shown : {unknownMode, 0, 1, 2}) {
-        const char *const shownName{shown == unknownMode ? "nothing" : modeOf(shown).name};
+        const char *const shownName{shown == unknownMode ? "nothing" : videoModeAt(shown).name};
         for (const int pressed : {0, 1, 2}) {
-            QTest::addRow("%s shown, %s pressed", shownName, modeOf(pressed).name) << shown << pressed;
+            QTest::addRow("%s shown, %s pressed", shownName, videoModeAt(pressed).name) << shown << pressed;
         }
-    }
-}
-
-void addHandlers()
-{
-    QTest::addColumn<QByteArray>("handler");
-
-    for (const char *const handler : {"irModeClicked", "visibleModeClicked", "fusionModeClicked",
-                                      "readVideoMode", "startingModeChanged", "readStartingMode"}) {
-        QTest::newRow(handler) << QByteArray{handler};
     }
 }
 
@@ -105,11 +72,6 @@ private slots:
     void eachSwitchIsTheLastCommand();
     void readShowsTheMode_data();
     void readShowsTheMode();
-
-    void beforeConnectingNothingHappens_data() { addHandlers(); }
-    void beforeConnectingNothingHappens();
-    void afterDisconnectingNothingHappens_data() { addHandlers(); }
-    void afterDisconnectingNothingHappens();
 };
 
 void VideoModeTest::acceptedClickChecksExactlyItsButton()
@@ -120,10 +82,10 @@ void VideoModeTest::acceptedClickChecksExactlyItsButton()
     test.beConnected();
     QCOMPARE(checkedButtons(test), buttonsOf(shown));
 
-    test.click(modeOf(pressed).button);
+    test.click(videoModeAt(pressed).button);
 
     QCOMPARE(test.takeCalls(), QStringList{QString{"setVideoMode(%1) -> true"}.arg(pressed)});
-    QCOMPARE(test.takeLog(), QStringList{modeOf(pressed).success});
+    QCOMPARE(test.takeLog(), QStringList{videoModeAt(pressed).success});
     QCOMPARE(checkedButtons(test), buttonsOf(pressed));
     QVERIFY(test.lastCommandOk());
 }
@@ -136,10 +98,10 @@ void VideoModeTest::refusedClickShowsWhatWasShown()
     test.beConnected();
     test.simulator.addFault({"setVideoMode"});
 
-    test.click(modeOf(pressed).button);
+    test.click(videoModeAt(pressed).button);
 
     QCOMPARE(test.takeCalls(), QStringList{QString{"setVideoMode(%1) -> false"}.arg(pressed)});
-    QCOMPARE(test.takeLog(), QStringList{modeOf(pressed).failure});
+    QCOMPARE(test.takeLog(), QStringList{videoModeAt(pressed).failure});
     QCOMPARE(checkedButtons(test), buttonsOf(shown));
     QVERIFY(!test.lastCommandOk());
 }
@@ -151,10 +113,10 @@ void VideoModeTest::acceptedHandlerByNameChecksExactlyItsButton()
     TestWindow test{withVideoMode(shown)};
     test.beConnected();
 
-    test.invoke(modeOf(pressed).handler);
+    test.invoke(videoModeAt(pressed).slot);
 
     QCOMPARE(test.takeCalls(), QStringList{QString{"setVideoMode(%1) -> true"}.arg(pressed)});
-    QCOMPARE(test.takeLog(), QStringList{modeOf(pressed).success});
+    QCOMPARE(test.takeLog(), QStringList{videoModeAt(pressed).success});
     QCOMPARE(checkedButtons(test), buttonsOf(pressed));
 }
 
@@ -166,10 +128,10 @@ void VideoModeTest::refusedHandlerByNameTouchesNoButton()
     test.beConnected();
     test.simulator.addFault({"setVideoMode"});
 
-    test.invoke(modeOf(pressed).handler);
+    test.invoke(videoModeAt(pressed).slot);
 
     QCOMPARE(test.takeCalls(), QStringList{QString{"setVideoMode(%1) -> false"}.arg(pressed)});
-    QCOMPARE(test.takeLog(), QStringList{modeOf(pressed).failure});
+    QCOMPARE(test.takeLog(), QStringList{videoModeAt(pressed).failure});
     QCOMPARE(checkedButtons(test), buttonsOf(shown));
 }
 
@@ -191,7 +153,7 @@ void VideoModeTest::eachSwitchIsTheLastCommand()
 {
     TestWindow test;
     test.beConnected();
-    for (const Mode &mode : modes) {
+    for (const VideoModeRow &mode : videoModeRows) {
         test.simulator.addFault({"setVideoMode"});
         test.click(mode.button);
         QVERIFY(!test.lastCommandOk());
@@ -245,34 +207,6 @@ void VideoModeTest::readShowsTheMode()
     QCOMPARE(test.takeLog(), QStringList{line});
     QCOMPARE(checkedButtons(test), buttonsOf(shownAfterwards));
     QCOMPARE(test.lastCommandOk(), ok);
-}
-
-void VideoModeTest::beforeConnectingNothingHappens()
-{
-    QFETCH(const QByteArray, handler);
-    TestWindow test;
-    test.takeCalls();
-
-    test.invoke(handler.constData());
-
-    QCOMPARE(test.takeCallsAndRecords(), QStringList{});
-    QCOMPARE(test.takeLog(), QStringList{});
-    QCOMPARE(checkedButtons(test), QStringList{});
-}
-
-void VideoModeTest::afterDisconnectingNothingHappens()
-{
-    QFETCH(const QByteArray, handler);
-    TestWindow test{withVideoMode(1)};
-    test.beConnected();
-    test.click("disconnectDeviceButton");
-    test.takeCalls();
-
-    test.invoke(handler.constData());
-
-    QCOMPARE(test.takeCallsAndRecords(), QStringList{});
-    QCOMPARE(test.takeLog(), QStringList{});
-    QCOMPARE(checkedButtons(test), QStringList{"BU_VISIBLE_MODE_PB"});
 }
 
 PILOTEL_TEST_CLASS(VideoModeTest)

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// What sending a setting promises, one by one and in bulk.
+// The oracle of the settings that are sent, one by one and in bulk.
 #include "oracle.h"
 #include "tables.h"
 
@@ -39,7 +39,7 @@ QString bothOf(const Controls &controls)
     return wholeOf<first>(controls) + QStringLiteral(", ") + wholeOf<second>(controls);
 }
 
-// Names as template arguments have to have linkage.
+// Variables, because a template argument cannot be a string literal.
 constexpr char videoOutput[]{"VideoOutputCB"};
 constexpr char contrastType[]{"contrastTypeEdit"};
 constexpr char colorLut[]{"lutColorEdit"};
@@ -150,7 +150,7 @@ void Oracle::chooseAndSend(const QString &comboBox, double index)
 void Oracle::frameRate()
 {
     const int index{controls.index(QStringLiteral("frameRateCB"))};
-    const int hertz{index < 0 ? 0 : frameRatesHz[index]};
+    const int hertz{index < 0 ? 0 : frameRatesHz.at(static_cast<std::size_t>(index))};
     if (static_cast<int>(call(QStringLiteral("getFrameRate()")).number()) != hertz) {
         command(QStringLiteral("setFrameRate(%1)").arg(hertz), QStringLiteral("Set FRAME RATE value"));
     }
@@ -239,7 +239,7 @@ void Oracle::reset()
 void Oracle::resetRegions()
 {
     for (const RegionRow &row : regionRows) {
-        const QString boxes{named(row.spinBoxes)};
+        const QString boxes{named(row.boxes)};
         for (const char *const coordinate : {"X1", "Y1", "X2", "Y2"}) {
             const Answer answer{byDefault(QStringLiteral("getDefault") + boxes + named(coordinate))};
             controls.set(boxes + named(coordinate), std::trunc(answer.number()));

@@ -22,7 +22,7 @@ Deed finishEdit(const QString &spinBox);
 Deed setValue(const QString &name, const QVariant &value);
 Deed invoke(const char *handler);
 Deed both(const Deed &first, const Deed &second);
-/// The units no longer are as the window shows them, so that a read changes nearly every control.
+/// Sets the units to other values than the window shows, so that a read changes nearly every control.
 void changeUnits(TestWindow &test);
-/// Defaults unlike what the window shows, so that a reset changes nearly every control.
+/// Sets defaults other than what the window shows, so that a reset changes nearly every control.
 void changeDefaults(TestWindow &test);

@@ -19,8 +19,8 @@ namespace
 
 constexpr std::int64_t largest{4294967295};
 
-/// An answer that the contract does not foresee: what only the value 1 confirms confirmed by another, an item
-/// that does not exist, a number that no control can show.
+/// An answer that the contract does not foresee: a value other than 1 where only 1 means success, the index
+/// of an item that does not exist, a number that no control can show.
 struct OddAnswer
 {
     const char *operation;

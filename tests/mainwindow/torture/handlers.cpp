@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// What the controls promise that do more than send one setting.
+// The oracle of the controls that do more than send one setting.
 #include "oracle.h"
 #include "tables.h"
 
@@ -26,7 +26,7 @@ void Oracle::clickVideoMode(int mode)
     if (current.lastCommandOk) {
         showVideoMode(mode);
     } else {
-        line(named(videoModeRows[mode].failure));
+        line(named(videoModeAt(mode).failure));
     }
 }
 
@@ -34,7 +34,7 @@ void Oracle::checkCorrection(const QString &checkBox, bool checked)
 {
     const bool changed{controls.check(checkBox, checked)};
     for (const CorrectionRow &row : correctionRows) {
-        if (changed && row.sendsItself && checkBox == named(row.checkBox)) {
+        if (changed && row.slot != nullptr && checkBox == named(row.checkBox)) {
             call(QStringLiteral("set%1(%2)").arg(named(row.operation), boolText(checked)));
         }
     }
@@ -64,10 +64,10 @@ void Oracle::checkRegion(const QString &checkBox, bool checked)
         }
         current.lastCommandOk = true;
         for (const char *const coordinate : {"X1", "X2", "Y1", "Y2"}) {
-            const QString spinBox{named(row.spinBoxes) + named(coordinate)};
+            const QString spinBox{named(row.boxes) + named(coordinate)};
             controls.enable(spinBox, checked);
             const bool ok{
-                sendCoordinate(named(coordinate), checked ? controls.whole(spinBox) : 0, row.setNumber)};
+                sendCoordinate(named(coordinate), checked ? controls.whole(spinBox) : 0, row.number)};
             current.lastCommandOk = current.lastCommandOk && ok;
         }
     }
@@ -76,10 +76,10 @@ void Oracle::checkRegion(const QString &checkBox, bool checked)
 void Oracle::editRegion(int number, const QString &coordinate)
 {
     for (const RegionRow &row : regionRows) {
-        if (row.setNumber != number) {
+        if (row.number != number) {
             continue;
         }
-        const QString boxes{named(row.spinBoxes)};
+        const QString boxes{named(row.boxes)};
         const QString axis{coordinate.left(1)};
         const QString first{boxes + axis + QLatin1Char{'1'}};
         const QString second{boxes + axis + QLatin1Char{'2'}};

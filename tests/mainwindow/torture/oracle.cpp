@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// The walk along the journal, and what connecting and disconnecting promise.
+// How the oracle follows the journal, and what has to happen when the window connects and disconnects.
 #include "oracle.h"
 
 #include <QRegularExpression>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// What the window promises to do with each answer of the device, replayed beside what it did.
+// What the window has to do after each answer of the device, compared with what it did.
 #pragma once
 
 #include "panel.h"
@@ -93,7 +93,7 @@ private:
     void line(const QString &text);
     void box(const QString &title, const QString &text);
     void warningBox(const QString &text);
-    /// A default that the configuration gave; the order in which they are asked for is nobody's business.
+    /// A default that the configuration gave; they may be asked for in any order.
     Answer byDefault(const QString &operation);
 
     void fetchConfiguration() { call(QStringLiteral("getConfiguration()")); }

@@ -18,6 +18,8 @@ class Paths
 {
 public:
     std::vector<Path> all;
+    /// Of the paths that are added next.
+    Group group{Group::Sessions};
 
     void addSessions();
     void addSettings();
@@ -29,13 +31,14 @@ public:
 private:
     Path &add(const QString &name, const Deed &act, const std::function<void(Oracle &)> &promise)
     {
-        all.push_back({name, act, promise});
+        all.push_back({group, name, act, promise});
         return all.back();
     }
 };
 
 void Paths::addSessions()
 {
+    group = Group::Sessions;
     const auto connectDevice = [](Oracle &oracle) {
         oracle.connectDevice();
     };
@@ -81,59 +84,32 @@ void Paths::addSessions()
 
 void Paths::addSettings()
 {
+    group = Group::Settings;
     for (const ToggleRow &row : toggleRows) {
         const QString button{named(row.button)};
         add(QStringLiteral("click %1").arg(button), press(button),
             [=](Oracle &oracle) { oracle.clickToggle(button); });
     }
-    for (const char *const name :
-         {"VideoOutputCB", "frameRateCB", "contrastTypeEdit", "lutColorEdit", "EdgeCorrectionCB"}) {
-        const QString comboBox{named(name)};
+    for (const ChoiceRow &row : choiceRows) {
+        const QString comboBox{named(row.comboBox)};
         add(QStringLiteral("choose in %1").arg(comboBox), choose(comboBox, 1),
             [=](Oracle &oracle) { oracle.chooseAndSend(comboBox, 1); });
     }
-    const std::pair<const char *, double> sliders[]{
-        {"gammaSlider", 17},
-        {"clheSlider", 4321},
-        {"sharpeningGainSlider", 25},
-        {"SharpeningTHSlider", 37},
-        {"AhcBlackGainLimSlider", 33},
-        {"AhcWhiteGainLimSlider", 44},
-        {"TempoFilterSlider", 7},
-        {"gskSlider", 3},
-        {"gfidSlider", 321},
-        {"gmsSlider", 54},
-        {"tintSlider", 15},
-    };
-    for (const auto &[name, value] : sliders) {
-        const QString slider{named(name)};
-        add(QStringLiteral("release %1").arg(slider), releaseSlider(slider), [=](Oracle &oracle) {
-            oracle.send(slider);
-        }).prepare = setValue(slider, value);
-    }
-    const std::pair<const char *, double> spinBoxes[]{
-        {"gammaEdit", 2.2},
-        {"clheEdit", 9999},
-        {"sharpeningGainEdit", 2.9},
-        {"SharpeningTHEdit", 3.7},
-        {"AhcBlackGainLimSpin", 100},
-        {"AhcWhiteGainLimSpin", 1},
-        {"TempoFilterSpin", 8},
-        {"gskEdit", 1},
-        {"gfidEdit", 1000},
-        {"gmsEdit", 4294967295.0},
-        {"tintEdit", 20},
-        {"VisAgcTargetSB", 33},
-        {"VisAgcTHSB", 34},
-        {"VisAgcCoeffSB", 35},
-        {"VisClheTHSB", 65535},
-        {"VisClheCoeffSB", 36},
-    };
-    for (const auto &[name, value] : spinBoxes) {
+    const auto finishing = [this](const char *name, double value) {
         const QString spinBox{named(name)};
         add(QStringLiteral("finish the edit of %1").arg(spinBox), finishEdit(spinBox), [=](Oracle &oracle) {
             oracle.send(spinBox);
         }).prepare = setValue(spinBox, value);
+    };
+    for (const Pair &pair : pairs) {
+        const QString slider{named(pair.slider)};
+        add(QStringLiteral("release %1").arg(slider), releaseSlider(slider), [=](Oracle &oracle) {
+            oracle.send(slider);
+        }).prepare = setValue(slider, pair.position);
+        finishing(pair.box, pair.otherValue);
+    }
+    for (const BoxRow &row : boxRows) {
+        finishing(row.box, row.otherValue);
     }
     add(QStringLiteral("ApplyParamsUser"), invoke("ApplyParamsUser"), [](Oracle &oracle) {
         oracle.applyUser();
@@ -145,9 +121,10 @@ void Paths::addSettings()
 
 void Paths::addRegions()
 {
+    group = Group::Regions;
     for (const RegionRow &row : regionRows) {
-        const QString boxes{named(row.spinBoxes)};
-        const int number{row.setNumber};
+        const QString boxes{named(row.boxes)};
+        const int number{row.number};
         const QString enable{named(row.enable)};
         const Deed switchOn{enable.isEmpty() ? Deed{[](TestWindow & /*test*/) {
         }}
@@ -180,9 +157,10 @@ void Paths::addRegions()
 
 void Paths::addExpert()
 {
+    group = Group::ExpertSettings;
     for (const CorrectionRow &row : correctionRows) {
         const QString checkBox{named(row.checkBox)};
-        if (row.sendsItself) {
+        if (row.slot != nullptr) {
             add(QStringLiteral("click %1").arg(checkBox), press(checkBox),
                 [=](Oracle &oracle) { oracle.checkCorrection(checkBox, false); });
         }
@@ -200,6 +178,7 @@ void Paths::addExpert()
 
 void Paths::addBlendUnit()
 {
+    group = Group::BlendUnit;
     const auto configureZoom = [](Oracle &oracle) {
         oracle.configureZoom();
     };
@@ -245,6 +224,7 @@ void Paths::addBlendUnit()
 
 void Paths::addBadPixels()
 {
+    group = Group::BadPixels;
     constexpr int column{123};
     constexpr int row{234};
     const Deed aim{both(setValue(QStringLiteral("xBadPixelCoordinate"), column),
@@ -275,6 +255,7 @@ void Paths::addBadPixels()
             Path &path =
                 add(QStringLiteral("click %1").arg(button + suffix), press(button + suffix), declare);
             path.prepare = aim;
+            path.group = isAdd ? Group::AddedLines : Group::RemovedLines;
             path.isRepeatable = true;
         }
     }

@@ -11,9 +11,23 @@
 #include <functional>
 #include <vector>
 
+/// What a path is about; each group is a test function of its own.
+enum class Group
+{
+    Sessions,
+    Settings,
+    Regions,
+    ExpertSettings,
+    BlendUnit,
+    BadPixels,
+    AddedLines,
+    RemovedLines,
+};
+
 /// One path: where it starts, what the operator does, and what the window promises to do then.
 struct Path
 {
+    Group group;
     QString name;
     std::function<void(TestWindow &)> act;
     std::function<void(Oracle &)> promise;

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// What reading the two units promises.
+// The oracle of reading the two units.
 #include "oracle.h"
 #include "tables.h"
 
@@ -78,9 +78,9 @@ void Oracle::readVideoMode()
 void Oracle::showVideoMode(int mode)
 {
     for (const VideoModeRow &row : videoModeRows) {
-        controls.check(named(row.button), &row == &videoModeRows[mode]);
+        controls.check(named(row.button), &row == &videoModeAt(mode));
     }
-    line(named(videoModeRows[mode].success));
+    line(named(videoModeAt(mode).success));
 }
 
 void Oracle::readZoom()
@@ -186,7 +186,7 @@ bool Oracle::readCamera()
         }
     }
 
-    // Through single precision, as the camera's number is rounded there.
+    // The window converts through a float, so the value is rounded to one here as well.
     const auto rawGamma = static_cast<float>(call(QStringLiteral("getGamma()")).number());
     const double gamma{static_cast<double>(rawGamma) / 65536};
     controls.set(QStringLiteral("gammaSlider"), std::round((gamma - 0.5) * 10));
@@ -242,12 +242,12 @@ void Oracle::readRegions()
         }
     }
     for (int region{0}; region < count; ++region) {
-        const RegionRow &row{regionRows[region]};
+        const RegionRow &row{regionRows.at(static_cast<std::size_t>(region))};
         if (row.enable != nullptr) {
             checkRegion(named(row.enable), pixels[region][0] != 0);
         }
         for (int coordinate{0}; coordinate < count; ++coordinate) {
-            controls.set(named(row.spinBoxes) + named(coordinates[coordinate]), pixels[region][coordinate]);
+            controls.set(named(row.boxes) + named(coordinates[coordinate]), pixels[region][coordinate]);
             line(QStringLiteral("%1 %2 value = %3")
                      .arg(named(row.label), named(coordinates[coordinate]),
                           whole(pixels[region][coordinate])));
