@@ -18,11 +18,10 @@ struct Texts
 };
 
 inline const QString gammaText{
-    "Gamma correction compensates for the differences in display on different output "
-    "devices, so that images look the same when viewed on different monitors."};
+    "Gamma correction compensates for the differences in display on different output devices, so that images look the same when viewed on different monitors."};
 inline const QString sharpeningText{"The sharpening filter enhance the edges of objects."};
-inline const QString claheText{"CLAHE (contrast limited adaptative histogram equalization) is using sectors "
-                               "of the image for local calculation."};
+inline const QString claheText{
+    "CLAHE (contrast limited adaptative histogram equalization) is using sectors of the image for local calculation."};
 inline const QString resolutionText{
     "Only usable when SDI output video disabled and for MIPI and parallel outputs format"};
 
@@ -71,8 +70,7 @@ inline std::vector<Texts> texts()
         {"roiLabel",
          "Region of Interest (ROI)",
          {"Region of Interest is the area used in LUT calculation.",
-          "For example, the RoI can exclude sky or sea to avoid cold areas in the LUT calculation and "
-          "improve dynamism in the image.",
+          "For example, the RoI can exclude sky or sea to avoid cold areas in the LUT calculation and improve dynamism in the image.",
           "Origin (0,0) is top left of the picture."}},
         {"label_20", "X1", {}},
         {"label_18", "X2", {}},
@@ -117,14 +115,11 @@ inline std::vector<Texts> texts()
         {"label_28", "Read/Write BPR (Bad Pixel Replacement) table", {}},
         {"resetBPRTableButton",
          "Reset BPR table to factory configuration",
-         {"Reset the current local Bad Pixel Replacement (BPR) table using the first downloaded BPR table "
-          "from the connected camera.",
-          "The backup tables are stored in the bprBackup folder in the Veltrix Pilotel installation "
-          "directory."}},
+         {"Reset the current local Bad Pixel Replacement (BPR) table using the first downloaded BPR table from the connected camera.",
+          "The backup tables are stored in the bprBackup folder in the Veltrix Pilotel installation directory."}},
         {"readBPRTableButton",
          "Read BPR table from camera",
-         {"Download the current Bad Pixel Replacement (BPR) table from the Veltrix and store it as the "
-          "local BPR table"}},
+         {"Download the current Bad Pixel Replacement (BPR) table from the Veltrix and store it as the local BPR table"}},
         {"writeBPRTableButton",
          "Write BPR table to camera",
          {"Upload the local Bad Pixel Replacement (BPR) table to the Veltrix"}},
@@ -135,15 +130,13 @@ inline std::vector<Texts> texts()
         {"label_31", "Declare", {}},
         {"addBadPixelButton",
          "Single Bad Pixel",
-         {"Add the Bad Pixel corresponding to the X and Y coordinates to the local Bad Pixel Replacement "
-          "table"}},
+         {"Add the Bad Pixel corresponding to the X and Y coordinates to the local Bad Pixel Replacement table"}},
         {"addBadPixelLineButton", "Line", {}},
         {"addBadPixelColumnButton", "Column", {}},
         {"label_32", "Undeclare", {}},
         {"removeBadPixelButton",
          "Single Bad Pixel",
-         {"Remove the Bad Pixel corresponding to the X and Y coordinates from the local Bad Pixel "
-          "Replacement table"}},
+         {"Remove the Bad Pixel corresponding to the X and Y coordinates from the local Bad Pixel Replacement table"}},
         {"removeBadPixelLineButton", "Line", {}},
         {"removeBadPixelColumnButton", "Column", {}},
         {"bpGraphicEditorButton", "Open Graphic Editor", {}},
@@ -153,8 +146,7 @@ inline std::vector<Texts> texts()
         {"gskLabel", "GSK", {gammaText}},
         {"gfidLabel",
          "GFID",
-         {"The CLHE is a mix between linear LUT and histogram equalization LUT. Lower values increase "
-          "linearity."}},
+         {"The CLHE is a mix between linear LUT and histogram equalization LUT. Lower values increase linearity."}},
         {"gmsLabel", "GMS", {sharpeningText}},
         {"tintLabel", "TINT", {sharpeningText}},
         {"gainCheckBox", "Enable Gain", {}},

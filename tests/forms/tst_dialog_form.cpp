@@ -211,7 +211,7 @@ void DialogFormTest::textsComeFromTheDialogContext()
     QCOMPARE(ui.label_2->text(), MarkingTranslator::marked("Version du produit :"));
     QCOMPARE(ui.label_3->text(), MarkingTranslator::marked("Produit par Norvane Technologies"));
 
-    // The name and the version are no texts of the form.
+    // The name and the version are set by the dialog, not by the form.
     const Dialog complete;
     QCOMPARE(textOf(complete, "NomProduit"), "Pilotel Blend Unit");
     QCOMPARE(textOf(complete, "VersionProduit"), "1.0.0");

@@ -83,7 +83,7 @@ void MainWindowFormValuesTest::properties_data()
             row(name, expected);
         }
     };
-    // What a control is not told, it keeps as Qt makes it.
+    // Properties that the form does not set keep Qt's own values.
     const auto slider = [row](const char *name, int minimum, int maximum, const QVariantMap &told) {
         row(name, withChanges({{"minimum", minimum},
                                {"maximum", maximum},

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// The mouse where it cannot be known whether a click gets through.
+// A mouse press on a widget that may be disabled, through the window system.
 #pragma once
 
 #include "testwindow.h"
