@@ -6,10 +6,13 @@
 #include "controls.h"
 
 #include <QComboBox>
+#include <QHash>
 #include <QMetaProperty>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
+#include <vector>
 
 namespace
 {
@@ -18,6 +21,26 @@ namespace
 constexpr const char *watchedProperties[]{
     "checked", "currentIndex", "value", "minimum", "maximum", "decimals", "singleStep", "plainText",
 };
+
+/// The watched properties that a class has, with what stands behind the widget's name in the panel.
+using Watched = std::vector<std::pair<QMetaProperty, QString>>;
+
+const Watched &watchedIn(const QMetaObject &type)
+{
+    static QHash<const QMetaObject *, Watched> known;
+    const auto found = known.constFind(&type);
+    if (found != known.constEnd()) {
+        return *found;
+    }
+    Watched watched;
+    for (const char *const name : watchedProperties) {
+        const int index{type.indexOfProperty(name)};
+        if (index >= 0) {
+            watched.emplace_back(type.property(index), QLatin1Char{'.'} + QLatin1String{name});
+        }
+    }
+    return *known.insert(&type, watched);
+}
 
 } // namespace
 
@@ -30,9 +53,9 @@ Panel panelOf(const QWidget &window)
             continue;
         }
         panel[name + QStringLiteral(".enabled")] = widget->isEnabledTo(widget->parentWidget());
-        for (const char *const property : watchedProperties) {
-            if (name != QStringLiteral("logView") && widget->metaObject()->indexOfProperty(property) >= 0) {
-                panel[name + QLatin1Char{'.'} + QLatin1String{property}] = widget->property(property);
+        if (name != QStringLiteral("logView")) {
+            for (const auto &[property, suffix] : watchedIn(*widget->metaObject())) {
+                panel[name + suffix] = property.read(widget);
             }
         }
         if (widget->inherits("QAbstractButton")) {

@@ -172,7 +172,7 @@ bool invoke(QObject &object, const QByteArray &name, const QVariant &argument = 
 /// records of the SDK, the boxes and the changes of the window. While it happens only the given sender emits.
 QStringList effectOf(const QString &sender, const std::function<void(TestWindow &)> &act)
 {
-    TestWindow test;
+    TestWindow test{{}, TestWindow::Drawing::Off};
     const BoxPresser presser{test.boxes};
     test.beConnected();
     // A different list of ports to scan, a button whose text is out of date, corners in the wrong order.

@@ -150,7 +150,7 @@ void NoDeviceTest::handlersWithoutADeviceDoNothing()
 {
     QFETCH(QByteArray, handler);
     QFETCH(Situation, situation);
-    TestWindow test;
+    TestWindow test{{}, TestWindow::Drawing::Off};
     bringAbout(test, situation);
     const bool lastCommandOk{test.lastCommandOk()};
     const Panel panel{panelOf(test.window())};

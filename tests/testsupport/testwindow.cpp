@@ -33,7 +33,7 @@ QStringList existingNames(const std::vector<QObject *> &objects)
 
 } // namespace
 
-TestWindow::TestWindow(const Preparation &prepare) : simulator{Simulator::instance()}
+TestWindow::TestWindow(const Preparation &prepare, Drawing drawing) : simulator{Simulator::instance()}
 {
     simulator.reset();
     if (prepare) {
@@ -49,6 +49,7 @@ TestWindow::TestWindow(const Preparation &prepare) : simulator{Simulator::instan
                                 constructionWarnings.join(QStringLiteral(" | "))),
                      __FILE__, __LINE__);
     }
+    mainWindow->setUpdatesEnabled(drawing == Drawing::On);
     mainWindow->show();
     mainWindow->activateWindow();
     if (!QTest::qWaitForWindowActive(mainWindow.get())) {

@@ -23,7 +23,15 @@ public:
     /// Prepares the simulator before the window is built.
     using Preparation = std::function<void(veltrix_simulator::Simulator &)>;
 
-    explicit TestWindow(const Preparation &prepare = {});
+    /// Whether the window is drawn. Drawing takes half of a session's time and changes no state of the
+    /// window, so a test of many sessions that looks at no picture leaves it out.
+    enum class Drawing
+    {
+        On,
+        Off,
+    };
+
+    explicit TestWindow(const Preparation &prepare = {}, Drawing drawing = Drawing::On);
     ~TestWindow();
     TestWindow(const TestWindow &) = delete;
     TestWindow &operator=(const TestWindow &) = delete;

@@ -111,8 +111,9 @@ private:
 
 Rehearsal::Rehearsal(const Path &itsPath)
     : path{itsPath}, test{[&](Simulator &simulator) {
-          simulator.set("configuration.expertMode", path.expertMode);
-      }}
+                              simulator.set("configuration.expertMode", path.expertMode);
+                          },
+                          TestWindow::Drawing::Off}
 {
     if (path.startsConnected) {
         test.beConnected();
