@@ -2,25 +2,12 @@
 // SPDX-License-Identifier: MIT
 // Scanning on a host whose serial ports are told by the test.
 #include "connectioncontrols.h"
+#include "hostports.h"
 #include "testclass.h"
 #include "testwindow.h"
 
 #include <QComboBox>
-#include <QSerialPortInfo>
 #include <QTest>
-
-/// Stands in for the host's own: as many as the test says, none at first. Without the host's own data a port
-/// has no name, which is enough to tell where in a list it stands.
-static int hostPorts{0};
-
-QList<QSerialPortInfo> QSerialPortInfo::availablePorts()
-{
-    QList<QSerialPortInfo> ports;
-    for (int port{0}; port < hostPorts; ++port) {
-        ports.append(QSerialPortInfo{});
-    }
-    return ports;
-}
 
 namespace
 {
@@ -46,11 +33,11 @@ private slots:
 void NoPortsTest::offersTheHostsPortsBeforeThoseOfTheSdk()
 {
     TestWindow test;
-    hostPorts = 2;
+    setHostPorts(2);
 
     test.click("scanDeviceButton");
 
-    hostPorts = 0;
+    setHostPorts(0);
     const auto &ports = test.child<QComboBox>("selectDeviceComboBox");
     QStringList names;
     for (int item{0}; item < ports.count(); ++item) {

@@ -10,7 +10,6 @@
 #include <QComboBox>
 #include <QElapsedTimer>
 #include <QPlainTextEdit>
-#include <QSerialPortInfo>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -19,15 +18,6 @@
 
 using veltrix_simulator::Call;
 using veltrix_simulator::Simulator;
-
-#ifndef Q_OS_WIN
-/// Stands in for the host's own ports: none. Asking the host takes a quarter of a session's time, and
-/// thousands are played. The import of a DLL does not allow it, so there the host is asked.
-QList<QSerialPortInfo> QSerialPortInfo::availablePorts()
-{
-    return {};
-}
-#endif
 
 namespace
 {
