@@ -4,6 +4,7 @@
 // and nowhere else in the tests, and taken from no table of the program.
 #pragma once
 
+#include <QByteArray>
 #include <QtGlobal>
 
 #include <algorithm>
