@@ -4,6 +4,7 @@
 #include "devicesettings.h"
 #include "heldvalues.h"
 #include "simulatedcamera.h"
+#include "testclass.h"
 #include "values.h"
 #include "veltrix_simulator/simulator.h"
 
@@ -245,5 +246,5 @@ void SettingsTest::regionsTravelWithTheirFlags()
     QCOMPARE(s.camera.lastCall(), QString{"setRoiY2(100, 3, false, false, true) -> true"});
 }
 
-QTEST_GUILESS_MAIN(SettingsTest)
+PILOTEL_TEST_CLASS(SettingsTest)
 #include "tst_settings.moc"

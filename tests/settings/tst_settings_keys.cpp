@@ -5,6 +5,7 @@
 #include "devicesettings.h"
 #include "heldvalues.h"
 #include "simulatedcamera.h"
+#include "testclass.h"
 #include "values.h"
 #include "veltrix_simulator/simulator.h"
 
@@ -217,5 +218,5 @@ void SettingsKeysTest::configurationIsReadAsHeld()
     QCOMPARE(called, value.isOperation ? QStringList{QString::fromStdString(value.get)} : QStringList{});
 }
 
-QTEST_GUILESS_MAIN(SettingsKeysTest)
+PILOTEL_TEST_CLASS(SettingsKeysTest)
 #include "tst_settings_keys.moc"

@@ -209,6 +209,7 @@ private slots:
     void savedSetComesBack();
     void everySetIsKeptForItself();
     void onlyTwoSetsCanBeSaved();
+    void readmeSaysWhichSetAValueBelongsTo();
     void withoutFileNothingIsKept();
     void fileReads_data();
     void fileReads();
@@ -316,6 +317,21 @@ void SimulatorMemoryTest::onlyTwoSetsCanBeSaved()
     QVERIFY(!QFile::exists(name));
     QVERIFY(unit.get("blendUnit.userSaves") == Value{std::int64_t{0}});
     QVERIFY(unit.get("blendUnit.expertSaves") == Value{std::int64_t{0}});
+}
+
+void SimulatorMemoryTest::readmeSaysWhichSetAValueBelongsTo()
+{
+    QFile readme{QStringLiteral(SIMULATOR_README)};
+    QVERIFY(readme.open(QIODevice::ReadOnly | QIODevice::Text));
+    const QString text = QString::fromUtf8(readme.readAll());
+    const std::map<Saved, QString> words{{Saved::Never, QStringLiteral("–")},
+                                         {Saved::User, QStringLiteral("user")},
+                                         {Saved::Expert, QStringLiteral("expert")}};
+    for (const UnitField &row : unitFields) {
+        const QString key = QString::fromStdString(std::string{row.key});
+        const QString line = text.section(QStringLiteral("\n| `%1` | ").arg(key), 1, 1).section('\n', 0, 0);
+        QCOMPARE(key + ": " + line.section(QStringLiteral(" | "), 2, 2), key + ": " + words.at(row.saved));
+    }
 }
 
 void SimulatorMemoryTest::withoutFileNothingIsKept()
