@@ -30,8 +30,6 @@ namespace sdk_check
 namespace
 {
 
-const std::string noUnit{};
-
 std::string inQuotes(const char *text)
 {
     return '"' + escaped(text) + '"';

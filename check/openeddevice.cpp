@@ -17,8 +17,6 @@ namespace sdk_check
 namespace
 {
 
-const std::string noUnit{};
-
 std::string named(const Setting &row, const Field &field, const std::string &text)
 {
     const std::string name{nameOf(row, field)};

@@ -13,6 +13,9 @@
 namespace sdk_check
 {
 
+/// The unit of what is called on no unit.
+inline const std::string noUnit{};
+
 enum class Outcome
 {
     Holds,

@@ -3,7 +3,7 @@
 # AddressSanitizer and UndefinedBehaviorSanitizer, what fuzzing needs, and coverage, for the whole tree.
 if(PILOTEL_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
-    # gcc leaves float-cast-overflow out of "undefined"; it is the check that a device's answer meets.
+    # Not among "undefined": casts of numbers that the type cannot hold, as a device may answer them.
     add_compile_options(-fsanitize=float-cast-overflow,float-divide-by-zero)
     add_link_options(-fsanitize=address,undefined)
 endif()

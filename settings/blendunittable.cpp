@@ -22,10 +22,7 @@ namespace device_settings
 namespace
 {
 
-using Rows = std::vector<Setting>;
-
 constexpr UsedOn onBlendUnit{UsedOn::BlendUnit};
-constexpr UsedOn onCamera{UsedOn::Camera};
 constexpr UsedOn onBoth{UsedOn::Both};
 
 // 200 to 400 kelvin, beyond what either unit survives; a failed read leaves 0.
@@ -142,7 +139,7 @@ Rows warps()
 
 } // namespace
 
-std::vector<Setting> blendUnitTable()
+Rows blendUnitTable()
 {
     Rows rows{identity()};
     for (const Rows &part : {blendUnit(), warps()}) {

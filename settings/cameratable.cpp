@@ -21,10 +21,6 @@ namespace device_settings
 namespace
 {
 
-using Rows = std::vector<Setting>;
-
-constexpr UsedOn onCamera{UsedOn::Camera};
-
 /// A setting of the camera that is on or off.
 template <typename Get, typename Set>
 Setting cameraSwitch(const char *key, Operation<Get> get, Operation<Set> set, const char *meaning)
@@ -151,7 +147,7 @@ Rows regions()
 
 } // namespace
 
-std::vector<Setting> cameraTable(const ConfigurationWords &words)
+Rows cameraTable(const ConfigurationWords &words)
 {
     Rows rows{cameraSwitches()};
     for (const Rows &part : {cameraNumbers(words), cameraRecords(), regions()}) {

@@ -21,7 +21,7 @@ namespace
 {
 
 using Configuration = ISdkConfiguration;
-using Rows = std::vector<ConfigurationValue>;
+using ConfigurationRows = std::vector<ConfigurationValue>;
 
 const char *const prefix{"configuration."};
 
@@ -55,8 +55,8 @@ ConfigurationValue flag(const char *key, Operation<bool (Configuration::*)()> ge
 }
 
 /// A word has the same name as its key.
-ConfigurationValue word(const std::string &name, std::int32_t ConfigurationWords::*member, Allowed allowed,
-                        const std::string &meaning)
+ConfigurationValue wordValue(const std::string &name, std::int32_t ConfigurationWords::*member,
+                             Allowed allowed, const std::string &meaning)
 {
     return {prefix + name,
             Kind::Signed32,
@@ -70,7 +70,7 @@ ConfigurationValue word(const std::string &name, std::int32_t ConfigurationWords
             }};
 }
 
-Rows image()
+ConfigurationRows image()
 {
     const Allowed gamma{
         between(double{gammaRange.minimum} / fixedPointOne, double{gammaRange.maximum} / fixedPointOne)};
@@ -128,7 +128,7 @@ struct ExpertValue
     std::int32_t ConfigurationWords::*defaultWord;
 };
 
-Rows expertValues(const ConfigurationWords &words)
+ConfigurationRows expertValues(const ConfigurationWords &words)
 {
     using W = ConfigurationWords;
     constexpr double highest{std::numeric_limits<std::int32_t>::max()};
@@ -138,21 +138,22 @@ Rows expertValues(const ConfigurationWords &words)
         {"gms", ASKED(getDefaultGms), &W::gmsMinimum, &W::gmsMaximum, &W::gmsDefault},
         {"tint", ASKED(getDefaultTint), &W::tintMinimum, &W::tintMaximum, &W::tintDefault},
     };
-    Rows table;
+    ConfigurationRows table;
     for (const ExpertValue &each : values) {
         const double lowest = words.*each.minimum;
         const Allowed allowed{between(lowest, words.*each.maximum)};
         const std::string name{each.name};
         table.push_back(value(name + "Default", each.get, allowed, "Default of " + name));
-        table.push_back(word(name + "Minimum", each.minimum, between(0, highest), "Least value of " + name));
         table.push_back(
-            word(name + "Maximum", each.maximum, between(lowest, highest), "Greatest value of " + name));
-        table.push_back(word(name + "Default", each.defaultWord, allowed, "Default of " + name));
+            wordValue(name + "Minimum", each.minimum, between(0, highest), "Least value of " + name));
+        table.push_back(
+            wordValue(name + "Maximum", each.maximum, between(lowest, highest), "Greatest value of " + name));
+        table.push_back(wordValue(name + "Default", each.defaultWord, allowed, "Default of " + name));
     }
     return table;
 }
 
-Rows regions()
+ConfigurationRows defaultRegions()
 {
     using Coordinate = Operation<double (Configuration::*)()>;
     const auto column = [](const char *key, Coordinate get, const char *meaning) {
@@ -199,8 +200,8 @@ Rows regions()
 
 std::vector<ConfigurationValue> configurationValues(const ConfigurationWords &words)
 {
-    Rows table;
-    for (const Rows &rows : {image(), expertValues(words), regions()}) {
+    ConfigurationRows table;
+    for (const ConfigurationRows &rows : {image(), expertValues(words), defaultRegions()}) {
         table.insert(table.end(), rows.begin(), rows.end());
     }
     return table;

@@ -11,9 +11,13 @@
 namespace device_settings
 {
 
+using Rows = std::vector<Setting>;
+
+inline constexpr UsedOn onCamera{UsedOn::Camera};
+
 /// What identifies the units and how they are, then the settings of the Blend Unit and the zoom of both.
-std::vector<Setting> blendUnitTable();
+Rows blendUnitTable();
 /// The settings of the camera. The words give the ranges of the expert values.
-std::vector<Setting> cameraTable(const veltrix_sdk::ConfigurationWords &words);
+Rows cameraTable(const veltrix_sdk::ConfigurationWords &words);
 
 } // namespace device_settings

@@ -30,6 +30,6 @@ public:
 
 /// Stands once at the end of a test's source file, before its moc file is included.
 #define PILOTEL_TEST_CLASS(Class)                                                                            \
-    static const TestClass registered{__FILE__, []() -> std::unique_ptr<QObject> {                           \
-                                          return std::make_unique<Class>();                                  \
-                                      }};
+    static const TestClass registered##Class{__FILE__, []() -> std::unique_ptr<QObject> {                    \
+                                                 return std::make_unique<Class>();                           \
+                                             }};

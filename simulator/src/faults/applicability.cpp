@@ -16,7 +16,7 @@ namespace veltrix_simulator
 namespace
 {
 
-std::string inQuotes(const Operation &operation)
+std::string quotedName(const Operation &operation)
 {
     return '"' + std::string{operation.name} + '"';
 }
@@ -25,7 +25,7 @@ std::string reasonInEffect(const FaultRule &rule, const Operation &operation)
 {
     const EffectRow &row = rowOf(rule.effect);
     return row.fits == nullptr || row.fits(operation) ? std::string{}
-                                                      : inQuotes(operation) + ' ' + row.misfit;
+                                                      : quotedName(operation) + ' ' + row.misfit;
 }
 
 std::string reasonInAnswer(const FaultRule &rule, const Operation &operation)
@@ -34,13 +34,13 @@ std::string reasonInAnswer(const FaultRule &rule, const Operation &operation)
     const std::size_t expected{rule.leavesOutputs ? std::min<std::size_t>(operation.answer.size(), 1)
                                                   : operation.answer.size()};
     if (answer.size() != expected) {
-        return "an answer of " + inQuotes(operation) + " has " + std::to_string(expected) + " values, not " +
-               std::to_string(answer.size());
+        return "an answer of " + quotedName(operation) + " has " + std::to_string(expected) +
+               " values, not " + std::to_string(answer.size());
     }
     for (std::size_t place{0}; place < answer.size(); ++place) {
         if (!convert(answer[place], operation.answer[place])) {
-            return "value " + std::to_string(place + 1) + " of an answer of " + inQuotes(operation) + " is " +
-                   std::string{describe(operation.answer[place])};
+            return "value " + std::to_string(place + 1) + " of an answer of " + quotedName(operation) +
+                   " is " + std::string{describe(operation.answer[place])};
         }
     }
     return {};
@@ -50,13 +50,13 @@ std::string reasonInArgument(const ArgumentRange &argument, const Operation &ope
 {
     const std::size_t count{operation.arguments.size()};
     if (argument.place >= count) {
-        return count == 0 ? inQuotes(operation) + " takes no numbers"
-                          : inQuotes(operation) + " takes " + std::to_string(count) +
+        return count == 0 ? quotedName(operation) + " takes no numbers"
+                          : quotedName(operation) + " takes " + std::to_string(count) +
                                 (count == 1 ? " number" : " numbers") + ", so there is no number " +
                                 std::to_string(argument.place + 1);
     }
     if (operation.arguments[argument.place] == Kind::Text) {
-        return "argument " + std::to_string(argument.place + 1) + " of " + inQuotes(operation) +
+        return "argument " + std::to_string(argument.place + 1) + " of " + quotedName(operation) +
                " is a text, not a number";
     }
     // Negated, so that NaN is refused as well.
@@ -65,7 +65,7 @@ std::string reasonInArgument(const ArgumentRange &argument, const Operation &ope
     }
     const Kind kind{operation.arguments[argument.place]};
     if (!holdsAnyFrom(argument.minimum, argument.maximum, kind)) {
-        return "argument " + std::to_string(argument.place + 1) + " of " + inQuotes(operation) + " is " +
+        return "argument " + std::to_string(argument.place + 1) + " of " + quotedName(operation) + " is " +
                std::string{describe(kind)} + ", which is never in this range";
     }
     return {};
@@ -74,7 +74,7 @@ std::string reasonInArgument(const ArgumentRange &argument, const Operation &ope
 std::string reasonInTrigger(const FaultRule &rule, const Operation &operation)
 {
     if (rule.target && operation.interface != Interface::Device) {
-        return inQuotes(operation) + " is no operation of the device, and only those address a unit";
+        return quotedName(operation) + " is no operation of the device, and only those address a unit";
     }
     if (rule.target && *rule.target != 0 && *rule.target != 1) {
         return "there is no unit " + std::to_string(*rule.target) + ", only 0 and 1";

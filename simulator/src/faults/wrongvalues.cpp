@@ -16,11 +16,6 @@ namespace veltrix_simulator
 namespace
 {
 
-bool isFloating(Kind kind)
-{
-    return kind == Kind::Float || kind == Kind::Double;
-}
-
 /// Another number of the list or of the range; the actual number when there is no other.
 double otherInRange(double actual, Kind kind, const Allowed &allowed, const Words &words, Random &random)
 {

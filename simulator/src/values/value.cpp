@@ -46,11 +46,6 @@ constexpr const KindRow &rowOf(Kind kind)
     return kinds[static_cast<std::size_t>(kind)];
 }
 
-bool isFloating(Kind kind)
-{
-    return kind == Kind::Float || kind == Kind::Double;
-}
-
 bool isBoolean(Kind kind)
 {
     return kind == Kind::Boolean || kind == Kind::Object;
@@ -83,6 +78,11 @@ std::optional<Value> fromDouble(double number, Kind kind)
 }
 
 } // namespace
+
+bool isFloating(Kind kind)
+{
+    return kind == Kind::Float || kind == Kind::Double;
+}
 
 bool holdsAnyFrom(double minimum, double maximum, Kind kind)
 {

@@ -71,6 +71,9 @@ constexpr Kind kindOf()
     }
 }
 
+/// Whether a kind has fractions.
+bool isFloating(Kind kind);
+
 /// Whether a kind can hold any number from minimum to maximum; a kind that is no number cannot.
 bool holdsAnyFrom(double minimum, double maximum, Kind kind);
 
