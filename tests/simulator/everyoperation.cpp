@@ -111,7 +111,7 @@ const std::vector<OperationCall> &everyOperation()
 {
     static const std::vector<OperationCall> operations{
 #define FUNCTION(name, ...) function(OperationId::name, name),
-#define OPERATION(object, name) operation(OperationId::name, &object::name),
+#define OPERATION(object, name, role) operation(OperationId::name, &object::name),
 #include "operations/operations.inc"
     };
     return operations;

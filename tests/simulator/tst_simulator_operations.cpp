@@ -3,9 +3,11 @@
 // The operations as a scenario names them, and what rules cannot be applied to them.
 #include "faults/applicability.h"
 #include "testclass.h"
+#include "values/numberlist.h"
 
 #include <QtTest>
 
+#include <algorithm>
 #include <functional>
 #include <limits>
 
@@ -25,6 +27,7 @@ private slots:
     void argumentsAreThoseOfTheCall_data();
     void argumentsAreThoseOfTheCall();
     void everyOperationIsReadOrCommand();
+    void whatACallBringsFitsIntoItsList();
     void objections_data();
     void objections();
 };
@@ -127,6 +130,15 @@ void SimulatorOperationsTest::everyOperationIsReadOrCommand()
         }
     }
     QCOMPARE(neither, QStringList{"startReading"});
+}
+
+void SimulatorOperationsTest::whatACallBringsFitsIntoItsList()
+{
+    std::size_t most{0};
+    for (const Operation &operation : allOperations()) {
+        most = std::max(most, operation.arguments.size());
+    }
+    QCOMPARE(NumberList::capacity, most);
 }
 
 void SimulatorOperationsTest::objections_data()

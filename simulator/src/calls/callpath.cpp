@@ -94,8 +94,8 @@ void CallPath::workUnder(const PlannedEffect &planned, Parameters parameters, co
                          const Work &work)
 {
     if (planned.answer) {
-        answer(planned, parameters, result);
-    } else if (rowOf(planned.effect).works) {
+        fillInAnswer(planned, parameters, result);
+    } else if (rowOf(planned.effect).works()) {
         const AlteredState altered{state, planned};
         work();
     }
@@ -119,7 +119,7 @@ std::optional<PlannedEffect> CallPath::plan(OperationId operation, Parameters pa
     return planned;
 }
 
-void CallPath::answer(const PlannedEffect &planned, Parameters parameters, const ResultPlace &result)
+void CallPath::fillInAnswer(const PlannedEffect &planned, Parameters parameters, const ResultPlace &result)
 {
     AnswerReader reader{*planned.answer};
     if (const auto *const numbers = std::get_if<NumbersAt>(&result.content())) {

@@ -91,7 +91,7 @@ public:
 private:
     void pass(OperationId operation, Parameters parameters, const ResultPlace &result, const Work &work);
 
-    /// Whether a call is neither kept nor written, waited for or hit by a fault, whatever it is made on.
+    /// Whether nothing is switched on (journal, trace, faults, time), and the device is open and answers.
     bool goesTheShortWay() const
     {
         return !journalEnabled && !trace.isOn() && faults.isEmpty() && !takesTime() && state.deviceOpen &&
@@ -117,7 +117,7 @@ private:
     void workUnder(const PlannedEffect &planned, Parameters parameters, const ResultPlace &result,
                    const Work &work);
     /// Puts the values of an effect's answer into the result and into what the call fills in.
-    void answer(const PlannedEffect &planned, Parameters parameters, const ResultPlace &result);
+    void fillInAnswer(const PlannedEffect &planned, Parameters parameters, const ResultPlace &result);
 
     void keepInJournal(OperationId operation, int target, bool isOpen, Parameters parameters,
                        const ResultPlace &result);

@@ -24,14 +24,15 @@ struct ObjectName
 /// Appends a number in the shortest form that reads back; of a float in single precision.
 void appendNumber(std::string &line, const Number &number);
 
-inline Number plainNumberAt(const NumbersAt &numbers)
+inline Number plainNumberAt(const ReadNumbers &numbers)
 {
     const Member &member = *numbers.members().begin();
     return {member.kind, numbers.at(member)};
 }
 
 /// Hands a form what there is to write of a call: what its parameters bring, its result, and what it filled
-/// in. A form takes nullptr for what is missing, a Number, a text, an ObjectName, or NumbersAt for a record.
+/// in. A form takes nullptr for what is missing, a Number, a text, an ObjectName, or ReadNumbers for a
+/// record.
 template <typename Form>
 class CallWriter
 {
@@ -54,7 +55,7 @@ private:
     void writeArgument(const Parameter &parameter) const
     {
         const Parameter::Content &content = parameter.content();
-        const NumbersAt *const memory = parameter.memory();
+        const ReadNumbers *const memory = parameter.memory();
         if (memory != nullptr && !memory->isThere()) {
             form.argument(nullptr);
         } else if (const auto *const number = std::get_if<Number>(&content)) {

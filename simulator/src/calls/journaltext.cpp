@@ -46,7 +46,7 @@ public:
         line.push_back('}');
     }
 
-    void output(const NumbersAt &record)
+    void output(const ReadNumbers &record)
     {
         line.push_back(' ');
         append(record);
@@ -78,7 +78,7 @@ private:
 
     void append(const ObjectName &object) { line.append(object.text); }
 
-    void append(const NumbersAt &record)
+    void append(const ReadNumbers &record)
     {
         std::string_view separator{"{"};
         for (const Member &member : record.members()) {

@@ -7,7 +7,6 @@
 #include "values/value.h"
 
 #include <cstdint>
-#include <cstring>
 #include <tuple>
 #include <type_traits>
 
@@ -18,21 +17,20 @@ namespace veltrix_simulator
 template <Kind kind>
 inline constexpr Member plainNumber{{}, kind, 0, sizeof(TypeOf<kind>), std::tuple_size_v<Records>, Field{}};
 
-/// A number or the members of a record in memory, which may be missing. Every number of the contract is exact
-/// in a double. Who made it of a record that can only be read does not set it.
-class NumbersAt
+/// A number or the members of a record in memory, which may be missing, to be read. Every number of the
+/// contract is exact in a double.
+class ReadNumbers
 {
 public:
     template <typename T>
-    explicit NumbersAt(T *memory) : bytes{const_cast<char *>(reinterpret_cast<const char *>(memory))}
+    explicit ReadNumbers(const T *memory) : bytes{reinterpret_cast<const char *>(memory)}
     {
-        using Plain = std::remove_const_t<T>;
-        if constexpr (isRecord<Plain>) {
+        if constexpr (isRecord<T>) {
             // Found by the compiler, not in every call.
-            constexpr Members found{membersOf<Plain>()};
+            constexpr Members found{membersOf<T>()};
             list = found;
         } else {
-            list = {&plainNumber<kindOf<Plain>()>, 1};
+            list = {&plainNumber<kindOf<T>()>, 1};
         }
     }
 
@@ -62,6 +60,27 @@ public:
             break;
         }
         return read<double>(member);
+    }
+
+private:
+    template <typename T>
+    T read(const Member &member) const
+    {
+        return *reinterpret_cast<const T *>(bytes + member.offset);
+    }
+
+    const char *bytes;
+    Members list{nullptr, 0};
+};
+
+/// The same where a call fills something in.
+class NumbersAt : public ReadNumbers
+{
+public:
+    template <typename T>
+    explicit NumbersAt(T *memory) : ReadNumbers{memory}, writable{reinterpret_cast<char *>(memory)}
+    {
+        static_assert(!std::is_const_v<T>, "what is filled in can be written");
     }
 
     /// The number is one that the kind holds.
@@ -97,26 +116,19 @@ public:
     /// Sets all of them to zero.
     void clear() const
     {
-        for (const Member &member : list) {
+        for (const Member &member : members()) {
             set(member, 0);
         }
     }
 
 private:
     template <typename T>
-    T read(const Member &member) const
-    {
-        return *reinterpret_cast<const T *>(bytes + member.offset);
-    }
-
-    template <typename T>
     void write(const Member &member, T number) const
     {
-        *reinterpret_cast<T *>(bytes + member.offset) = number;
+        *reinterpret_cast<T *>(writable + member.offset) = number;
     }
 
-    char *bytes;
-    Members list{nullptr, 0};
+    char *writable;
 };
 
 } // namespace veltrix_simulator

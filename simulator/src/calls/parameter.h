@@ -40,7 +40,7 @@ struct SentRecord
     explicit SentRecord(const Record *memory) : record{memory}
     {}
 
-    NumbersAt record;
+    ReadNumbers record;
 };
 
 /// A number that the call fills in, under the name that the journal shows.
@@ -54,18 +54,16 @@ struct OutNumber
     NumbersAt number;
 };
 
-/// A record that the call fills in.
+/// A record that the call fills in, and what it brings into the call.
 struct FilledRecord
 {
     template <typename Record>
     explicit FilledRecord(Record *memory) : record{memory}
-    {}
-
-    /// A warp matrix also brings something into the call: the stream that it is asked for.
-    explicit FilledRecord(veltrix_sdk::Warp *warp) : record{warp}
     {
-        if (warp != nullptr) {
-            brought = Number{kindOf<decltype(warp->stream)>(), static_cast<double>(warp->stream)};
+        if constexpr (bringsMember<Record>) {
+            if (memory != nullptr) {
+                brought = Number{broughtKind<Record>(), static_cast<double>(memory->*broughtMember<Record>)};
+            }
         }
     }
 
@@ -110,7 +108,7 @@ public:
     const Content &content() const { return parameter; }
 
     /// Where the call reads a record, or fills in a number or a record; null for what it brings by value.
-    const NumbersAt *memory() const
+    const ReadNumbers *memory() const
     {
         const auto *const sent = std::get_if<SentRecord>(&parameter);
         return sent != nullptr ? &sent->record : filledMemory();
@@ -133,7 +131,7 @@ private:
     Content parameter;
 };
 
-/// The parameters of a call, in their order. They live as long as the call.
+/// The parameters of a call, in their order. They live until the call returns: never keep or return them.
 using Parameters = std::initializer_list<Parameter>;
 
 /// The numbers that a call brings, NaN in the place of a text.
@@ -145,14 +143,12 @@ inline bool prepare(Parameters parameters, bool leavesOutputs)
 {
     bool isAllThere{true};
     for (const Parameter &parameter : parameters) {
-        const NumbersAt *const memory = parameter.memory();
-        if (memory == nullptr) {
-            continue;
-        }
-        if (!memory->isThere()) {
+        const ReadNumbers *const memory = parameter.memory();
+        const NumbersAt *const filled = parameter.filledMemory();
+        if (memory != nullptr && !memory->isThere()) {
             isAllThere = false;
-        } else if (!leavesOutputs && memory == parameter.filledMemory()) {
-            memory->clear();
+        } else if (filled != nullptr && !leavesOutputs) {
+            filled->clear();
         }
     }
     return isAllThere;

@@ -53,7 +53,7 @@ public:
         appendMember(name, number);
     }
 
-    void output(const NumbersAt &record)
+    void output(const ReadNumbers &record)
     {
         for (const Member &member : record.members()) {
             output(member.name, {member.kind, record.at(member)});
@@ -80,7 +80,7 @@ private:
 
     void append(const ObjectName &object) { appendJsonText(line, object.text); }
 
-    void append(const NumbersAt &record)
+    void append(const ReadNumbers &record)
     {
         char separator{'{'};
         for (const Member &member : record.members()) {

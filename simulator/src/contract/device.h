@@ -20,7 +20,7 @@ public:
 
     bool getFirmwareVersions(veltrix_sdk::FirmwareVersions *versions) override
     {
-        return fill(OperationId::getFirmwareVersions, Field::processorVersion, {versions});
+        return fill(OperationId::getFirmwareVersions, {versions});
     }
     bool startReading() override
     {
@@ -52,11 +52,11 @@ public:
     }
     bool getTemperatures(veltrix_sdk::Temperatures *temperatures) override
     {
-        return fill(OperationId::getTemperatures, Field::sensorMillikelvin, {temperatures});
+        return fill(OperationId::getTemperatures, {temperatures});
     }
     bool getOperatingInfo(veltrix_sdk::OperatingInfo *info) override
     {
-        return fill(OperationId::getOperatingInfo, Field::operatingMinutes, {info});
+        return fill(OperationId::getOperatingInfo, {info});
     }
     std::uint32_t getGsk() override { return get<Field::gsk>(OperationId::getGsk); }
     bool setGsk(std::uint32_t gsk) override { return set(OperationId::setGsk, Field::gsk, {gsk}); }
@@ -149,15 +149,15 @@ public:
     }
     bool configureZoom(const veltrix_sdk::ZoomConfig *zoom) override
     {
-        return set(OperationId::configureZoom, Field::zoomFactor, {zoom});
+        return set(OperationId::configureZoom, {zoom});
     }
     bool getZoomConfig(veltrix_sdk::ZoomConfig *zoom) override
     {
-        return fill(OperationId::getZoomConfig, Field::zoomFactor, {zoom});
+        return fill(OperationId::getZoomConfig, {zoom});
     }
     bool getZoomResolution(veltrix_sdk::ZoomResolution *resolution) override
     {
-        return fill(OperationId::getZoomResolution, Field::zoomXResolution, {resolution});
+        return fill(OperationId::getZoomResolution, {resolution});
     }
     std::uint8_t getContrastType() override { return get<Field::contrastType>(OperationId::getContrastType); }
     bool configureContrastType(std::uint8_t type) override
@@ -171,7 +171,7 @@ public:
     std::uint8_t getColorLut() override { return get<Field::colorLut>(OperationId::getColorLut); }
     std::uint8_t getAhcGainLimitation(veltrix_sdk::AhcGainLimitation *limitation) override
     {
-        return fill<std::uint8_t>(OperationId::getAhcGainLimitation, Field::ahcBlack, {limitation});
+        return fill<std::uint8_t>(OperationId::getAhcGainLimitation, {limitation});
     }
     bool setAhcGainLimitation(std::uint8_t black, std::uint8_t white) override
     {
@@ -224,7 +224,7 @@ public:
     }
     bool getVisibleAgc(veltrix_sdk::VisibleAgc *agc) override
     {
-        return fill(OperationId::getVisibleAgc, Field::visibleAgcTarget, {agc});
+        return fill(OperationId::getVisibleAgc, {agc});
     }
     bool setVisibleClhe(std::int32_t threshold, std::uint8_t filterCoefficient) override
     {
@@ -232,7 +232,7 @@ public:
     }
     bool getVisibleClhe(veltrix_sdk::VisibleClhe *clhe) override
     {
-        return fill(OperationId::getVisibleClhe, Field::visibleClheThreshold, {clhe});
+        return fill(OperationId::getVisibleClhe, {clhe});
     }
     bool setWarp(std::int32_t stream, std::int32_t a11, std::int32_t a21, std::int32_t a12, std::int32_t a22,
                  std::int32_t a13, std::int32_t a23) override

@@ -30,12 +30,16 @@ Field warpField(std::int32_t stream)
 
 } // namespace
 
-void UnitAccess::load(Field first, const NumbersAt &destination)
+void UnitAccess::load(const NumbersAt &record, std::size_t further)
 {
-    std::size_t place{0};
-    for (const Member &member : destination.members()) {
-        destination.set(member, unit()[first + place++]);
+    for (const Member &member : record.members()) {
+        record.set(member, unit()[member.field + further]);
     }
+}
+
+bool UnitAccess::set(OperationId operation, Parameters sent)
+{
+    return set(operation, sent.begin()->memory()->members().begin()->field, sent);
 }
 
 bool UnitAccess::set(OperationId operation, Field first, Parameters parameters)
@@ -60,7 +64,7 @@ veltrix_sdk::EdgeCorrection UnitAccess::getEdge(OperationId operation)
 {
     return call(operation, {}, [&] {
         veltrix_sdk::EdgeCorrection correction{};
-        load(Field::edgeType, NumbersAt{&correction});
+        load(NumbersAt{&correction});
         return correction;
     });
 }
@@ -101,7 +105,7 @@ bool UnitAccess::getWarpOf(OperationId operation, veltrix_sdk::Warp *warp)
     return call(operation, {warp}, [&] {
         const bool known{isWarpStream(warp->stream)};
         if (known) {
-            load(warpField(warp->stream), NumbersAt{warp});
+            load(NumbersAt{warp}, warpField(warp->stream) - Field::warp0A11);
         }
         return known;
     });

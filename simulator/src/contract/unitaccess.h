@@ -57,18 +57,31 @@ protected:
         return call(operation, {}, [&] { return static_cast<TypeOf<rowOf(field).kind>>(unit()[field]); });
     }
 
-    /// A read into the number or the record that is the only parameter, from the fields from `first` on.
+    /// A read of one value into the number that is the only parameter.
     template <typename Result = bool>
-    Result fill(OperationId operation, Field first, Parameters filled)
+    Result fill(OperationId operation, Field field, Parameters filled)
     {
         return call(operation, filled, [&] {
-            load(first, *filled.begin()->filledMemory());
+            const NumbersAt &number = *filled.begin()->filledMemory();
+            number.set(*number.members().begin(), unit()[field]);
+            return Result{1};
+        });
+    }
+
+    /// A read into the record that is the only parameter: its members know their fields.
+    template <typename Result = bool>
+    Result fill(OperationId operation, Parameters filled)
+    {
+        return call(operation, filled, [&] {
+            load(*filled.begin()->filledMemory());
             return Result{1};
         });
     }
 
     /// A write of the numbers that the call brings into the fields from `first` on.
     bool set(OperationId operation, Field first, Parameters parameters);
+    /// A write of the record that is the only parameter.
+    bool set(OperationId operation, Parameters sent);
 
     bool configureEdge(OperationId operation, Parameters parameters);
     veltrix_sdk::EdgeCorrection getEdge(OperationId operation);
@@ -98,8 +111,8 @@ protected:
     }
 
 private:
-    /// Fills a number or a record from the fields from `first` on.
-    void load(Field first, const NumbersAt &destination);
+    /// Fills a record from its fields, or from those that stand so much further.
+    void load(const NumbersAt &record, std::size_t further = 0);
 
     Unit &unit() { return state.addressed(); }
     BadPixelMemory &badPixels() { return unit().badPixels; }

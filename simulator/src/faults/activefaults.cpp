@@ -54,7 +54,7 @@ void demandApplicable(const FaultRule &rule)
     }
 }
 
-PlannedEffect planned(const FaultRule &rule, const Operation &operation, Random random)
+PlannedEffect effectOf(const FaultRule &rule, const Operation &operation, Random random)
 {
     PlannedEffect planned{rule.effect, std::nullopt, false, rule.delay, random};
     const EffectRow &row = rowOf(rule.effect);
@@ -127,8 +127,8 @@ std::optional<PlannedEffect> ActiveFaults::match(OperationId operation, int targ
         return std::nullopt;
     }
     last->fired = true;
-    return planned(last->rule, operationOf(operation),
-                   Random{seed, last->stream + '/' + std::to_string(last->considered)});
+    return effectOf(last->rule, operationOf(operation),
+                    Random{seed, last->stream + '/' + std::to_string(last->considered)});
 }
 
 std::vector<std::string> ActiveFaults::unfired() const

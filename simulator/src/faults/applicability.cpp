@@ -25,7 +25,7 @@ std::string reasonInEffect(const FaultRule &rule, const Operation &operation)
 {
     const EffectRow &row = rowOf(rule.effect);
     return row.fits == nullptr || row.fits(operation) ? std::string{}
-                                                      : quotedName(operation) + ' ' + row.misfit;
+                                                      : quotedName(operation) + ' ' + std::string{row.misfit};
 }
 
 std::string reasonInAnswer(const FaultRule &rule, const Operation &operation)

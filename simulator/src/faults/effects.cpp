@@ -74,29 +74,27 @@ void loseStores(Alterations &alterations, const PlannedEffect & /*planned*/)
     alterations.state.storesAreLost = true;
 }
 
-constexpr std::array<EffectRow, 8> rows{{
-    {Effect::Refuse, "refuse", "", answersSomething, "answers nothing, so it cannot refuse", false, nullptr,
-     nullptr, nullptr},
-    {Effect::Answer, "answer", "answer", nullptr, "", false, answerAsWritten, nullptr, nullptr},
-    {Effect::Stuck, "stuck", "", isCommand, "changes nothing of a unit, so nothing can be stuck", false,
-     acknowledge, nullptr, nullptr},
-    {Effect::Wrong, "wrong", "", readsNumbers, "reads no number, so nothing that it reads can be wrong", true,
-     nullptr, nullptr, makeValuesWrong},
-    {Effect::Garbage, "garbage", "", answersSomething, "answers nothing, so it cannot answer garbage", false,
-     answerGarbage, nullptr, nullptr},
-    {Effect::Late, "late", "delayMilliseconds", isOfDevice,
-     "is no operation of the device, and only those can be late", true, nullptr, nullptr, takeLonger},
-    {Effect::LostOnPowerCycle, "lostOnPowerCycle", "", storesValues,
-     "sets no value of a unit, so nothing can be lost", true, nullptr, nullptr, loseStores},
-    {Effect::CableOut, "cableOut", "", isOfDevice,
-     "is no operation of the device, and only those use the cable", false, nullptr, pullCable, nullptr},
+constexpr EffectRows rows{{
+    {Effect::Refuse, "refuse", answersSomething, "answers nothing, so it cannot refuse"},
+    {Effect::Answer, "answer", nullptr, "", answerAsWritten, nullptr, nullptr, "answer"},
+    {Effect::Stuck, "stuck", isCommand, "changes nothing of a unit, so nothing can be stuck", acknowledge},
+    {Effect::Wrong, "wrong", readsNumbers, "reads no number, so nothing that it reads can be wrong", nullptr,
+     makeValuesWrong},
+    {Effect::Garbage, "garbage", answersSomething, "answers nothing, so it cannot answer garbage",
+     answerGarbage},
+    {Effect::Late, "late", isOfDevice, "is no operation of the device, and only those can be late", nullptr,
+     takeLonger, nullptr, "delayMilliseconds"},
+    {Effect::LostOnPowerCycle, "lostOnPowerCycle", storesValues,
+     "sets no value of a unit, so nothing can be lost", nullptr, loseStores},
+    {Effect::CableOut, "cableOut", isOfDevice, "is no operation of the device, and only those use the cable",
+     nullptr, nullptr, pullCable},
 }};
 
 static_assert(inOrder(rows));
 
 } // namespace
 
-const std::array<EffectRow, 8> &effectRows()
+const EffectRows &effectRows()
 {
     return rows;
 }

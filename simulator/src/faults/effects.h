@@ -27,22 +27,26 @@ struct Alterations
 struct EffectRow
 {
     Effect id;
-    std::string_view name;      ///< In a scenario.
-    std::string_view neededKey; ///< A key without which a fault of this effect says too little; empty: none.
+    std::string_view name; ///< In a scenario.
     /// Whether the effect can happen to the operation; null: to every one.
     bool (*fits)(const Operation &operation);
-    const char *misfit; ///< What an author reads behind the name of an operation that it cannot happen to.
-    bool works;         ///< The call does its work all the same.
+    std::string_view
+        misfit; ///< What an author reads behind the name of an operation that it cannot happen to.
     /// Settles what the call answers in place of its work; null: zeros.
-    void (*answer)(PlannedEffect &planned, const FaultRule &rule, const Operation &operation);
+    void (*answer)(PlannedEffect &planned, const FaultRule &rule, const Operation &operation){nullptr};
+    /// Changes what the work of the call meets; null: the call does not work.
+    void (*alter)(Alterations &alterations, const PlannedEffect &planned){nullptr};
     /// Changes the state as soon as the call is hit, before its time passes; null: nothing.
-    void (*strike)(State &state);
-    /// Changes what the work of the call meets; null: nothing.
-    void (*alter)(Alterations &alterations, const PlannedEffect &planned);
+    void (*strike)(State &state){nullptr};
+    std::string_view neededKey{}; ///< Key that such a fault must have; empty: none.
+
+    constexpr bool works() const { return alter != nullptr; }
 };
 
+using EffectRows = std::array<EffectRow, static_cast<std::size_t>(Effect::count)>;
+
 /// The rows, in the order of Effect.
-const std::array<EffectRow, 8> &effectRows();
+const EffectRows &effectRows();
 
 inline const EffectRow &rowOf(Effect effect)
 {

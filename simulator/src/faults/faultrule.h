@@ -26,6 +26,7 @@ enum class Effect
     Late,             ///< It works, and takes the fault's delay longer.
     LostOnPowerCycle, ///< It works, and what it set is as before when the device is opened again.
     CableOut,         ///< From this call on every device operation refuses, until the device is opened again.
+    count,
 };
 
 /// Restricts a fault to calls with one numeric argument in a range.

@@ -44,8 +44,8 @@ template <typename Parameter>
 void appendArgumentKinds(std::vector<Kind> &kinds)
 {
     using Target = std::remove_const_t<std::remove_pointer_t<Parameter>>;
-    if constexpr (std::is_same_v<Parameter, veltrix_sdk::Warp *>) {
-        appendKinds<decltype(veltrix_sdk::Warp::stream)>(kinds);
+    if constexpr (std::is_same_v<Parameter, Target *> && bringsMember<Target>) {
+        kinds.push_back(broughtKind<Target>());
     } else if constexpr (std::is_same_v<Parameter, const Target *> && isRecord<Target>) {
         appendKinds<Target>(kinds);
     } else if constexpr (std::is_arithmetic_v<Parameter> || std::is_same_v<Parameter, const char *>) {
@@ -54,9 +54,9 @@ void appendArgumentKinds(std::vector<Kind> &kinds)
 }
 
 template <typename Result, typename... Parameters>
-Operation describeCall(OperationId id)
+Operation describeCall(OperationId id, Role role)
 {
-    Operation operation{id, nameOf(id).name, nameOf(id).interface, {}, {}};
+    Operation operation{id, nameOf(id).name, nameOf(id).interface, role, {}, {}};
     appendKinds<Result>(operation.answer);
     (appendFilledKinds<Parameters>(operation.answer), ...);
     (appendArgumentKinds<Parameters>(operation.arguments), ...);
@@ -64,14 +64,9 @@ Operation describeCall(OperationId id)
 }
 
 template <typename Result, typename Object, typename... Parameters>
-Operation describeCall(OperationId id, Result (Object::* /*operation*/)(Parameters...))
+Operation describeCall(OperationId id, Role role, Result (Object::* /*operation*/)(Parameters...))
 {
-    return describeCall<Result, Parameters...>(id);
-}
-
-bool beginsWith(std::string_view text, std::string_view beginning)
-{
-    return text.substr(0, beginning.size()) == beginning;
+    return describeCall<Result, Parameters...>(id, role);
 }
 
 /// Whether the pattern, in which a `*` stands for any characters, covers the whole name.
@@ -104,8 +99,8 @@ bool fits(std::string_view pattern, std::string_view name)
 const std::vector<Operation> &allOperations()
 {
     static const std::vector<Operation> list{
-#define FUNCTION(name, interface, ...) describeCall<__VA_ARGS__>(OperationId::name),
-#define OPERATION(object, name) describeCall(OperationId::name, &veltrix_sdk::object::name),
+#define FUNCTION(name, interface, ...) describeCall<__VA_ARGS__>(OperationId::name, Role::Other),
+#define OPERATION(object, name, role) describeCall(OperationId::name, Role::role, &veltrix_sdk::object::name),
 #include "operations/operations.inc"
     };
     return list;
@@ -135,27 +130,6 @@ std::vector<const Operation *> operationsMatching(std::string_view pattern)
         }
     }
     return matching;
-}
-
-bool readsValues(const Operation &operation)
-{
-    if (operation.interface == Interface::Configuration) {
-        return !operation.answer.empty();
-    }
-    return operation.interface == Interface::Device &&
-           (beginsWith(operation.name, "get") || operation.name == "connect");
-}
-
-bool isCommand(const Operation &operation)
-{
-    return operation.interface == Interface::Device && !readsValues(operation) &&
-           operation.name != "startReading";
-}
-
-bool storesValues(const Operation &operation)
-{
-    return isCommand(operation) && operation.name != "setTarget" &&
-           (beginsWith(operation.name, "set") || beginsWith(operation.name, "configure"));
 }
 
 } // namespace veltrix_simulator

@@ -25,7 +25,7 @@ namespace veltrix_simulator
 enum class OperationId : std::size_t
 {
 #define FUNCTION(name, ...) name,
-#define OPERATION(object, name) name,
+#define OPERATION(object, name, role) name,
 #include "operations/operations.inc"
     count,
 };
@@ -49,7 +49,7 @@ struct OperationName
 
 inline constexpr OperationName operationNames[]{
 #define FUNCTION(name, interface, ...) {#name, Interface::interface},
-#define OPERATION(object, name) {#name, interfaceOf<veltrix_sdk::object>},
+#define OPERATION(object, name, role) {#name, interfaceOf<veltrix_sdk::object>},
 #include "operations/operations.inc"
 };
 
@@ -58,12 +58,23 @@ constexpr const OperationName &nameOf(OperationId id)
     return operationNames[static_cast<std::size_t>(id)];
 }
 
+/// What an operation does to values.
+enum class Role
+{
+    Reads,    ///< What it answers is a value of a unit or of the configuration.
+    Stores,   ///< It stores what it brings as values of a unit, and answers only whether it did.
+    Commands, ///< It changes a unit or the local table of bad pixels otherwise, and answers only whether it
+              ///< did.
+    Other,
+};
+
 /// An operation with what it takes and answers.
 struct Operation
 {
     OperationId id;
     std::string_view name;
     Interface interface;
+    Role role;
     /// Its result, if it has one, then the members of its out-parameters or of the record it returns.
     std::vector<Kind> answer;
     /// The numbers and texts that a call brings, the members of a record in its place.
@@ -83,11 +94,20 @@ const Operation *findOperation(std::string_view name);
 /// the order of the contract, empty when there are none.
 std::vector<const Operation *> operationsMatching(std::string_view pattern);
 
-/// Whether what it answers is read from a unit or from the configuration.
-bool readsValues(const Operation &operation);
+inline bool readsValues(const Operation &operation)
+{
+    return operation.role == Role::Reads;
+}
+
+inline bool storesValues(const Operation &operation)
+{
+    return operation.role == Role::Stores;
+}
+
 /// Whether it changes a unit or the local table of bad pixels, and answers only whether it did.
-bool isCommand(const Operation &operation);
-/// Whether it is a command that stores what it brings as values of the unit.
-bool storesValues(const Operation &operation);
+inline bool isCommand(const Operation &operation)
+{
+    return storesValues(operation) || operation.role == Role::Commands;
+}
 
 } // namespace veltrix_simulator

@@ -11,6 +11,7 @@
 #include <string_view>
 #include <tuple>
 #include <type_traits>
+#include <utility>
 
 namespace veltrix_simulator
 {
@@ -25,6 +26,23 @@ using Records =
 /// Whether the contract exchanges this type as a record.
 template <typename T>
 inline constexpr bool isRecord = placeAmong<T, Records> < std::tuple_size_v<Records>;
+
+/// The member of a record that the caller fills in before the call fills in the others; null where there is
+/// none.
+template <typename Record>
+inline constexpr std::nullptr_t broughtMember{nullptr};
+template <>
+inline constexpr auto broughtMember<veltrix_sdk::Warp> = &veltrix_sdk::Warp::stream;
+
+template <typename Record>
+inline constexpr bool bringsMember =
+    !std::is_null_pointer_v<std::remove_const_t<decltype(broughtMember<Record>)>>;
+
+template <typename Record>
+constexpr Kind broughtKind()
+{
+    return kindOf<std::decay_t<decltype(std::declval<Record>().*broughtMember<Record>)>>();
+}
 
 /// One member of a record.
 struct Member
@@ -60,7 +78,7 @@ struct Members
     constexpr const Member *end() const { return first + count; }
 };
 
-/// The members of a record. The stream of Warp is not among them: the caller fills it in.
+/// The members of a record that a call fills in or reads.
 template <typename Record>
 constexpr Members membersOf()
 {
@@ -96,13 +114,21 @@ constexpr bool holdsAllOf(std::size_t offset)
     return (offset + alignment - 1) / alignment * alignment == sizeof(Record);
 }
 
+/// The bytes of the member that the caller brings, which stands first.
+template <typename Record>
+constexpr std::size_t broughtSize()
+{
+    if constexpr (bringsMember<Record>) {
+        return sizeof(std::declval<Record>().*broughtMember<Record>);
+    } else {
+        return 0;
+    }
+}
+
 template <typename... Each>
 constexpr bool holdsAllOfEach(const std::tuple<Each...> * /*records*/)
 {
-    // A warp matrix begins behind its stream.
-    return (
-        holdsAllOf<Each>(std::is_same_v<Each, veltrix_sdk::Warp> ? sizeof(veltrix_sdk::Warp::stream) : 0) &&
-        ...);
+    return (holdsAllOf<Each>(broughtSize<Each>()) && ...);
 }
 
 static_assert(holdsAllOfEach(static_cast<const Records *>(nullptr)));

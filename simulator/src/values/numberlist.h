@@ -29,7 +29,7 @@ public:
     const double *end() const { return begin() + count; }
 
 private:
-    std::array<double, capacity> numbers; // Set as far as `count` says: a call is too short to clear them.
+    std::array<double, capacity> numbers{};
     std::size_t count{0};
 };
 
