@@ -267,6 +267,9 @@ void ScenarioErrorsTest::fileIsRefusedWith_data()
             R"("camera.identity"?)");
     refuses("drift without an end", "[[life.drift]]\nkey = \"camera.gamma\"\nhalfTimeSeconds = 1",
             R"(flaky.toml:1:1: "life.drift" lacks "end")");
+    refuses("drift to an integer that a double cannot hold",
+            "[[life.drift]]\nkey = \"camera.gamma\"\nend = 9007199254740993\nhalfTimeSeconds = 1",
+            R"(flaky.toml:3:7: "life.drift.end" takes a number from -1e+300 to 1e+300)");
     refuses("drift to nowhere", "[[life.drift]]\nkey = \"camera.gamma\"\nend = -1\nhalfTimeSeconds = 1",
             R"(flaky.toml:3:7: "life.drift.end" takes an integer from 0 to 4294967295)");
     refuses("drift that is one table", "[life.drift]\nkey = \"camera.gamma\"",

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
+#include <locale>
 #include <sstream>
 #include <tuple>
 
@@ -25,16 +27,37 @@ std::string range(double minimum, double maximum)
     return text.str();
 }
 
-bool stands(const toml::node &node, const toml::node &before)
+/// A number, also one without a point. An integer that a double may not hold exactly is none.
+std::optional<double> toDouble(const TomlNode &node)
 {
-    const toml::source_position &here = node.source().begin;
-    const toml::source_position &there = before.source().begin;
+    if (const auto *const number = node.as<double>()) {
+        return *number;
+    }
+    constexpr std::int64_t lastExact{std::int64_t{1} << std::numeric_limits<double>::digits};
+    const auto *const integer = node.as<std::int64_t>();
+    if (integer == nullptr || *integer < -lastExact || *integer > lastExact) {
+        return std::nullopt;
+    }
+    return static_cast<double>(*integer);
+}
+
+const TomlMember *findMember(const TomlNode::Table &table, std::string_view key)
+{
+    const auto found =
+        std::find_if(table.begin(), table.end(), [&](const TomlMember &member) { return member.key == key; });
+    return found == table.end() ? nullptr : &*found;
+}
+
+bool stands(const TomlNode &node, const TomlNode &before)
+{
+    const TomlPosition &here = node.position;
+    const TomlPosition &there = before.position;
     return std::tie(here.line, here.column) > std::tie(there.line, there.column);
 }
 
 } // namespace
 
-void Entry::failAt(const toml::source_position &position, std::string text) const
+void Entry::failAt(const TomlPosition &position, std::string text) const
 {
     throw ScenarioError{*file, std::max<std::size_t>(position.line, 1),
                         std::max<std::size_t>(position.column, 1), path, std::move(text)};
@@ -42,30 +65,30 @@ void Entry::failAt(const toml::source_position &position, std::string text) cons
 
 void Entry::fail(std::string text) const
 {
-    failAt(node->source().begin, std::move(text));
+    failAt(node->position, std::move(text));
 }
 
 bool Entry::boolean() const
 {
-    const auto *const boolean = node->as_boolean();
+    const auto *const boolean = node->as<bool>();
     if (boolean == nullptr) {
         fail("takes true or false");
     }
-    return boolean->get();
+    return *boolean;
 }
 
 std::int64_t Entry::integer(std::int64_t minimum, std::int64_t maximum) const
 {
-    const auto *const integer = node->as_integer();
-    if (integer == nullptr || integer->get() < minimum || integer->get() > maximum) {
+    const auto *const integer = node->as<std::int64_t>();
+    if (integer == nullptr || *integer < minimum || *integer > maximum) {
         fail("takes an integer from " + std::to_string(minimum) + " to " + std::to_string(maximum));
     }
-    return integer->get();
+    return *integer;
 }
 
 double Entry::number(double minimum, double maximum) const
 {
-    const std::optional<double> number = node->is_number() ? node->value<double>() : std::optional<double>{};
+    const std::optional<double> number = toDouble(*node);
     // Negated, so that NaN is out of range.
     if (!number || !(*number >= minimum && *number <= maximum)) {
         fail("takes a number" + range(minimum, maximum));
@@ -85,54 +108,53 @@ std::chrono::microseconds Entry::seconds(double minimum, double maximum) const
 
 std::string Entry::text() const
 {
-    const auto *const text = node->as_string();
-    if (text == nullptr || text->get().empty() ||
-        std::any_of(text->get().begin(), text->get().end(), isControl)) {
+    const auto *const text = node->as<std::string>();
+    if (text == nullptr || text->empty() || std::any_of(text->begin(), text->end(), isControl)) {
         fail("takes a text that is not empty and of one line");
     }
-    return text->get();
+    return *text;
 }
 
 std::size_t Entry::choice(const std::vector<std::string> &names) const
 {
-    const auto *const text = node->as_string();
+    const auto *const text = node->as<std::string>();
     if (text == nullptr) {
         fail("takes " + alternatives(names));
     }
-    const auto found = std::find(names.begin(), names.end(), text->get());
+    const auto found = std::find(names.begin(), names.end(), *text);
     if (found == names.end()) {
-        fail("takes " + alternatives(names) + ", not " + inQuotes(text->get()));
+        fail("takes " + alternatives(names) + ", not " + inQuotes(*text));
     }
     return static_cast<std::size_t>(found - names.begin());
 }
 
 std::optional<Value> Entry::value() const
 {
-    if (const auto *const boolean = node->as_boolean()) {
-        return boolean->get();
+    if (const auto *const boolean = node->as<bool>()) {
+        return *boolean;
     }
-    if (const auto *const integer = node->as_integer()) {
-        return integer->get();
+    if (const auto *const integer = node->as<std::int64_t>()) {
+        return *integer;
     }
-    if (const auto *const number = node->as_floating_point()) {
-        return number->get();
+    if (const auto *const number = node->as<double>()) {
+        return *number;
     }
     // Texts of the contract end at the first NUL, so none may stand inside one.
-    if (const auto *const text = node->as_string();
-        text != nullptr && text->get().find('\0') == std::string::npos) {
-        return text->get();
+    if (const auto *const text = node->as<std::string>();
+        text != nullptr && text->find('\0') == std::string::npos) {
+        return *text;
     }
     return std::nullopt;
 }
 
 std::vector<Entry> Entry::elements() const
 {
-    const auto *const array = node->as_array();
-    if (array == nullptr) {
+    const auto *const list = node->as<TomlNode::List>();
+    if (list == nullptr) {
         fail("takes a list");
     }
     std::vector<Entry> elements;
-    for (const toml::node &element : *array) {
+    for (const TomlNode &element : *list) {
         elements.emplace_back(element, path, *file);
     }
     return elements;
@@ -140,25 +162,25 @@ std::vector<Entry> Entry::elements() const
 
 std::vector<Entry> Entry::entries() const
 {
-    const auto *const table = node->as_table();
+    const auto *const table = node->as<TomlNode::Table>();
     if (table == nullptr) {
         fail("takes a table");
     }
     std::vector<Entry> entries;
-    for (const auto &[key, child] : *table) {
-        entries.push_back(under(key, child));
+    for (const TomlMember &member : *table) {
+        entries.push_back(under(member));
     }
     return entries;
 }
 
 std::optional<Entry> Entry::find(std::string_view key) const
 {
-    const auto *const table = node->as_table();
+    const auto *const table = node->as<TomlNode::Table>();
     if (table == nullptr) {
         fail("takes a table");
     }
-    const auto found = table->find(key);
-    return found == table->end() ? std::nullopt : std::optional{under(found->first, found->second)};
+    const TomlMember *const found = findMember(*table, key);
+    return found == nullptr ? std::nullopt : std::optional{under(*found)};
 }
 
 void Entry::refuseUnknown(const std::vector<std::string> &known) const
@@ -173,9 +195,8 @@ void Entry::refuseUnknown(const std::vector<std::string> &known) const
 
 void Entry::failUnknown(std::string_view key, const std::vector<std::string> &known) const
 {
-    const auto found = node->as_table()->find(key);
-    under(found->first, found->second)
-        .failAt(found->first.source().begin, "is unknown here" + suggestion(key, known));
+    const TomlMember &member = *findMember(*node->as<TomlNode::Table>(), key);
+    under(member).failAt(member.keyPosition, "is unknown here" + suggestion(key, known));
 }
 
 void Entry::refuseStrangers(std::string_view chooser, std::string_view chosen,
@@ -219,12 +240,12 @@ void Entry::demandOneOf(const std::vector<std::string> &keys) const
 
 std::string Entry::origin() const
 {
-    return *file + ':' + std::to_string(node->source().begin.line);
+    return *file + ':' + std::to_string(node->position.line);
 }
 
-Entry Entry::under(const toml::key &key, const toml::node &child) const
+Entry Entry::under(const TomlMember &member) const
 {
-    return {child, path.empty() ? std::string{key.str()} : path + '.' + std::string{key.str()}, *file};
+    return {member.node, path.empty() ? member.key : path + '.' + member.key, *file};
 }
 
 } // namespace veltrix_simulator

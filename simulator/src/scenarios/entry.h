@@ -32,7 +32,7 @@ struct Belonging
 class Entry
 {
 public:
-    Entry(const toml::node &itsNode, std::string itsPath, const std::string &itsFile)
+    Entry(const TomlNode &itsNode, std::string itsPath, const std::string &itsFile)
         : node{&itsNode}, path{std::move(itsPath)}, file{&itsFile}
     {}
 
@@ -51,7 +51,7 @@ public:
     /// A bool, an integer, a number or a text.
     std::optional<Value> value() const;
 
-    bool isList() const { return node->is_array(); }
+    bool isList() const { return node->as<TomlNode::List>() != nullptr; }
     /// The elements of an array, each under the key of the array.
     std::vector<Entry> elements() const;
     /// The entries of a table.
@@ -76,10 +76,10 @@ public:
     std::string origin() const;
 
 private:
-    [[noreturn]] void failAt(const toml::source_position &position, std::string text) const;
-    Entry under(const toml::key &key, const toml::node &child) const;
+    [[noreturn]] void failAt(const TomlPosition &position, std::string text) const;
+    Entry under(const TomlMember &member) const;
 
-    const toml::node *node;
+    const TomlNode *node;
     std::string path;
     const std::string *file;
 };

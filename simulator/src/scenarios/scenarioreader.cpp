@@ -307,14 +307,14 @@ std::variant<Scenario, ScenarioError> readScenario(std::string_view text, const 
     if (std::optional<ScenarioError> error = sizeError(text, fileName)) {
         return *std::move(error);
     }
-    const std::variant<toml::table, TomlError> parsed = parseToml(text);
+    const std::variant<TomlNode, TomlError> parsed = parseToml(text);
     if (const auto *const error = std::get_if<TomlError>(&parsed)) {
-        return ScenarioError{
-            fileName, error->line, error->column, {}, "this is not TOML: " + oneLine(error->reason, 200)};
+        const auto &[line, column] = error->position;
+        return ScenarioError{fileName, line, column, {}, "this is not TOML: " + oneLine(error->reason, 200)};
     }
     try {
         Scenario scenario;
-        const Entry file{std::get<toml::table>(parsed), {}, fileName};
+        const Entry file{std::get<TomlNode>(parsed), {}, fileName};
         readTable(file, scenarioSettings, scenario);
         refuseLifeWithoutTime(file, scenario);
         return scenario;
