@@ -1,18 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// The main function of every test program: runs one of its test classes, or all of them.
+// What every test program does: runs one of its test classes, or all of them.
 //
 // tst_mainwindow                                    every class, one after the other
 // tst_mainwindow tst_bad_pixels [ARGUMENT...]       one class; the arguments are Qt Test's
 // tst_mainwindow --entries NAME...                  whether these entries of CTest run everything once
+#include "testrunner.h"
+
 #include "testclass.h"
 
-#ifdef PILOTEL_TESTS_WINDOWS
-#include <QApplication>
-#else
-#include <QCoreApplication>
-#endif
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QMap>
 #include <QMetaMethod>
@@ -131,13 +129,8 @@ const TestClass *TestClass::last() noexcept
     return lastRegistered;
 }
 
-int main(int argc, char *argv[])
+int runTests()
 {
-#ifdef PILOTEL_TESTS_WINDOWS
-    const QApplication application{argc, argv};
-#else
-    const QCoreApplication application{argc, argv};
-#endif
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi, true);
 
     const QStringList arguments{QCoreApplication::arguments()};
