@@ -103,6 +103,11 @@ std::string enumeration(const std::vector<std::string> &names)
     return joined(names, " and ");
 }
 
+bool isOneOf(std::string_view name, const std::vector<std::string> &names)
+{
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
 std::string nearest(std::string_view wrong, const std::vector<std::string> &known)
 {
     // With more than one wrong letter in three a name is not alike any more.

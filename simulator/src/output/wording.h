@@ -25,6 +25,9 @@ std::string inQuotes(std::string_view text);
 std::string alternatives(const std::vector<std::string> &names);
 std::string enumeration(const std::vector<std::string> &names);
 
+/// Whether the name is one of these.
+bool isOneOf(std::string_view name, const std::vector<std::string> &names);
+
 /// The known name that is most like the wrong one; empty when none is like it.
 std::string nearest(std::string_view wrong, const std::vector<std::string> &known);
 

@@ -187,7 +187,7 @@ void Entry::refuseUnknown(const std::vector<std::string> &known) const
 {
     for (const Entry &entry : entries()) {
         const std::string_view key = std::string_view{entry.path}.substr(path.empty() ? 0 : path.size() + 1);
-        if (std::find(known.begin(), known.end(), key) == known.end()) {
+        if (!isOneOf(key, known)) {
             failUnknown(key, known);
         }
     }
@@ -210,7 +210,7 @@ void Entry::refuseStrangers(std::string_view chooser, std::string_view chosen,
             }
         }
         const std::optional<Entry> entry = find(belonging.key);
-        if (entry && std::find(choices.begin(), choices.end(), chosen) == choices.end()) {
+        if (entry && !isOneOf(chosen, choices)) {
             entry->fail("belongs to " + std::string{chooser} + ' ' + alternatives(choices) + ", not to " +
                         inQuotes(chosen));
         }

@@ -8,7 +8,6 @@
 #include "veltrix_sdk/numbers.h"
 #include "veltrix_simulator/simulator.h"
 
-#include <algorithm>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -33,7 +32,7 @@ std::vector<std::string> keysBehind(const std::string &path)
         }
         const std::string rest = key.substr(path.size() + 1);
         const std::string next = rest.substr(0, rest.find('.'));
-        if (std::find(keys.begin(), keys.end(), next) == keys.end()) {
+        if (!isOneOf(next, keys)) {
             keys.push_back(next);
         }
     }
@@ -109,7 +108,7 @@ Kind kindOfNumber(const Entry &entry)
             known.push_back(std::move(each));
         }
     }
-    if (std::find(known.begin(), known.end(), key) == known.end()) {
+    if (!isOneOf(key, known)) {
         entry.fail("knows no number of a unit " + inQuotes(key) + suggestion(key, known));
     }
     return *State::kindAt(key);
