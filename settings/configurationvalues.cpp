@@ -25,9 +25,8 @@ using ConfigurationRows = std::vector<ConfigurationValue>;
 
 const char *const prefix{"configuration."};
 
-/// The default of CLHE reaches less far than CLHE itself.
-constexpr Range clheDefaultRange{0, 10000};
-/// The default of the edge correction's gain counts the steps of its slider.
+/// The default of the edge correction's gain counts the steps of the window's slider, so many for each step
+/// of the device.
 constexpr std::int32_t stepsOfGain{10};
 
 /// Name and call of an operation of the configuration.

@@ -40,11 +40,39 @@ inline constexpr std::int32_t fixedPointOne{65536};
 inline constexpr std::uint32_t sensorColumns{640};
 inline constexpr std::uint32_t sensorRows{480};
 
-/// The regions of interest and the video streams that have a warp matrix.
+/// The regions of interest.
 inline constexpr std::uint32_t regionCount{4};
+
+/// The regions as getRoiX1, getRoiX2, getRoiY1 and getRoiY2 number them.
+namespace getter_region
+{
+inline constexpr std::uint32_t roi0Inclusive{0};
+inline constexpr std::uint32_t roi0Exclusive{1};
+inline constexpr std::uint32_t roi1Inclusive{2};
+inline constexpr std::uint32_t roi1Exclusive{3};
+} // namespace getter_region
+
+/// The regions as setRoiX1, setRoiX2, setRoiY1 and setRoiY2 number them: 1 and 2 are exchanged.
+namespace setter_region
+{
+inline constexpr std::int32_t roi0Inclusive{0};
+inline constexpr std::int32_t roi1Inclusive{1};
+inline constexpr std::int32_t roi0Exclusive{2};
+inline constexpr std::int32_t roi1Exclusive{3};
+} // namespace setter_region
+
+/// The video streams that have a warp matrix.
 inline constexpr std::int32_t warpStreamCount{3};
 
-// Indices of lists; device_control.h and records.h say what each stands for.
+/// The video modes: which picture is shown.
+inline constexpr std::uint8_t videoModeInfrared{0};
+inline constexpr std::uint8_t videoModeVisible{1};
+inline constexpr std::uint8_t videoModeFusion{2};
+
+/// Contrast by CLHE over the regions of interest; any other type is CLAHE.
+inline constexpr std::uint8_t contrastTypeClhe{0};
+
+// Indices of lists; the names above, device_control.h and records.h say what each stands for.
 inline constexpr Range videoOutputRange{0, 8};
 inline constexpr Range edgeTypeRange{0, 2};
 inline constexpr Range zoomMethodRange{0, 1};
@@ -56,6 +84,8 @@ inline constexpr Range startingModeRange{0, 3};
 /// 16.16 fixed point: 0.5 to 2.5.
 inline constexpr Range gammaRange{fixedPointOne / 2, fixedPointOne * 5 / 2};
 inline constexpr Range clheRange{0, 30000};
+/// The default of CLHE reaches less far than CLHE itself.
+inline constexpr Range clheDefaultRange{0, 10000};
 inline constexpr Range lutTemporalFilterRange{0, 8};
 /// Percent.
 inline constexpr Range ahcGainLimitRange{0, 100};
