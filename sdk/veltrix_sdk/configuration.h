@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// The SDK's configuration: link, expert mode and the default of every image parameter.
+// The SDK's configuration: link, expert mode and the default of every image parameter. Names of numbers and
+// of ranges are those of numbers.h.
 #pragma once
 
 #include "veltrix_sdk/records.h"
@@ -25,7 +26,7 @@ private:
     virtual void kept6() {}
 
 public:
-    virtual std::int32_t getDefaultBaudRate() = 0; ///< 7: Baud of the serial link.
+    virtual std::int32_t getDefaultBaudRate() = 0; ///< 7: Baud of the serial link: one of linkBaudRates.
 
 private:
     virtual void kept8() {}
@@ -35,26 +36,26 @@ private:
     virtual void kept12() {}
 
 public:
-    /// 13: Link kind, NUL-terminated, owned by the SDK, such as "UART".
+    /// 13: Link kind, NUL-terminated, owned by the SDK, such as uartCommunication.
     virtual const char *getCommunicationType() = 0;
 
 private:
     virtual void kept14() {}
 
 public:
-    virtual double getDefaultGamma() = 0;              ///< 15: 0.5 to 2.5.
-    virtual double getDefaultClhe() = 0;               ///< 16: 0 to 10000.
-    virtual double getDefaultSharpeningGain() = 0;     ///< 17: In steps of the gain slider.
-    virtual std::int32_t getDefaultGsk() = 0;          ///< 18
-    virtual std::int32_t getDefaultGfid() = 0;         ///< 19
-    virtual std::int32_t getDefaultTint() = 0;         ///< 20
-    virtual std::int32_t getDefaultGms() = 0;          ///< 21
-    virtual double getDefaultRoi0IncX1() = 0;          ///< 22: Pixels.
-    virtual double getDefaultRoi0IncY1() = 0;          ///< 23: Pixels.
-    virtual double getDefaultRoi0IncX2() = 0;          ///< 24: Pixels.
-    virtual double getDefaultRoi0IncY2() = 0;          ///< 25: Pixels.
-    virtual std::uint8_t getDefaultContrastType() = 0; ///< 26: Index: CLHE, CLAHE.
-    virtual std::uint8_t getDefaultColorLut() = 0;     ///< 27: Index of the colour table, 0 to 7.
+    virtual double getDefaultGamma() = 0;          ///< 15: Not in fixed point: gammaRange over fixedPointOne.
+    virtual double getDefaultClhe() = 0;           ///< 16: clheDefaultRange.
+    virtual double getDefaultSharpeningGain() = 0; ///< 17: In steps of the gain slider.
+    virtual std::int32_t getDefaultGsk() = 0;      ///< 18
+    virtual std::int32_t getDefaultGfid() = 0;     ///< 19
+    virtual std::int32_t getDefaultTint() = 0;     ///< 20
+    virtual std::int32_t getDefaultGms() = 0;      ///< 21
+    virtual double getDefaultRoi0IncX1() = 0;      ///< 22: Pixels.
+    virtual double getDefaultRoi0IncY1() = 0;      ///< 23: Pixels.
+    virtual double getDefaultRoi0IncX2() = 0;      ///< 24: Pixels.
+    virtual double getDefaultRoi0IncY2() = 0;      ///< 25: Pixels.
+    virtual std::uint8_t getDefaultContrastType() = 0; ///< 26: contrastTypeClhe, or CLAHE.
+    virtual std::uint8_t getDefaultColorLut() = 0;     ///< 27: Colour table: colorLutRange.
     virtual bool getDefaultPolarity() = 0;             ///< 28: True: inverted.
 
 private:
@@ -70,16 +71,16 @@ public:
     virtual bool getDefaultVerticalFlip() = 0;                 ///< 36
     virtual bool getDefaultVignettingCorrection() = 0;         ///< 37
     virtual bool getDefaultColumnCorrection() = 0;             ///< 38
-    virtual std::uint8_t getDefaultFrameRate() = 0;            ///< 39: Hertz: 9, 25, 30, 50 or 60.
+    virtual std::uint8_t getDefaultFrameRate() = 0;            ///< 39: One of frameRatesHz.
     virtual std::uint8_t getDefaultEdgeCorrectionType() = 0;   ///< 40: Index: none, sharpening, contouring.
-    virtual std::uint32_t getDefaultSharpeningGainValue() = 0; ///< 41: 0 to 1024.
-    virtual std::uint32_t getDefaultSharpeningThreshold() = 0; ///< 42: 0 to 255.
+    virtual std::uint32_t getDefaultSharpeningGainValue() = 0; ///< 41: edgeGainRange.
+    virtual std::uint32_t getDefaultSharpeningThreshold() = 0; ///< 42: edgeThresholdRange.
 
 private:
     virtual void kept43() {}
 
 public:
-    virtual std::uint8_t getDefaultVideoOutput() = 0; ///< 44: Index of the processing stage, 0 to 8.
+    virtual std::uint8_t getDefaultVideoOutput() = 0; ///< 44: Processing stage: videoOutputRange.
     virtual bool getDefaultSdiOutput() = 0;           ///< 45
     virtual bool getDefaultParallelOutput() = 0;      ///< 46
     virtual bool getDefaultMipiOutput() = 0;          ///< 47
@@ -103,9 +104,9 @@ public:
     virtual double getDefaultRoi1ExcY1() = 0;               ///< 61: Pixels.
     virtual double getDefaultRoi1ExcX2() = 0;               ///< 62: Pixels.
     virtual double getDefaultRoi1ExcY2() = 0;               ///< 63: Pixels.
-    virtual std::uint8_t getDefaultTempoFilter() = 0;       ///< 64: 0 to 8.
-    virtual std::uint8_t getDefaultAhcBlackGainLimit() = 0; ///< 65: 0 to 100.
-    virtual std::uint8_t getDefaultAhcWhiteGainLimit() = 0; ///< 66: 0 to 100.
+    virtual std::uint8_t getDefaultTempoFilter() = 0;       ///< 64: lutTemporalFilterRange.
+    virtual std::uint8_t getDefaultAhcBlackGainLimit() = 0; ///< 65: ahcGainLimitRange.
+    virtual std::uint8_t getDefaultAhcWhiteGainLimit() = 0; ///< 66: ahcGainLimitRange.
     virtual bool isExpertMode() = 0;                        ///< 67: True: expert mode is granted.
     virtual void setBaudRate(std::int32_t baudRate) = 0; ///< 68: Baud that the SDK uses for the serial link.
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// The SDK's device interface: one connected camera with its Blend Unit.
+// The SDK's device interface: one connected camera with its Blend Unit. Names of numbers and of ranges are
+// those of numbers.h.
 #pragma once
 
 #include "veltrix_sdk/records.h"
@@ -24,13 +25,13 @@ private:
 public:
     virtual bool getFirmwareVersions(FirmwareVersions *versions) = 0; ///< 3: Both words 0: no answer.
     virtual bool startReading() = 0; ///< 4: Once, after the version check, before the other reads.
-    /// 5: Pixels; 0 ROI0 inc, 1 ROI0 exc, 2 ROI1 inc, 3 ROI1 exc.
+    /// 5: Pixels; the region is one of getter_region.
     virtual std::uint32_t getRoiX1(std::uint32_t region) = 0;
-    /// 6: Pixels; 0 ROI0 inc, 1 ROI0 exc, 2 ROI1 inc, 3 ROI1 exc.
+    /// 6: Pixels; the region is one of getter_region.
     virtual std::uint32_t getRoiX2(std::uint32_t region) = 0;
-    /// 7: Pixels; 0 ROI0 inc, 1 ROI0 exc, 2 ROI1 inc, 3 ROI1 exc.
+    /// 7: Pixels; the region is one of getter_region.
     virtual std::uint32_t getRoiY1(std::uint32_t region) = 0;
-    /// 8: Pixels; 0 ROI0 inc, 1 ROI0 exc, 2 ROI1 inc, 3 ROI1 exc.
+    /// 8: Pixels; the region is one of getter_region.
     virtual std::uint32_t getRoiY2(std::uint32_t region) = 0;
     virtual std::uint32_t getSerialNumber() = 0;       ///< 9
     virtual std::uint32_t getSensorSerialNumber() = 0; ///< 10
@@ -81,13 +82,13 @@ public:
     virtual bool getParallelOutput() = 0;                 ///< 43
     virtual bool setMipiOutput(bool enabled) = 0;         ///< 44
     virtual bool getMipiOutput() = 0;                     ///< 45
-    virtual bool setFrameRate(std::uint8_t hertz) = 0;    ///< 46: 9, 25, 30, 50 or 60.
+    virtual bool setFrameRate(std::uint8_t hertz) = 0;    ///< 46: One of frameRatesHz.
     virtual std::uint8_t getFrameRate() = 0;              ///< 47: Hertz.
-    virtual bool setVideoOutput(std::uint8_t output) = 0; ///< 48: Index of the processing stage, 0 to 8.
+    virtual bool setVideoOutput(std::uint8_t output) = 0; ///< 48: Processing stage: videoOutputRange.
     virtual std::uint8_t getVideoOutput() = 0;            ///< 49
-    /// 50: Permanent: kept over a power cycle.
+    /// 50: One of mavlinkBaudRates. Permanent: kept over a power cycle.
     virtual bool setMavlinkBaudRate(std::int32_t baudRate, bool permanent) = 0;
-    /// 51: The type is an index, 0 to 2; gain and threshold are unscaled.
+    /// 51: edgeTypeRange, edgeGainRange, edgeThresholdRange; gain and threshold are unscaled.
     virtual bool configureEdgeCorrection(std::uint8_t type, std::uint32_t gain, std::uint32_t threshold) = 0;
     virtual EdgeCorrection getEdgeCorrection() = 0; ///< 52
 
@@ -104,16 +105,16 @@ private:
     virtual void kept58() {}
 
 public:
-    virtual std::uint8_t getContrastType() = 0;                ///< 59: 0 CLHE, otherwise CLAHE.
+    virtual std::uint8_t getContrastType() = 0;                ///< 59: contrastTypeClhe, or CLAHE.
     virtual bool configureContrastType(std::uint8_t type) = 0; ///< 60
-    virtual bool setColorLut(std::uint8_t lut) = 0;            ///< 61: Index of the colour table, 0 to 7.
+    virtual bool setColorLut(std::uint8_t lut) = 0;            ///< 61: Colour table: colorLutRange.
     virtual std::uint8_t getColorLut() = 0;                    ///< 62
     virtual std::uint8_t getAhcGainLimitation(AhcGainLimitation *limitation) = 0;  ///< 63: Only 1 is success.
-    virtual bool setAhcGainLimitation(std::uint8_t black, std::uint8_t white) = 0; ///< 64: 0 to 100 each.
+    virtual bool setAhcGainLimitation(std::uint8_t black, std::uint8_t white) = 0; ///< 64: ahcGainLimitRange.
     virtual std::uint8_t getLutTemporalFilter() = 0;                               ///< 65
-    virtual bool setLutTemporalFilter(std::uint8_t filter) = 0;                    ///< 66: 0 to 8.
-    virtual std::uint32_t getBitStatus() = 0; ///< 67: Built-in test word.
-    /// 68: Only 1 is success; a KR camera identifies itself as 21.
+    virtual bool setLutTemporalFilter(std::uint8_t filter) = 0; ///< 66: lutTemporalFilterRange.
+    virtual std::uint32_t getBitStatus() = 0;                   ///< 67: Built-in test word.
+    /// 68: Only 1 is success; a KR camera answers krIdentity.
     virtual std::uint8_t connect(std::uint8_t *identity) = 0;
 
 private:
@@ -124,23 +125,25 @@ public:
     virtual bool readBprTable(std::uint32_t first, std::uint32_t second, std::uint8_t code) = 0;
     /// 71: Takes bprFirstNumber, bprSecondNumber and bprWriteCode.
     virtual bool writeBprTable(std::uint32_t first, std::uint32_t second, std::uint8_t code) = 0;
-    virtual bool addBadPixel(std::uint32_t column, std::uint32_t row) = 0;    ///< 72: 0 to 639, 0 to 479.
-    virtual bool removeBadPixel(std::uint32_t column, std::uint32_t row) = 0; ///< 73: 0 to 639, 0 to 479.
-    virtual bool setVideoMode(std::uint8_t mode) = 0;  ///< 74: 0 infrared, 1 visible, 2 fusion.
+    /// 72: Less than sensorColumns and sensorRows.
+    virtual bool addBadPixel(std::uint32_t column, std::uint32_t row) = 0;
+    /// 73: Less than sensorColumns and sensorRows.
+    virtual bool removeBadPixel(std::uint32_t column, std::uint32_t row) = 0;
+    virtual bool setVideoMode(std::uint8_t mode) = 0;  ///< 74: One of the video modes.
     virtual bool getVideoMode(std::uint8_t *mode) = 0; ///< 75
-    virtual bool setTarget(std::int32_t target) = 0;   ///< 76: 0 the Blend Unit, 1 the camera.
+    virtual bool setTarget(std::int32_t target) = 0;   ///< 76: targetBlendUnit or targetCamera.
     /// 77: Percent each.
     virtual bool setVisibleAgc(std::int32_t target, std::uint8_t threshold,
                                std::uint8_t filterCoefficient) = 0;
     virtual bool getVisibleAgc(VisibleAgc *agc) = 0; ///< 78
-    /// 79: Threshold 0 to 65535, coefficient in percent.
+    /// 79: visibleClheThresholdRange; the coefficient in percent.
     virtual bool setVisibleClhe(std::int32_t threshold, std::uint8_t filterCoefficient) = 0;
     virtual bool getVisibleClhe(VisibleClhe *clhe) = 0; ///< 80
-    /// 81: The matrix column by column, in whole numbers; 0 fusion, 1 visible, 2 infrared.
+    /// 81: The matrix column by column, in whole numbers; the stream as in Warp.
     virtual bool setWarp(std::int32_t stream, std::int32_t a11, std::int32_t a21, std::int32_t a12,
                          std::int32_t a22, std::int32_t a13, std::int32_t a23) = 0;
     virtual bool getWarp(Warp *warp) = 0; ///< 82: The caller fills in the stream.
-    /// 83: 0 user parameters, 1 expert parameters.
+    /// 83: saveUserParameters or saveExpertParameters.
     virtual bool saveBlendUnitParameters(std::uint8_t kind) = 0;
     virtual bool setStartingMode(std::uint32_t mode) = 0;     ///< 84: As the video mode; 3 the current mode.
     virtual bool getStartingMode(std::uint8_t *mode) = 0;     ///< 85
@@ -156,16 +159,16 @@ private:
 public:
     virtual bool getPolarity() = 0;              ///< 92: True: inverted.
     virtual bool setPolarity(bool inverted) = 0; ///< 93
-    /// 94: Pixels; 0 ROI0 inc, 1 ROI1 inc, 2 ROI0 exc, 3 ROI1 exc.
+    /// 94: Pixels; the region is one of setter_region.
     virtual bool setRoiX1(std::uint32_t x1, std::int32_t region, bool roi1IncEnabled, bool roi0ExcEnabled,
                           bool roi1ExcEnabled) = 0;
-    /// 95: Pixels; 0 ROI0 inc, 1 ROI1 inc, 2 ROI0 exc, 3 ROI1 exc.
+    /// 95: Pixels; the region is one of setter_region.
     virtual bool setRoiX2(std::uint32_t x2, std::int32_t region, bool roi1IncEnabled, bool roi0ExcEnabled,
                           bool roi1ExcEnabled) = 0;
-    /// 96: Pixels; 0 ROI0 inc, 1 ROI1 inc, 2 ROI0 exc, 3 ROI1 exc.
+    /// 96: Pixels; the region is one of setter_region.
     virtual bool setRoiY1(std::uint32_t y1, std::int32_t region, bool roi1IncEnabled, bool roi0ExcEnabled,
                           bool roi1ExcEnabled) = 0;
-    /// 97: Pixels; 0 ROI0 inc, 1 ROI1 inc, 2 ROI0 exc, 3 ROI1 exc.
+    /// 97: Pixels; the region is one of setter_region.
     virtual bool setRoiY2(std::uint32_t y2, std::int32_t region, bool roi1IncEnabled, bool roi0ExcEnabled,
                           bool roi1ExcEnabled) = 0;
     virtual bool processNucRequest() = 0; ///< 98: Non-uniformity correction.

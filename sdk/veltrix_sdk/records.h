@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// The records that cross the SDK boundary, with their sizes and offsets.
+// The records that cross the SDK boundary, with their sizes and offsets. Names of ranges are those of
+// numbers.h.
 #pragma once
 
 #include <cstddef>
@@ -53,7 +54,7 @@ static_assert(sizeof(EdgeCorrection) == 16 && offsetof(EdgeCorrection, gain) == 
               offsetof(EdgeCorrection, firstThreshold) == 8 &&
               offsetof(EdgeCorrection, secondThreshold) == 12);
 
-/// Limits of the adaptive histogram's gain, 0 to 100.
+/// Limits of the adaptive histogram's gain: ahcGainLimitRange.
 struct AhcGainLimitation
 {
     std::uint8_t black;
@@ -65,7 +66,7 @@ static_assert(sizeof(AhcGainLimitation) == 2 && offsetof(AhcGainLimitation, whit
 /// Digital zoom; the method is 0 nearest neighbour, 1 bilinear.
 struct ZoomConfig
 {
-    float factor;          ///< 1 to 8.
+    float factor;          ///< zoomFactorRange.
     std::uint32_t xCenter; ///< Pixels.
     std::uint32_t yCenter; ///< Pixels.
     std::uint8_t method;
