@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 // The rows of what identifies the units and how they are, then those of the Blend Unit.
 #include "devicesettings.h"
-#include "makers.h"
+#include "rows.h"
 #include "tables.h"
 #include "values.h"
 #include "veltrix_sdk/device_control.h"
@@ -36,26 +36,27 @@ const Allowed outputPixels{between(1, 10000)};
 Rows identity()
 {
     return {
-        number("identity", onBoth, OPERATION(connect), oneOf({krIdentity}), "Kind of the device"),
-        record("firmwareVersions", onBoth, OPERATION(getFirmwareVersions),
+        number("identity", onBoth, DEVICE_OPERATION(connect), oneOf({krIdentity}), "Kind of the device"),
+        record("firmwareVersions", onBoth, DEVICE_OPERATION(getFirmwareVersions),
                {field<&FirmwareVersions::processor>(
                     "processor", versionWord, "Version of the processor's firmware, a digit each nibble"),
                 field<&FirmwareVersions::fpga>(
                     "fpga", versionWord, "Version of the FPGA, with bits for the 9 Hz and MIPI builds")}),
-        number("serialNumber", onBoth, OPERATION(getSerialNumber), notZero, "Serial number of the unit"),
-        number("sensorSerialNumber", onCamera, OPERATION(getSensorSerialNumber), notZero,
+        number("serialNumber", onBoth, DEVICE_OPERATION(getSerialNumber), notZero,
+               "Serial number of the unit"),
+        number("sensorSerialNumber", onCamera, DEVICE_OPERATION(getSensorSerialNumber), notZero,
                "Serial number of the sensor"),
-        moving(record("operatingInfo", onCamera, OPERATION(getOperatingInfo),
+        moving(record("operatingInfo", onCamera, DEVICE_OPERATION(getOperatingInfo),
                       {field<&OperatingInfo::operatingMinutes>(
                            "operatingMinutes", word, "How long the camera has run in its life", "minutes"),
                        field<&OperatingInfo::startupCount>("startupCount", notZero,
                                                            "How often the camera was started", "starts")})),
-        moving(record("temperatures", onBoth, OPERATION(getTemperatures),
+        moving(record("temperatures", onBoth, DEVICE_OPERATION(getTemperatures),
                       {field<&Temperatures::sensorMillikelvin>("sensorMillikelvin", temperature,
                                                                "Temperature of the sensor", "mK"),
                        field<&Temperatures::fpgaMillikelvin>("fpgaMillikelvin", temperature,
                                                              "Temperature of the FPGA", "mK")})),
-        moving(number("bitStatus", onBlendUnit, OPERATION(getBitStatus), word,
+        moving(number("bitStatus", onBlendUnit, DEVICE_OPERATION(getBitStatus), word,
                       "Result of the built-in test, one bit each")),
     };
 }
@@ -64,9 +65,9 @@ Rows blendUnit()
 {
     const Allowed percent{within(visibleAgcRange)};
     return {
-        number("videoMode", onBlendUnit, OPERATION(getVideoMode), OPERATION(setVideoMode),
+        number("videoMode", onBlendUnit, DEVICE_OPERATION(getVideoMode), DEVICE_OPERATION(setVideoMode),
                within(videoModeRange), "Picture that is shown: 0 infrared, 1 visible, 2 fusion"),
-        record("zoom", onBoth, OPERATION(getZoomConfig), OPERATION(configureZoom),
+        record("zoom", onBoth, DEVICE_OPERATION(getZoomConfig), DEVICE_OPERATION(configureZoom),
                {field<&ZoomConfig::factor>("factor", within(zoomFactorRange), "Digital zoom factor"),
                 field<&ZoomConfig::xCenter>("xCenter", within(zoomXCenterRange),
                                             "Column that the zoom is centred on", "pixels"),
@@ -74,24 +75,24 @@ Rows blendUnit()
                                             "Row that the zoom is centred on", "pixels"),
                 field<&ZoomConfig::method>("method", within(zoomMethodRange),
                                            "Interpolation of the zoom: 0 nearest neighbour, 1 bilinear")}),
-        record("zoomResolution", onBlendUnit, OPERATION(getZoomResolution),
+        record("zoomResolution", onBlendUnit, DEVICE_OPERATION(getZoomResolution),
                {field<&ZoomResolution::x>("x", outputPixels, "Width of the zoomed picture", "pixels"),
                 field<&ZoomResolution::y>("y", outputPixels, "Height of the zoomed picture", "pixels")}),
-        record("visibleAgc", onBlendUnit, OPERATION(getVisibleAgc), OPERATION(setVisibleAgc),
+        record("visibleAgc", onBlendUnit, DEVICE_OPERATION(getVisibleAgc), DEVICE_OPERATION(setVisibleAgc),
                {field<&VisibleAgc::target>("target", percent, "Gain control, visible channel: target", "%"),
                 field<&VisibleAgc::threshold>("threshold", percent,
                                               "Gain control, visible channel: threshold", "%"),
                 field<&VisibleAgc::filterCoefficient>(
                     "filterCoefficient", percent, "Gain control, visible channel: filter coefficient", "%")}),
         record(
-            "visibleClhe", onBlendUnit, OPERATION(getVisibleClhe), OPERATION(setVisibleClhe),
+            "visibleClhe", onBlendUnit, DEVICE_OPERATION(getVisibleClhe), DEVICE_OPERATION(setVisibleClhe),
             {field<&VisibleClhe::threshold>(
                  "threshold", within(visibleClheThresholdRange),
                  "Visible channel: mix of a linear table and histogram equalisation; low is linear"),
              field<&VisibleClhe::filterCoefficient>("filterCoefficient", within(visibleClheFilterRange),
                                                     "Visible channel: filter coefficient of that mix", "%")}),
-        number("startingMode", onBlendUnit, OPERATION(getStartingMode), OPERATION(setStartingMode),
-               within(startingModeRange),
+        number("startingMode", onBlendUnit, DEVICE_OPERATION(getStartingMode),
+               DEVICE_OPERATION(setStartingMode), within(startingModeRange),
                "Picture after power-up: 0 infrared, 1 visible, 2 fusion, 3 the current one"),
     };
 }
@@ -99,8 +100,8 @@ Rows blendUnit()
 /// The matrix of one video stream. The stream goes into the record that is read and before what is written.
 Setting warp(std::uint8_t stream)
 {
-    const auto get = OPERATION(getWarp);
-    const auto set = OPERATION(setWarp);
+    const auto get = DEVICE_OPERATION(getWarp);
+    const auto set = DEVICE_OPERATION(setWarp);
     const Allowed allowed{within(warpCoefficientRange)};
     Setting setting = recordBy<Warp>(
         [get, stream](Device &device, Warp &filled) {

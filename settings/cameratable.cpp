@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 // The rows of the camera: its switches, numbers, records and regions.
 #include "devicesettings.h"
-#include "makers.h"
+#include "rows.h"
 #include "tables.h"
 #include "values.h"
 #include "veltrix_sdk/device_control.h"
@@ -31,24 +31,28 @@ Setting cameraSwitch(const char *key, Operation<Get> get, Operation<Set> set, co
 Rows cameraSwitches()
 {
     return {
-        cameraSwitch("vignettingCorrection", OPERATION(getVignettingCorrection),
-                     OPERATION(setVignettingCorrection), "Correction of darker corners"),
-        cameraSwitch("columnCorrection", OPERATION(getColumnCorrection), OPERATION(setColumnCorrection),
+        cameraSwitch("vignettingCorrection", DEVICE_OPERATION(getVignettingCorrection),
+                     DEVICE_OPERATION(setVignettingCorrection), "Correction of darker corners"),
+        cameraSwitch("columnCorrection", DEVICE_OPERATION(getColumnCorrection),
+                     DEVICE_OPERATION(setColumnCorrection),
                      "Correction of differences between the sensor's columns"),
-        cameraSwitch("sdiOutput", OPERATION(getSdiOutput), OPERATION(setSdiOutput), "SDI video output"),
-        cameraSwitch("parallelOutput", OPERATION(getParallelOutput), OPERATION(setParallelOutput),
-                     "Parallel video output"),
-        cameraSwitch("mipiOutput", OPERATION(getMipiOutput), OPERATION(setMipiOutput), "MIPI video output"),
-        cameraSwitch("horizontalFlip", OPERATION(getHorizontalFlip), OPERATION(setHorizontalFlip),
-                     "Picture with left and right exchanged"),
-        cameraSwitch("polarity", OPERATION(getPolarity), OPERATION(setPolarity), "Inverted grey levels"),
-        cameraSwitch("bprEnable", OPERATION(getBprEnable), OPERATION(setBprEnable),
+        cameraSwitch("sdiOutput", DEVICE_OPERATION(getSdiOutput), DEVICE_OPERATION(setSdiOutput),
+                     "SDI video output"),
+        cameraSwitch("parallelOutput", DEVICE_OPERATION(getParallelOutput),
+                     DEVICE_OPERATION(setParallelOutput), "Parallel video output"),
+        cameraSwitch("mipiOutput", DEVICE_OPERATION(getMipiOutput), DEVICE_OPERATION(setMipiOutput),
+                     "MIPI video output"),
+        cameraSwitch("horizontalFlip", DEVICE_OPERATION(getHorizontalFlip),
+                     DEVICE_OPERATION(setHorizontalFlip), "Picture with left and right exchanged"),
+        cameraSwitch("polarity", DEVICE_OPERATION(getPolarity), DEVICE_OPERATION(setPolarity),
+                     "Inverted grey levels"),
+        cameraSwitch("bprEnable", DEVICE_OPERATION(getBprEnable), DEVICE_OPERATION(setBprEnable),
                      "Replacement of bad pixels"),
-        cameraSwitch("offsetCorrection", OPERATION(getOffsetCorrection), OPERATION(setOffsetCorrection),
-                     "Correction of each pixel's offset"),
-        cameraSwitch("gainCorrection", OPERATION(getGainCorrection), OPERATION(setGainCorrection),
-                     "Correction of each pixel's gain"),
-        cameraSwitch("verticalFlip", OPERATION(getVerticalFlip), OPERATION(setVerticalFlip),
+        cameraSwitch("offsetCorrection", DEVICE_OPERATION(getOffsetCorrection),
+                     DEVICE_OPERATION(setOffsetCorrection), "Correction of each pixel's offset"),
+        cameraSwitch("gainCorrection", DEVICE_OPERATION(getGainCorrection),
+                     DEVICE_OPERATION(setGainCorrection), "Correction of each pixel's gain"),
+        cameraSwitch("verticalFlip", DEVICE_OPERATION(getVerticalFlip), DEVICE_OPERATION(setVerticalFlip),
                      "Picture with top and bottom exchanged"),
     };
 }
@@ -56,28 +60,29 @@ Rows cameraSwitches()
 Rows cameraNumbers(const ConfigurationWords &words)
 {
     return {
-        number("videoOutput", onCamera, OPERATION(getVideoOutput), OPERATION(setVideoOutput),
+        number("videoOutput", onCamera, DEVICE_OPERATION(getVideoOutput), DEVICE_OPERATION(setVideoOutput),
                within(videoOutputRange), "Stage of the processing that is put out: 0 raw to 8 BT656"),
-        number("frameRate", onCamera, OPERATION(getFrameRate), OPERATION(setFrameRate), oneOf(frameRatesHz),
-               "Pictures a second", "Hz"),
-        number("gamma", onCamera, OPERATION(getGamma), OPERATION(setGamma), within(gammaRange),
+        number("frameRate", onCamera, DEVICE_OPERATION(getFrameRate), DEVICE_OPERATION(setFrameRate),
+               oneOf(frameRatesHz), "Pictures a second", "Hz"),
+        number("gamma", onCamera, DEVICE_OPERATION(getGamma), DEVICE_OPERATION(setGamma), within(gammaRange),
                "Gamma correction in 16.16 fixed point: 65536 is 1", "1/65536"),
-        number("clhe", onCamera, OPERATION(getClhe), OPERATION(setClhe), within(clheRange),
+        number("clhe", onCamera, DEVICE_OPERATION(getClhe), DEVICE_OPERATION(setClhe), within(clheRange),
                "Mix of a linear table and histogram equalisation; low is linear"),
-        number("colorLut", onCamera, OPERATION(getColorLut), OPERATION(setColorLut), within(colorLutRange),
-               "Colour table, by its place in the list"),
-        number("contrastType", onCamera, OPERATION(getContrastType), OPERATION(configureContrastType),
-               within(contrastTypeRange), "How contrast is found: 0 CLHE over the regions, 1 CLAHE locally"),
-        number("lutTemporalFilter", onCamera, OPERATION(getLutTemporalFilter),
-               OPERATION(setLutTemporalFilter), within(lutTemporalFilterRange),
+        number("colorLut", onCamera, DEVICE_OPERATION(getColorLut), DEVICE_OPERATION(setColorLut),
+               within(colorLutRange), "Colour table, by its place in the list"),
+        number("contrastType", onCamera, DEVICE_OPERATION(getContrastType),
+               DEVICE_OPERATION(configureContrastType), within(contrastTypeRange),
+               "How contrast is found: 0 CLHE over the regions, 1 CLAHE locally"),
+        number("lutTemporalFilter", onCamera, DEVICE_OPERATION(getLutTemporalFilter),
+               DEVICE_OPERATION(setLutTemporalFilter), within(lutTemporalFilterRange),
                "Strength of the temporal filter of the grey levels"),
-        number("gsk", onCamera, OPERATION(getGsk), OPERATION(setGsk),
+        number("gsk", onCamera, DEVICE_OPERATION(getGsk), DEVICE_OPERATION(setGsk),
                between(words.gskMinimum, words.gskMaximum), "Expert value GSK"),
-        number("gfid", onCamera, OPERATION(getGfid), OPERATION(setGfid),
+        number("gfid", onCamera, DEVICE_OPERATION(getGfid), DEVICE_OPERATION(setGfid),
                between(words.gfidMinimum, words.gfidMaximum), "Expert value GFID"),
-        number("gms", onCamera, OPERATION(getGms), OPERATION(setGms),
+        number("gms", onCamera, DEVICE_OPERATION(getGms), DEVICE_OPERATION(setGms),
                between(words.gmsMinimum, words.gmsMaximum), "Expert value GMS"),
-        number("tint", onCamera, OPERATION(getTint), OPERATION(setTint),
+        number("tint", onCamera, DEVICE_OPERATION(getTint), DEVICE_OPERATION(setTint),
                between(words.tintMinimum, words.tintMaximum), "Expert value TINT"),
     };
 }
@@ -86,13 +91,14 @@ Rows cameraRecords()
 {
     const Allowed percent{within(ahcGainLimitRange)};
     return {
-        record("ahcGainLimitation", onCamera, OPERATION(getAhcGainLimitation),
-               OPERATION(setAhcGainLimitation),
+        record("ahcGainLimitation", onCamera, DEVICE_OPERATION(getAhcGainLimitation),
+               DEVICE_OPERATION(setAhcGainLimitation),
                {field<&AhcGainLimitation::black>("black", percent,
                                                  "Limit of the adaptive histogram's gain, black", "%"),
                 field<&AhcGainLimitation::white>("white", percent,
                                                  "Limit of the adaptive histogram's gain, white", "%")}),
-        record("edgeCorrection", onCamera, OPERATION(getEdgeCorrection), OPERATION(configureEdgeCorrection),
+        record("edgeCorrection", onCamera, DEVICE_OPERATION(getEdgeCorrection),
+               DEVICE_OPERATION(configureEdgeCorrection),
                {field<&EdgeCorrection::type>("type", within(edgeTypeRange),
                                              "Edge correction: 0 none, 1 sharpening, 2 contouring"),
                 field<&EdgeCorrection::gain>("gain", within(edgeGainRange), "Edge correction: gain"),
@@ -133,14 +139,14 @@ Rows regions()
 {
     Rows rows;
     for (std::uint32_t region{0}; region < regionCount; ++region) {
-        rows.push_back(coordinate("x1", region, OPERATION(getRoiX1), OPERATION(setRoiX1), regionColumnRange,
-                                  "Region of interest: first column"));
-        rows.push_back(coordinate("y1", region, OPERATION(getRoiY1), OPERATION(setRoiY1), regionRowRange,
-                                  "Region of interest: first row"));
-        rows.push_back(coordinate("x2", region, OPERATION(getRoiX2), OPERATION(setRoiX2), regionColumnRange,
-                                  "Region of interest: last column"));
-        rows.push_back(coordinate("y2", region, OPERATION(getRoiY2), OPERATION(setRoiY2), regionRowRange,
-                                  "Region of interest: last row"));
+        rows.push_back(coordinate("x1", region, DEVICE_OPERATION(getRoiX1), DEVICE_OPERATION(setRoiX1),
+                                  regionColumnRange, "Region of interest: first column"));
+        rows.push_back(coordinate("y1", region, DEVICE_OPERATION(getRoiY1), DEVICE_OPERATION(setRoiY1),
+                                  regionRowRange, "Region of interest: first row"));
+        rows.push_back(coordinate("x2", region, DEVICE_OPERATION(getRoiX2), DEVICE_OPERATION(setRoiX2),
+                                  regionColumnRange, "Region of interest: last column"));
+        rows.push_back(coordinate("y2", region, DEVICE_OPERATION(getRoiY2), DEVICE_OPERATION(setRoiY2),
+                                  regionRowRange, "Region of interest: last row"));
     }
     return rows;
 }

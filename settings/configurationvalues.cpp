@@ -3,7 +3,7 @@
 // Every value of the configuration by its key: the defaults, and the ranges of the expert values.
 #include "configurationvalues.h"
 
-#include "makers.h"
+#include "rows.h"
 #include "veltrix_sdk/numbers.h"
 #include "veltrix_sdk/records.h"
 
@@ -30,7 +30,7 @@ const char *const prefix{"configuration."};
 constexpr std::int32_t stepsOfGain{10};
 
 /// Name and call of an operation of the configuration.
-#define ASKED(operation) (Operation{#operation, &Configuration::operation})
+#define CONFIGURATION_OPERATION(operation) (Operation{#operation, &Configuration::operation})
 
 template <typename Number>
 ConfigurationValue value(const std::string &key, Operation<Number (Configuration::*)()> get, Allowed allowed,
@@ -76,43 +76,50 @@ ConfigurationRows image()
     const Allowed gain{between(edgeGainRange.minimum * stepsOfGain, edgeGainRange.maximum * stepsOfGain)};
     const Allowed percent{within(ahcGainLimitRange)};
     return {
-        value("defaultBaudRate", ASKED(getDefaultBaudRate), oneOf(linkBaudRates), "Speed of the link",
-              "bit/s"),
-        flag("expertMode", ASKED(isExpertMode), "Whether expert mode is granted"),
-        value("defaultGamma", ASKED(getDefaultGamma), gamma, "Default of the gamma correction"),
-        value("defaultClhe", ASKED(getDefaultClhe), within(clheDefaultRange), "Default of CLHE"),
-        value("defaultSharpeningGain", ASKED(getDefaultSharpeningGain), gain,
+        value("defaultBaudRate", CONFIGURATION_OPERATION(getDefaultBaudRate), oneOf(linkBaudRates),
+              "Speed of the link", "bit/s"),
+        flag("expertMode", CONFIGURATION_OPERATION(isExpertMode), "Whether expert mode is granted"),
+        value("defaultGamma", CONFIGURATION_OPERATION(getDefaultGamma), gamma,
+              "Default of the gamma correction"),
+        value("defaultClhe", CONFIGURATION_OPERATION(getDefaultClhe), within(clheDefaultRange),
+              "Default of CLHE"),
+        value("defaultSharpeningGain", CONFIGURATION_OPERATION(getDefaultSharpeningGain), gain,
               "Default of the edge correction's gain, in steps of its slider: tenths"),
-        value("defaultContrastType", ASKED(getDefaultContrastType), within(contrastTypeRange),
-              "Default of how contrast is found: 0 CLHE, 1 CLAHE"),
-        value("defaultColorLut", ASKED(getDefaultColorLut), within(colorLutRange),
+        value("defaultContrastType", CONFIGURATION_OPERATION(getDefaultContrastType),
+              within(contrastTypeRange), "Default of how contrast is found: 0 CLHE, 1 CLAHE"),
+        value("defaultColorLut", CONFIGURATION_OPERATION(getDefaultColorLut), within(colorLutRange),
               "Default of the colour table, by its place in the list"),
-        flag("defaultPolarity", ASKED(getDefaultPolarity), "Whether grey levels are inverted by default"),
-        flag("defaultHorizontalFlip", ASKED(getDefaultHorizontalFlip), "Default of the horizontal flip"),
-        flag("defaultVerticalFlip", ASKED(getDefaultVerticalFlip), "Default of the vertical flip"),
-        flag("defaultVignettingCorrection", ASKED(getDefaultVignettingCorrection),
+        flag("defaultPolarity", CONFIGURATION_OPERATION(getDefaultPolarity),
+             "Whether grey levels are inverted by default"),
+        flag("defaultHorizontalFlip", CONFIGURATION_OPERATION(getDefaultHorizontalFlip),
+             "Default of the horizontal flip"),
+        flag("defaultVerticalFlip", CONFIGURATION_OPERATION(getDefaultVerticalFlip),
+             "Default of the vertical flip"),
+        flag("defaultVignettingCorrection", CONFIGURATION_OPERATION(getDefaultVignettingCorrection),
              "Default of the vignetting correction"),
-        flag("defaultColumnCorrection", ASKED(getDefaultColumnCorrection),
+        flag("defaultColumnCorrection", CONFIGURATION_OPERATION(getDefaultColumnCorrection),
              "Default of the column correction"),
-        value("defaultFrameRate", ASKED(getDefaultFrameRate), oneOf(frameRatesHz),
+        value("defaultFrameRate", CONFIGURATION_OPERATION(getDefaultFrameRate), oneOf(frameRatesHz),
               "Default of the frame rate", "Hz"),
-        value("defaultEdgeCorrectionType", ASKED(getDefaultEdgeCorrectionType), within(edgeTypeRange),
-              "Default of the edge correction: 0 none, 1 sharpening, 2 contouring"),
-        value("defaultSharpeningGainValue", ASKED(getDefaultSharpeningGainValue), within(edgeGainRange),
-              "Default of the edge correction's gain"),
-        value("defaultSharpeningThreshold", ASKED(getDefaultSharpeningThreshold), within(edgeThresholdRange),
-              "Default of the edge correction's threshold"),
-        value("defaultVideoOutput", ASKED(getDefaultVideoOutput), within(videoOutputRange),
+        value("defaultEdgeCorrectionType", CONFIGURATION_OPERATION(getDefaultEdgeCorrectionType),
+              within(edgeTypeRange), "Default of the edge correction: 0 none, 1 sharpening, 2 contouring"),
+        value("defaultSharpeningGainValue", CONFIGURATION_OPERATION(getDefaultSharpeningGainValue),
+              within(edgeGainRange), "Default of the edge correction's gain"),
+        value("defaultSharpeningThreshold", CONFIGURATION_OPERATION(getDefaultSharpeningThreshold),
+              within(edgeThresholdRange), "Default of the edge correction's threshold"),
+        value("defaultVideoOutput", CONFIGURATION_OPERATION(getDefaultVideoOutput), within(videoOutputRange),
               "Default of the stage of the processing that is put out"),
-        flag("defaultSdiOutput", ASKED(getDefaultSdiOutput), "Default of the SDI video output"),
-        flag("defaultParallelOutput", ASKED(getDefaultParallelOutput),
+        flag("defaultSdiOutput", CONFIGURATION_OPERATION(getDefaultSdiOutput),
+             "Default of the SDI video output"),
+        flag("defaultParallelOutput", CONFIGURATION_OPERATION(getDefaultParallelOutput),
              "Default of the parallel video output"),
-        flag("defaultMipiOutput", ASKED(getDefaultMipiOutput), "Default of the MIPI video output"),
-        value("defaultTempoFilter", ASKED(getDefaultTempoFilter), within(lutTemporalFilterRange),
-              "Default of the temporal filter of the grey levels"),
-        value("defaultAhcBlackGainLimit", ASKED(getDefaultAhcBlackGainLimit), percent,
+        flag("defaultMipiOutput", CONFIGURATION_OPERATION(getDefaultMipiOutput),
+             "Default of the MIPI video output"),
+        value("defaultTempoFilter", CONFIGURATION_OPERATION(getDefaultTempoFilter),
+              within(lutTemporalFilterRange), "Default of the temporal filter of the grey levels"),
+        value("defaultAhcBlackGainLimit", CONFIGURATION_OPERATION(getDefaultAhcBlackGainLimit), percent,
               "Default of the limit of the adaptive histogram's gain, black", "%"),
-        value("defaultAhcWhiteGainLimit", ASKED(getDefaultAhcWhiteGainLimit), percent,
+        value("defaultAhcWhiteGainLimit", CONFIGURATION_OPERATION(getDefaultAhcWhiteGainLimit), percent,
               "Default of the limit of the adaptive histogram's gain, white", "%"),
     };
 }
@@ -132,10 +139,10 @@ ConfigurationRows expertValues(const ConfigurationWords &words)
     using W = ConfigurationWords;
     constexpr double highest{std::numeric_limits<std::int32_t>::max()};
     const ExpertValue values[]{
-        {"gsk", ASKED(getDefaultGsk), &W::gskMinimum, &W::gskMaximum, &W::gskDefault},
-        {"gfid", ASKED(getDefaultGfid), &W::gfidMinimum, &W::gfidMaximum, &W::gfidDefault},
-        {"gms", ASKED(getDefaultGms), &W::gmsMinimum, &W::gmsMaximum, &W::gmsDefault},
-        {"tint", ASKED(getDefaultTint), &W::tintMinimum, &W::tintMaximum, &W::tintDefault},
+        {"gsk", CONFIGURATION_OPERATION(getDefaultGsk), &W::gskMinimum, &W::gskMaximum, &W::gskDefault},
+        {"gfid", CONFIGURATION_OPERATION(getDefaultGfid), &W::gfidMinimum, &W::gfidMaximum, &W::gfidDefault},
+        {"gms", CONFIGURATION_OPERATION(getDefaultGms), &W::gmsMinimum, &W::gmsMaximum, &W::gmsDefault},
+        {"tint", CONFIGURATION_OPERATION(getDefaultTint), &W::tintMinimum, &W::tintMaximum, &W::tintDefault},
     };
     ConfigurationRows table;
     for (const ExpertValue &each : values) {
@@ -162,36 +169,44 @@ ConfigurationRows defaultRegions()
         return value(key, get, within(regionRowRange), meaning, "pixels");
     };
     return {
-        column("defaultRoi0IncX1", ASKED(getDefaultRoi0IncX1),
+        column("defaultRoi0IncX1", CONFIGURATION_OPERATION(getDefaultRoi0IncX1),
                "Default of the first column of ROI0 inclusive"),
-        row("defaultRoi0IncY1", ASKED(getDefaultRoi0IncY1), "Default of the first row of ROI0 inclusive"),
-        column("defaultRoi0IncX2", ASKED(getDefaultRoi0IncX2),
+        row("defaultRoi0IncY1", CONFIGURATION_OPERATION(getDefaultRoi0IncY1),
+            "Default of the first row of ROI0 inclusive"),
+        column("defaultRoi0IncX2", CONFIGURATION_OPERATION(getDefaultRoi0IncX2),
                "Default of the last column of ROI0 inclusive"),
-        row("defaultRoi0IncY2", ASKED(getDefaultRoi0IncY2), "Default of the last row of ROI0 inclusive"),
-        flag("defaultRoi0ExcEnable", ASKED(getDefaultRoi0ExcEnable),
+        row("defaultRoi0IncY2", CONFIGURATION_OPERATION(getDefaultRoi0IncY2),
+            "Default of the last row of ROI0 inclusive"),
+        flag("defaultRoi0ExcEnable", CONFIGURATION_OPERATION(getDefaultRoi0ExcEnable),
              "Whether ROI0 exclusive is on by default"),
-        column("defaultRoi0ExcX1", ASKED(getDefaultRoi0ExcX1),
+        column("defaultRoi0ExcX1", CONFIGURATION_OPERATION(getDefaultRoi0ExcX1),
                "Default of the first column of ROI0 exclusive"),
-        row("defaultRoi0ExcY1", ASKED(getDefaultRoi0ExcY1), "Default of the first row of ROI0 exclusive"),
-        column("defaultRoi0ExcX2", ASKED(getDefaultRoi0ExcX2),
+        row("defaultRoi0ExcY1", CONFIGURATION_OPERATION(getDefaultRoi0ExcY1),
+            "Default of the first row of ROI0 exclusive"),
+        column("defaultRoi0ExcX2", CONFIGURATION_OPERATION(getDefaultRoi0ExcX2),
                "Default of the last column of ROI0 exclusive"),
-        row("defaultRoi0ExcY2", ASKED(getDefaultRoi0ExcY2), "Default of the last row of ROI0 exclusive"),
-        flag("defaultRoi1IncEnable", ASKED(getDefaultRoi1IncEnable),
+        row("defaultRoi0ExcY2", CONFIGURATION_OPERATION(getDefaultRoi0ExcY2),
+            "Default of the last row of ROI0 exclusive"),
+        flag("defaultRoi1IncEnable", CONFIGURATION_OPERATION(getDefaultRoi1IncEnable),
              "Whether ROI1 inclusive is on by default"),
-        column("defaultRoi1IncX1", ASKED(getDefaultRoi1IncX1),
+        column("defaultRoi1IncX1", CONFIGURATION_OPERATION(getDefaultRoi1IncX1),
                "Default of the first column of ROI1 inclusive"),
-        row("defaultRoi1IncY1", ASKED(getDefaultRoi1IncY1), "Default of the first row of ROI1 inclusive"),
-        column("defaultRoi1IncX2", ASKED(getDefaultRoi1IncX2),
+        row("defaultRoi1IncY1", CONFIGURATION_OPERATION(getDefaultRoi1IncY1),
+            "Default of the first row of ROI1 inclusive"),
+        column("defaultRoi1IncX2", CONFIGURATION_OPERATION(getDefaultRoi1IncX2),
                "Default of the last column of ROI1 inclusive"),
-        row("defaultRoi1IncY2", ASKED(getDefaultRoi1IncY2), "Default of the last row of ROI1 inclusive"),
-        flag("defaultRoi1ExcEnable", ASKED(getDefaultRoi1ExcEnable),
+        row("defaultRoi1IncY2", CONFIGURATION_OPERATION(getDefaultRoi1IncY2),
+            "Default of the last row of ROI1 inclusive"),
+        flag("defaultRoi1ExcEnable", CONFIGURATION_OPERATION(getDefaultRoi1ExcEnable),
              "Whether ROI1 exclusive is on by default"),
-        column("defaultRoi1ExcX1", ASKED(getDefaultRoi1ExcX1),
+        column("defaultRoi1ExcX1", CONFIGURATION_OPERATION(getDefaultRoi1ExcX1),
                "Default of the first column of ROI1 exclusive"),
-        row("defaultRoi1ExcY1", ASKED(getDefaultRoi1ExcY1), "Default of the first row of ROI1 exclusive"),
-        column("defaultRoi1ExcX2", ASKED(getDefaultRoi1ExcX2),
+        row("defaultRoi1ExcY1", CONFIGURATION_OPERATION(getDefaultRoi1ExcY1),
+            "Default of the first row of ROI1 exclusive"),
+        column("defaultRoi1ExcX2", CONFIGURATION_OPERATION(getDefaultRoi1ExcX2),
                "Default of the last column of ROI1 exclusive"),
-        row("defaultRoi1ExcY2", ASKED(getDefaultRoi1ExcY2), "Default of the last row of ROI1 exclusive"),
+        row("defaultRoi1ExcY2", CONFIGURATION_OPERATION(getDefaultRoi1ExcY2),
+            "Default of the last row of ROI1 exclusive"),
     };
 }
 

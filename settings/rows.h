@@ -5,11 +5,11 @@
 
 #include "devicesettings.h"
 #include "values.h"
+#include "veltrix_sdk/device_control.h"
 
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <limits>
 #include <string>
 #include <type_traits>
@@ -31,7 +31,7 @@ template <typename Call>
 Operation(const char *, Call) -> Operation<Call>;
 
 /// Name and call of an operation of the device.
-#define OPERATION(operation) (Operation{#operation, &veltrix_sdk::IDeviceControl::operation})
+#define DEVICE_OPERATION(operation) (Operation{#operation, &veltrix_sdk::IDeviceControl::operation})
 
 /// The kind of a type of the contract.
 template <typename Number>
