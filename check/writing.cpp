@@ -3,9 +3,11 @@
 // Setting one number of a setting to another value and back.
 #include "writing.h"
 
+#include "devicesettings.h"
 #include "values.h"
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -38,17 +40,6 @@ double otherValue(const Setting &row, const Field &field, double found)
     return found;
 }
 
-/// Which number the setter could not put back as it was found; empty when it can.
-std::string fractionOf(const Setting &row, const Answer &found)
-{
-    for (std::size_t place{0}; place < row.fields.size(); ++place) {
-        if (row.fields[place].sentWhole && !isWhole(found.values[place])) {
-            return nameOf(row, row.fields[place]) + ' ' + numberText(found.values[place]);
-        }
-    }
-    return {};
-}
-
 /// One number of one setting on one unit.
 class Trial
 {
@@ -65,9 +56,10 @@ public:
         if (!fault.empty()) {
             return finding(Outcome::Fails, "not tried, because " + row.get + ' ' + fault);
         }
-        const std::string fraction{fractionOf(row, found)};
-        if (!fraction.empty()) {
-            return finding(Outcome::Skipped, "takes whole numbers and could not put back " + fraction);
+        if (const std::optional<std::size_t> changed{firstFieldSentChanged(row, found.values)}) {
+            return finding(Outcome::Skipped, "takes whole numbers and could not put back " +
+                                                 nameOf(row, row.fields[*changed]) + ' ' +
+                                                 numberText(found.values[*changed]));
         }
         const double value{otherValue(row, field(), found.values[place])};
         if (same(value, found.values[place])) {

@@ -10,22 +10,6 @@
 namespace device_settings
 {
 
-namespace
-{
-
-/// Whether every number of the setting reaches the device as it is.
-bool isSentUnchanged(const Setting &setting, const Values &values)
-{
-    for (std::size_t place{0}; place < setting.fields.size(); ++place) {
-        if (setting.fields[place].sentWhole && !isWhole(values[place])) {
-            return false;
-        }
-    }
-    return true;
-}
-
-} // namespace
-
 std::vector<Setting> deviceSettings(const veltrix_sdk::ConfigurationWords &words)
 {
     std::vector<Setting> table{blendUnitTable()};
@@ -80,6 +64,16 @@ std::optional<Values> readAll(Device &device, const Setting &setting)
     return setting.read(device, values) == 1 ? std::optional{values} : std::nullopt;
 }
 
+std::optional<std::size_t> firstFieldSentChanged(const Setting &setting, const Values &values)
+{
+    for (std::size_t field{0}; field < setting.fields.size(); ++field) {
+        if (setting.fields[field].sentWhole && !isWhole(values[field])) {
+            return field;
+        }
+    }
+    return std::nullopt;
+}
+
 Written writeField(Device &device, const Setting &setting, std::size_t field, double number)
 {
     const Field &written = setting.fields[field];
@@ -95,7 +89,7 @@ Written writeField(Device &device, const Setting &setting, std::size_t field, do
         return Written::NotRead;
     }
     (*values)[field] = number;
-    if (!isSentUnchanged(setting, *values)) {
+    if (firstFieldSentChanged(setting, *values)) {
         return Written::NotKept;
     }
     const RegionFlags flags{setting.sendsRegionFlags ? readRegionFlags(device) : RegionFlags{}};

@@ -109,6 +109,10 @@ RegionFlags readRegionFlags(Device &device);
 /// All numbers of a setting as the selected unit answers them; nothing when the unit does not acknowledge.
 std::optional<Values> readAll(Device &device, const Setting &setting);
 
+/// The first field that the device would be sent another number of than this, because it is sent as a whole
+/// number and this one has a fraction; nothing when all are sent as they are.
+std::optional<std::size_t> firstFieldSentChanged(const Setting &setting, const Values &values);
+
 /// How writing one number ended.
 enum class Written
 {
