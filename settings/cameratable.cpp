@@ -104,6 +104,8 @@ Rows cameraRecords()
                 field<&EdgeCorrection::gain>("gain", within(edgeGainRange), "Edge correction: gain"),
                 field<&EdgeCorrection::firstThreshold>("firstThreshold", within(edgeThresholdRange),
                                                        "Edge correction: the threshold that is set"),
+                // The contract gives only its distance from the first one, so no upper end is held against
+                // the camera.
                 field<&EdgeCorrection::secondThreshold>(
                     "secondThreshold", between(edgeThresholdDistance, highestWord),
                     "Edge correction: the threshold that the camera makes of the first one")}),
