@@ -39,8 +39,8 @@ public:
     OpenedDevice(const OpenedDevice &) = delete;
     OpenedDevice &operator=(const OpenedDevice &) = delete;
 
-    /// Opens the device on the port and identifies it by the operation; false when there is none to go on
-    /// with.
+    /// Opens the device on the port and identifies it by the operation; false when no device opened or it is
+    /// no KR camera.
     bool open(const std::string &port, const Setting &identity);
     /// Selects the unit; false when the device refuses. Refusals and the first success are findings.
     bool select(Unit unit);

@@ -14,7 +14,7 @@ namespace sdk_check
 namespace
 {
 
-/// Whether only a unit that is there can answer so; without one a read gives false or zeros.
+/// Whether the answer proves that the unit is there: a missing one gives false or zeros.
 bool saysSomething(const Answer &answer)
 {
     const auto isZero = [](double number) {
