@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// Every setting of the device by its key: where it belongs, what it may be, how it is read and written.
+// Every setting of the device that is read, by its key: where it belongs, what it may be, how it is read and
+// written.
 #include "devicesettings.h"
 
 #include "tables.h"
@@ -55,7 +56,14 @@ std::optional<Place> findSetting(const std::vector<Setting> &table, std::string_
 
 RegionFlags readRegionFlags(Device &device)
 {
-    return {device.getRoiX1(1) != 0, device.getRoiX1(2) != 0, device.getRoiX1(3) != 0};
+    // The getters and the setters give 1 and 2 to different regions, and nothing translates between them: a
+    // region is kept under the number that it was set under. So the setters' numbers are read with here, and
+    // writeField reads and sends a region under one number.
+    const auto isOn = [&](std::int32_t region) {
+        return device.getRoiX1(static_cast<std::uint32_t>(region)) != 0;
+    };
+    using namespace veltrix_sdk::setter_region;
+    return {isOn(roi1Inclusive), isOn(roi0Exclusive), isOn(roi1Exclusive)};
 }
 
 std::optional<Values> readAll(Device &device, const Setting &setting)
