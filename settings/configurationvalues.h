@@ -31,8 +31,10 @@ struct ConfigurationValue
 /// defaults are there twice under one key: as the operation answers them, then as words.
 std::vector<ConfigurationValue> configurationValues(const veltrix_sdk::ConfigurationWords &words);
 
-/// The first value behind a key; null when there is none. It is one of the table.
+/// The first value behind a key; null when there is none. It is one of the table, which outlives it.
 const ConfigurationValue *findConfigurationValue(const std::vector<ConfigurationValue> &table,
                                                  std::string_view key);
+const ConfigurationValue *findConfigurationValue(const std::vector<ConfigurationValue> &&table,
+                                                 std::string_view key) = delete;
 
 } // namespace device_settings

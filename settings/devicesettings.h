@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// Every setting of the device by its key: where it belongs, what it may be, how it is read and written.
+// Every setting of the device that is read, by its key: where it belongs, what it may be, how it is read and
+// written.
 #pragma once
 
 #include "values.h"
@@ -29,8 +30,7 @@ enum class Unit : std::int32_t
 
 inline constexpr std::array<Unit, 2> units{Unit::BlendUnit, Unit::Camera};
 
-/// The unit that a setting belongs to. The other one answers its operations as well, with nothing that
-/// counts.
+/// The unit that a setting belongs to. The other unit answers too; its answer means nothing.
 enum class UsedOn
 {
     BlendUnit,
@@ -83,7 +83,8 @@ struct Setting
 };
 
 /// Every setting and every other value that the device answers, in the order in which the program reads
-/// them. The words give the ranges of the expert values.
+/// them. The rate of the MAVLink port and the enables of the three optional regions are left out: no
+/// operation reads them. The words give the ranges of the expert values.
 std::vector<Setting> deviceSettings(const veltrix_sdk::ConfigurationWords &words);
 
 /// Where a key leads.
@@ -97,11 +98,13 @@ struct Place
 /// All numbers of the settings, each on the units that it belongs to: first all of the Blend Unit. The table
 /// outlives the places.
 std::vector<Place> placesOf(const std::vector<Setting> &table);
+std::vector<Place> placesOf(const std::vector<Setting> &&table) = delete;
 /// Such as "camera.gamma" or "blendUnit.visibleAgc.threshold".
 std::string keyOf(const Place &place);
 /// The number behind a key; nothing when no setting that belongs to this unit has it. The table outlives the
 /// place.
 std::optional<Place> findSetting(const std::vector<Setting> &table, std::string_view key);
+std::optional<Place> findSetting(const std::vector<Setting> &&table, std::string_view key) = delete;
 
 /// The flags of an open device, from the first columns of the regions under the setters' numbers.
 RegionFlags readRegionFlags(Device &device);

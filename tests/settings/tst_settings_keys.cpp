@@ -120,8 +120,10 @@ void SettingsKeysTest::unknownKeysLeadNowhere_data()
 void SettingsKeysTest::unknownKeysLeadNowhere()
 {
     QFETCH(const QString, key);
-    QVERIFY(!findSetting(deviceTable(), key.toStdString()));
-    QVERIFY(findConfigurationValue(configurationTable(), key.toStdString()) == nullptr);
+    const std::vector<Setting> table{deviceTable()};
+    QVERIFY(!findSetting(table, key.toStdString()));
+    const std::vector<ConfigurationValue> configuration{configurationTable()};
+    QVERIFY(findConfigurationValue(configuration, key.toStdString()) == nullptr);
 }
 
 void SettingsKeysTest::rowsAreComplete()
