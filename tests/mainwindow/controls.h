@@ -81,7 +81,9 @@ inline const Pair &pairOf(const char *slider)
 {
     const auto found = std::find_if(pairs.begin(), pairs.end(),
                                     [slider](const Pair &pair) { return qstrcmp(pair.slider, slider) == 0; });
-    Q_ASSERT(found != pairs.end());
+    if (found == pairs.end()) {
+        qFatal("there is no pair of the slider %s", slider);
+    }
     return *found;
 }
 
@@ -145,7 +147,9 @@ inline const ChoiceRow &choiceOf(const char *comboBox)
     const auto found = std::find_if(choiceRows.begin(), choiceRows.end(), [&](const ChoiceRow &row) {
         return qstrcmp(row.comboBox, comboBox) == 0;
     });
-    Q_ASSERT(found != choiceRows.end());
+    if (found == choiceRows.end()) {
+        qFatal("there is no choice of the combo box %s", comboBox);
+    }
     return *found;
 }
 
@@ -188,7 +192,9 @@ inline const RegionRow &regionOf(int number)
 {
     const auto found = std::find_if(regionRows.begin(), regionRows.end(),
                                     [number](const RegionRow &region) { return region.number == number; });
-    Q_ASSERT(found != regionRows.end());
+    if (found == regionRows.end()) {
+        qFatal("there is no region number %d", number);
+    }
     return *found;
 }
 

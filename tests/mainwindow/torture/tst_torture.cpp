@@ -9,11 +9,13 @@
 
 #include <QComboBox>
 #include <QElapsedTimer>
+#include <QMetaMethod>
 #include <QPlainTextEdit>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <algorithm>
+#include <cstddef>
 #include <optional>
 
 using veltrix_simulator::Call;
@@ -184,6 +186,7 @@ class TortureTest : public QObject
 
 private slots:
     void initTestCase();
+    void everyPathHasItsRow();
     void sessionsBearEveryFault_data() { addPaths(Group::Sessions); }
     void sessionsBearEveryFault() { goThrough(); }
     void settingsBearEveryFault_data() { addPaths(Group::Settings); }
@@ -203,13 +206,15 @@ private slots:
     void cleanupTestCase();
 
 private:
-    static void addPaths(Group group);
+    void addPaths(Group group);
     void goThrough();
 
     QTemporaryDir tables; ///< The files of bad pixels are written where the program runs.
     QElapsedTimer clock;
     int runs{0};
     int paths{0};
+    /// Where addPaths counts the rows instead of adding them; null while Qt Test collects them.
+    std::size_t *countedRows{nullptr};
 };
 
 void TortureTest::initTestCase()
@@ -219,8 +224,29 @@ void TortureTest::initTestCase()
     clock.start();
 }
 
+void TortureTest::everyPathHasItsRow()
+{
+    std::size_t rows{0};
+    countedRows = &rows;
+    const QMetaObject &type{*metaObject()};
+    for (int index{type.methodOffset()}; index < type.methodCount(); ++index) {
+        const QMetaMethod method{type.method(index)};
+        if (method.name().endsWith("_data")) {
+            QVERIFY(method.invoke(this, Qt::DirectConnection));
+        }
+    }
+    countedRows = nullptr;
+    QCOMPARE(rows, operatorPaths().size());
+}
+
 void TortureTest::addPaths(Group group)
 {
+    if (countedRows != nullptr) {
+        const std::vector<Path> &all{operatorPaths()};
+        *countedRows += static_cast<std::size_t>(
+            std::count_if(all.begin(), all.end(), [group](const Path &path) { return path.group == group; }));
+        return;
+    }
     QTest::addColumn<int>("place");
     int place{0};
     for (const Path &path : operatorPaths()) {
