@@ -108,6 +108,8 @@ void MainWindow::readOutputs()
     ui->VideoOutputCB->setCurrentIndex(device->getVideoOutput());
     appendLog("Video output = " + ui->VideoOutputCB->currentText().toStdString());
 
+    // A rate that the camera does not have is shown as 9 Hz, while a reset ends on 25 Hz: operators know
+    // both.
     ui->frameRateCB->setCurrentIndex(frameRateIndex(device->getFrameRate(), 0));
     appendLog("Frame rate = " + ui->frameRateCB->currentText().toStdString());
 }

@@ -23,7 +23,8 @@ void MainWindow::ResetParamsUser()
     }
     ISdkConfiguration &defaults{sdkConfiguration()};
 
-    // A rate that the camera does not have is reset to 25 Hz, while a read shows it as 9 Hz.
+    // A rate that the camera does not have is reset to 25 Hz, while a read shows it as 9 Hz: operators know
+    // both.
     ui->frameRateCB->setCurrentIndex(frameRateIndex(defaults.getDefaultFrameRate(), 1));
     resetNumbers(SequencePlace::Gamma, defaults);
     resetNumbers(SequencePlace::Clhe, defaults);

@@ -65,7 +65,7 @@ void MainWindow::gainControlChanged()
     }
 }
 
-// No control runs it; it can only be invoked by its name.
+// No control runs it. It stays because every handler is a slot, which scripts can invoke by its name.
 void MainWindow::ApplyParamsExpert()
 {
     appendLog("Start applying camera expert parameters");
@@ -109,7 +109,7 @@ void MainWindow::changePermanentButtonText()
     ui->PermanentButton->setText(ui->PermanentButton->isChecked() ? tr("Permanent") : tr("Not Permanent"));
 }
 
-// No control runs it; it can only be invoked by its name.
+// No control runs it. It stays because every handler is a slot, which scripts can invoke by its name.
 void MainWindow::ApplyNucRequest()
 {
     if (isDeviceOpen() && !device->processNucRequest()) {

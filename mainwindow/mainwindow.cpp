@@ -74,7 +74,8 @@ void MainWindow::removeWhatDoesNotApply(bool expertMode)
         ui->FusionZoomGridLayout->hide();
     }
 
-    // Administration, zoom and bad pixels are hidden in every installation; their handlers stay connected.
+    // Administration, zoom and bad pixels are hidden in every installation. Their handlers stay connected:
+    // reads fill these controls, and what fills some of them sends.
     ui->FusionAdministratorCommands->hide();
     ui->KR_tab->removeTab(zoomPage);
     ui->verticalFlipCheckBox->hide();

@@ -67,7 +67,8 @@ private slots:
     void readParamsExpert();
     void updateTabAvailability();
 
-    // Sliders and their spin boxes
+    // Sliders and their spin boxes. The slips in AhcBlackGainlimSliderChanged, AhcWhiteGainlimSliderChanged
+    // and gfiSendCommand stay: scripts invoke slots by their names.
     void GammaUserSliderChanged(int position);
     void GammaUserValueChanged(double value);
     void gammaUserSendCommand();

@@ -27,11 +27,6 @@ void showNumber(QSpinBox &spinBox, std::uint64_t value)
     spinBox.setValue(nearestInt(value));
 }
 
-void showNumber(QAbstractSlider &slider, std::uint64_t value)
-{
-    slider.setValue(nearestInt(value));
-}
-
 void showNumber(QDoubleSpinBox &spinBox, double value)
 {
     spinBox.setValue(std::isnan(value) ? spinBox.minimum() : value);

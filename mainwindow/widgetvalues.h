@@ -14,9 +14,6 @@
 /// Shows an unsigned number; beyond the spin box's range its nearest limit.
 void showNumber(QSpinBox &spinBox, std::uint64_t value);
 
-/// Shows an unsigned number; beyond the slider's range its nearest end.
-void showNumber(QAbstractSlider &slider, std::uint64_t value);
-
 /// Shows a number; beyond the spin box's range its nearest limit, NaN its minimum.
 void showNumber(QDoubleSpinBox &spinBox, double value);
 

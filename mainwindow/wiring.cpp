@@ -24,7 +24,7 @@ void MainWindow::wireTargetSelection()
 
 void MainWindow::wireSlidersAndSpinBoxes()
 {
-    // By text, as the rows name their slots; one kind of connection after the other.
+    // By text: the slots are private, so the rows can only name them. One kind of connection after the other.
     for (const SliderPair &pair : sliderPairs()) {
         connect(ui->*pair.slider, SIGNAL(valueChanged(int)), this, pair.sliderChanged);
     }
@@ -65,7 +65,8 @@ void MainWindow::wireFinishedEdits()
 
 void MainWindow::wireButtons()
 {
-    // resetBPRTableButton and bpGraphicEditorButton have no handler.
+    // resetBPRTableButton and bpGraphicEditorButton have no handler; they stay because the form is the
+    // product's.
     connect(ui->resetParamButtonUser, &QPushButton::clicked, this, &MainWindow::ResetParamsUser);
     connect(ui->readParamButtonUser, &QPushButton::clicked, this, &MainWindow::readAllParameters);
     connect(ui->readParamButtonExpert, &QPushButton::clicked, this, &MainWindow::readParamsExpert);
@@ -105,7 +106,8 @@ void MainWindow::wireButtons()
 
 void MainWindow::wireCheckBoxes()
 {
-    // verticalFlipCheckBox and checkBox have no handler: the first is sent with the expert parameters.
+    // verticalFlipCheckBox and checkBox have no handler; they stay because the form is the product's. The
+    // first is sent with the expert parameters.
     connect(ui->roi1IncEnable, &QCheckBox::stateChanged, this, &MainWindow::roi1IncCheck);
     connect(ui->roi0ExcEnable, &QCheckBox::stateChanged, this, &MainWindow::roi0ExcCheck);
     connect(ui->roi1ExcEnable, &QCheckBox::stateChanged, this, &MainWindow::roi1ExcCheck);
