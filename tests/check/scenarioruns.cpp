@@ -14,8 +14,7 @@ QVector<ScenarioRun> scenarioRuns()
           "setTarget (camera): answers false, so the unit is not reached",
           "setTarget (Blend Unit): answers false, so the unit is not reached",
           "setTarget (camera): answers false, so the unit is not reached",
-          ("presence (camera): every answer from getGsk in round 1 on is false or 0; look at the power "
-           "and the cable of the unit first")}},
+          "presence (camera): every answer from getGsk in round 1 on is false or 0; look at the power and the cable of the unit first"}},
         {"default", {}, {}},
         {"everything-refused",
          {"--repeat", "1"},
@@ -24,10 +23,9 @@ QVector<ScenarioRun> scenarioRuns()
         {"flaky-link",
          {},
          {"getVideoOutput (camera): answers 8 in round 2; the first answer was 0",
-          ("getEdgeCorrection (camera): answers type 0, gain 0, firstThreshold 0, secondThreshold 0 in "
-           "round 2; the first answer was type 0, gain 64, firstThreshold 20, secondThreshold 60"),
-          ("getZoomConfig (camera): answers false in round 3; the first answer was factor 1, xCenter 320, "
-           "yCenter 240, method 0"),
+          ("getEdgeCorrection (camera): answers type 0, gain 0, firstThreshold 0, secondThreshold 0 in round 2; "
+           "the first answer was type 0, gain 64, firstThreshold 20, secondThreshold 60"),
+          "getZoomConfig (camera): answers false in round 3; the first answer was factor 1, xCenter 320, yCenter 240, method 0",
           "getFrameRate (camera): answers 0 in round 3; the first answer was 60",
           "repeated reads (camera): 89 of 94 answers as before"}},
         {"forgetful",
@@ -50,8 +48,7 @@ QVector<ScenarioRun> scenarioRuns()
           "getGsk (camera): answers 2040682464; 1 to 3 is allowed",
           "getTint (camera): answers 1761186837; 0 to 20 is allowed",
           "getAhcGainLimitation (camera): answers 199; only 1 is success",
-          ("getEdgeCorrection (camera): type answers 50; 0 to 2 is allowed, gain answers 4237533473; 0 to "
-           "1024 is allowed"),
+          "getEdgeCorrection (camera): type answers 50; 0 to 2 is allowed, gain answers 4237533473; 0 to 1024 is allowed",
           "getRoiX1(0) (camera): answers 4294967295; 0 to 639 is allowed",
           "getRoiY1(0) (camera): answers 4237649075; 0 to 479 is allowed",
           "getRoiX2(0) (camera): answers 3296902223; 0 to 639 is allowed",
@@ -99,8 +96,7 @@ QVector<ScenarioRun> scenarioRuns()
           "getVisibleAgc (Blend Unit): answers false", "getVisibleClhe (Blend Unit): answers false",
           "getStartingMode (Blend Unit): answers false", "getWarp(0) (Blend Unit): answers false",
           "getWarp(1) (Blend Unit): answers false", "getWarp(2) (Blend Unit): answers false",
-          ("presence (Blend Unit): every answer from getFirmwareVersions in round 1 on is false or 0; "
-           "look at the power and the cable of the unit first")}},
+          "presence (Blend Unit): every answer from getFirmwareVersions in round 1 on is false or 0; look at the power and the cable of the unit first"}},
         {"silent-camera",
          {"--repeat", "1"},
          {"getFirmwareVersions (camera): answers false", "startReading (camera): answers false",
@@ -112,8 +108,7 @@ QVector<ScenarioRun> scenarioRuns()
           "getGamma (camera): answers 0; 32768 to 163840 is allowed",
           "getGsk (camera): answers 0; 1 to 3 is allowed", "getAhcGainLimitation (camera): answers false",
           "getEdgeCorrection (camera): secondThreshold answers 0; 40 or more is allowed",
-          ("presence (camera): every answer from getFirmwareVersions in round 1 on is false or 0; look at "
-           "the power and the cable of the unit first")}},
+          "presence (camera): every answer from getFirmwareVersions in round 1 on is false or 0; look at the power and the cable of the unit first"}},
         {"slow-link", {"--repeat", "1"}, {}},
         {"warming-up", {}, {}},
         {"wrong-answers",
@@ -136,8 +131,7 @@ QVector<ScenarioRun> scenarioRuns()
           "repeated reads (Blend Unit): 27 of 28 answers as before",
           "repeated reads (camera): 92 of 94 answers as before",
           "setVideoMode (Blend Unit): not tried, because getVideoMode answers 9; 0 to 2 is allowed",
-          ("setFrameRate (camera): not tried, because getFrameRate answers 15; 9, 25, 30, 50 or 60 is "
-           "allowed"),
+          "setFrameRate (camera): not tried, because getFrameRate answers 15; 9, 25, 30, 50 or 60 is allowed",
           "setClhe (camera): answers false to 0; back at 2000",
           "setColorLut (camera): set to 7, but getColorLut answers 0; back at 0",
           "setTint (camera): NOT RESTORED: setTint answers false and getTint 0 instead of 10"}},

@@ -134,13 +134,9 @@ void SdkCheckFaultsTest::namesTheAnswer_data()
     row("getAhcGainLimitation", Values{number(2), number(1), number(1)},
         "getAhcGainLimitation (camera): answers 2; only 1 is success");
     row("getAhcGainLimitation", Values{number(1), number(101), number(255)},
-        "getAhcGainLimitation (camera): black answers 101; 0 to 100 is allowed, white answers 255; 0 to 100 "
-        "is "
-        "allowed");
+        "getAhcGainLimitation (camera): black answers 101; 0 to 100 is allowed, white answers 255; 0 to 100 is allowed");
     row("getEdgeCorrection", Values{number(3), number(64), number(20), number(39)},
-        "getEdgeCorrection (camera): type answers 3; 0 to 2 is allowed, secondThreshold answers 39; 40 or "
-        "more is "
-        "allowed");
+        "getEdgeCorrection (camera): type answers 3; 0 to 2 is allowed, secondThreshold answers 39; 40 or more is allowed");
     row("getZoomResolution", Values{true, number(0), number(576)},
         "getZoomResolution (Blend Unit): x answers 0; 1 to 10000 is allowed");
     row("getVisibleAgc", Values{true, number(101), number(0), number(0)},
@@ -148,9 +144,7 @@ void SdkCheckFaultsTest::namesTheAnswer_data()
     row("getVisibleClhe", Values{true, number(65536), number(0)},
         "getVisibleClhe (Blend Unit): threshold answers 65536; 0 to 65535 is allowed");
     row("getWarp", Values{true, nan, 0.0, 0.0, infinity, 0.0, 0.0},
-        "getWarp(0) (Blend Unit): a11 answers nan; -32768 to 65536 is allowed, a22 answers inf; -32768 to "
-        "65536 "
-        "is allowed");
+        "getWarp(0) (Blend Unit): a11 answers nan; -32768 to 65536 is allowed, a22 answers inf; -32768 to 65536 is allowed");
     row("getZoomConfig", Values{true, nan, number(1), number(1), number(0)},
         "getZoomConfig (Blend Unit): factor answers nan; 1 to 8 is allowed");
     row("getZoomConfig", Values{true, 1.0, number(1281), number(1025), number(0)},
@@ -231,9 +225,7 @@ void SdkCheckFaultsTest::namesTheSetter_data()
     row({"setPolarity", 1, 1, Values{true}},
         {"setPolarity (camera): set to true, but getPolarity answers false; back at false"});
     row({"setAhcGainLimitation", 1, 2, Values{true}},
-        {"setAhcGainLimitation black (camera): set to 0, but getAhcGainLimitation answers black 20, white "
-         "80; back "
-         "at 20"});
+        {"setAhcGainLimitation black (camera): set to 0, but getAhcGainLimitation answers black 20, white 80; back at 20"});
     row({"configureZoom", 1, 1}, {"configureZoom factor (Blend Unit): answers false to 8; back at 1"});
     row({"setRoiY1", 1, 1, Values{true}},
         {"setRoiY1(0) (camera): set to 6, but getRoiY1 answers 5; back at 5"});

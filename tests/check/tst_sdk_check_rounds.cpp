@@ -89,23 +89,18 @@ void SdkCheckRoundsTest::skipsWhatNobodyAsksAUnitFor_data()
         QTest::addRow("%s", skipped) << fault << QString{skipped};
     };
     row({"getGamma", 1, 1, Values{number(5)}},
-        "getGamma (Blend Unit): answers 5; 32768 to 163840 is allowed; the program does not ask this unit "
-        "for it");
+        "getGamma (Blend Unit): answers 5; 32768 to 163840 is allowed; the program does not ask this unit for it");
     row({"getGamma", 3, 1, Values{number(65537)}},
-        "getGamma (Blend Unit): answers 65537 in round 2; the first answer was 65536; the program does not "
-        "ask this unit for it");
+        "getGamma (Blend Unit): answers 65537 in round 2; the first answer was 65536; the program does not ask this unit for it");
     row({"getOperatingInfo", 3, 1, Values{true, number(1), number(0)}},
-        "getOperatingInfo (Blend Unit): startupCount answers 0; 1 or more is allowed in round 2; the program "
-        "does not ask this unit for it");
+        "getOperatingInfo (Blend Unit): startupCount answers 0; 1 or more is allowed in round 2; the program does not ask this unit for it");
     row({"getAhcGainLimitation", 1, 1, Values{number(2), number(1), number(1)}},
-        "getAhcGainLimitation (Blend Unit): answers 2; only 1 is success; the program does not ask this unit "
-        "for it");
+        "getAhcGainLimitation (Blend Unit): answers 2; only 1 is success; the program does not ask this unit for it");
     row({"getVideoMode", 2, 1},
         "getVideoMode (camera): answers false; the program does not ask this unit for it");
     row({"getWarp", 5, 1}, "getWarp(1) (camera): answers false; the program does not ask this unit for it");
     row({"getZoomResolution", 2, 1, Values{true, number(720), number(0)}},
-        "getZoomResolution (camera): y answers 0; 1 to 10000 is allowed; the program does not ask this unit "
-        "for it");
+        "getZoomResolution (camera): y answers 0; 1 to 10000 is allowed; the program does not ask this unit for it");
 }
 
 void SdkCheckRoundsTest::skipsWhatNobodyAsksAUnitFor()
@@ -139,8 +134,8 @@ void SdkCheckRoundsTest::saysSinceWhenAUnitIsSilent_data()
     QTest::addRow("three faults up to the end")
         << QStringList{"getGsk", "getGfid", "getGms", "getTint"} + end
         << QStringList{"getGsk (camera): answers 0; 1 to 3 is allowed"} + wrongAtTheEnd +
-               QStringList{"presence (camera): every answer from getGsk in round 2 on is false or 0; look at "
-                           "the power and the cable of the unit first"};
+               QStringList{"presence (camera): every answer from getGsk in round 2 on is false or 0; "
+                           "look at the power and the cable of the unit first"};
 }
 
 void SdkCheckRoundsTest::saysSinceWhenAUnitIsSilent()

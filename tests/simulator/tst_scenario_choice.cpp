@@ -135,14 +135,12 @@ void ScenarioChoiceTest::processPlays_data()
     plays("path", directory.filePath("mine.toml"), "expert mode off, COM7 opens");
     plays("wrong file", "wrong.toml", broken,
           "veltrix.sdk: wrong.toml:2:1: \"lynk\" is unknown here; did you mean \"link\"?\n");
+    plays("missing file", "./missing", broken,
+          R"(veltrix.sdk: the scenario file "./missing" is no file or cannot be read; )"
+          "name a file that can be, or a scenario that the simulator brings along, such as \"default\"\n");
     plays(
-        "missing file", "./missing", broken,
-        R"(veltrix.sdk: the scenario file "./missing" is no file or cannot be read; name a file that can be, or a scenario )"
-        "that the simulator brings along, such as \"default\"\n");
-    plays("damaged memory", "forgetful.toml", broken,
-          "veltrix.sdk: the memory file \"damaged.json\" cannot be used: it is no object; repair it, "
-          "or delete "
-          "it to begin with an empty memory.\n");
+        "damaged memory", "forgetful.toml", broken,
+        "veltrix.sdk: the memory file \"damaged.json\" cannot be used: it is no object; repair it, or delete it to begin with an empty memory.\n");
     plays("unknown name", "no-port", broken,
           R"(veltrix.sdk: there is no scenario "no-port"; did you mean "no-ports"?)" + cure() + '\n');
 }
@@ -223,8 +221,7 @@ void ScenarioChoiceTest::refusedScenarioIsNamed_data()
     QTest::addColumn<QString>("nameOrPath");
     QTest::addColumn<QString>("message");
     const QString unreadable =
-        R"(" is no file or cannot be read; name a file that can be, or a scenario that the simulator )"
-        R"(brings along, such as "default")";
+        R"(" is no file or cannot be read; name a file that can be, or a scenario that the simulator brings along, such as "default")";
     const QString wrong = directory.filePath("wrong.toml");
     QTest::newRow("name") << "zzz"
                           << R"(there is no scenario "zzz".)" + cure();

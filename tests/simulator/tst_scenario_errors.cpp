@@ -61,14 +61,14 @@ void ScenarioErrorsTest::fileIsRefusedWith_data()
     refuses("mixed up key", "sede = 1", R"(flaky.toml:1:1: "sede" is unknown here; did you mean "seed"?)");
     refuses("unknown table", "[lynk]\nkind = \"none\"",
             R"(flaky.toml:1:2: "lynk" is unknown here; did you mean "link"?)");
-    refuses("nothing like it", "zzzzzzzz = 1",
-            R"(flaky.toml:1:1: "zzzzzzzz" is unknown here; it can be "seed", "configuration", )"
-            R"("camera", "blendUnit", "port", "link", "fault", "memory" or "life")");
+    refuses(
+        "nothing like it", "zzzzzzzz = 1",
+        R"(flaky.toml:1:1: "zzzzzzzz" is unknown here; it can be "seed", "configuration", "camera", "blendUnit", "port", "link", "fault", "memory" or "life")");
     refuses("case counts", "[[fault]]\noperation = \"setGamma\"\neffect = \"refuse\"\noncall = 3",
             R"(flaky.toml:4:1: "fault.oncall" is unknown here; did you mean "onCall"?)");
-    refuses("unknown key, few known", "[link]\nkind = \"none\"\nq = 1",
-            R"(flaky.toml:3:1: "link.q" is unknown here; it can be "kind", "millisecondsPerCall", )"
-            R"("bytesPerCommand", "baudRate", "thinkTimeMilliseconds" or "jitterMilliseconds")");
+    refuses(
+        "unknown key, few known", "[link]\nkind = \"none\"\nq = 1",
+        R"(flaky.toml:3:1: "link.q" is unknown here; it can be "kind", "millisecondsPerCall", "bytesPerCommand", "baudRate", "thinkTimeMilliseconds" or "jitterMilliseconds")");
     refuses("unknown key of a port", "[[port]]\nname = \"A\"\nopenning = \"opens\"",
             R"(flaky.toml:3:1: "port.openning" is unknown here; did you mean "opening"?)");
     refuses("unknown key of an argument", fault("argument = { place = 1, minimun = 3 }"),
@@ -83,9 +83,9 @@ void ScenarioErrorsTest::fileIsRefusedWith_data()
             R"(flaky.toml:2:1: "life.counter.interval" is unknown here; did you mean "intervalSeconds"?)");
     refuses("unknown key of a unit", "[camera]\ngama = 1",
             R"(flaky.toml:2:1: "camera.gama" is unknown here; did you mean "gamma"?)");
-    refuses("unknown inner key of a unit", "[camera]\ntemperatures.sensorMilikelvin = 1",
-            R"(flaky.toml:2:14: "camera.temperatures.sensorMilikelvin" is unknown here; did you mean )"
-            R"("sensorMillikelvin"?)");
+    refuses(
+        "unknown inner key of a unit", "[camera]\ntemperatures.sensorMilikelvin = 1",
+        R"(flaky.toml:2:14: "camera.temperatures.sensorMilikelvin" is unknown here; did you mean "sensorMillikelvin"?)");
     refuses("unknown key of the configuration", "[configuration]\nexpert = true",
             R"(flaky.toml:2:1: "configuration.expert" is unknown here; did you mean "expertMode"?)");
     refuses(
@@ -106,9 +106,9 @@ void ScenarioErrorsTest::fileIsRefusedWith_data()
     refuses("unit that is no table", "camera = 3", R"(flaky.toml:1:10: "camera" takes a table)");
     refuses("negative seed", "seed = -1",
             R"(flaky.toml:1:8: "seed" takes an integer from 0 to 9223372036854775807)");
-    refuses("seed that is too large", "seed = 9223372036854775808",
-            "flaky.toml:1:27: this is not TOML: Error while parsing decimal integer: '9223372036854775808' "
-            "is not representable in 64 bits");
+    refuses(
+        "seed that is too large", "seed = 9223372036854775808",
+        "flaky.toml:1:27: this is not TOML: Error while parsing decimal integer: '9223372036854775808' is not representable in 64 bits");
     refuses("column outside", "camera.badPixels = [[640, 0]]",
             R"(flaky.toml:1:22: "camera.badPixels" takes an integer from 0 to 639)");
     refuses("row outside", "camera.badPixels = [[0, 0],\n[0, 480]]",
@@ -142,9 +142,9 @@ void ScenarioErrorsTest::fileIsRefusedWith_data()
     refuses("serial key of a fixed link",
             "[link]\nkind = \"fixed\"\nmillisecondsPerCall = 1\nbaudRate = 9600",
             R"(flaky.toml:4:12: "link.baudRate" belongs to kind "serial", not to "fixed")");
-    refuses("jitter of no link", "[link]\nkind = \"none\"\njitterMilliseconds = 1",
-            R"(flaky.toml:3:22: "link.jitterMilliseconds" belongs to kind "fixed" or "serial", not to )"
-            R"("none")");
+    refuses(
+        "jitter of no link", "[link]\nkind = \"none\"\njitterMilliseconds = 1",
+        R"(flaky.toml:3:22: "link.jitterMilliseconds" belongs to kind "fixed" or "serial", not to "none")");
     refuses("negative time", "[link]\nkind = \"fixed\"\nmillisecondsPerCall = -1",
             R"(flaky.toml:3:23: "link.millisecondsPerCall" takes a number from 0 to 10000)");
     refuses("time that is no number", "[link]\nkind = \"fixed\"\nmillisecondsPerCall = nan",
@@ -177,13 +177,13 @@ void ScenarioErrorsTest::fileIsRefusedWith_data()
             R"(flaky.toml:4:9: "fault.after" knows no operation "setTargets"; did you mean "setTarget"?)");
     refuses("unknown target", fault(R"(target = "cam")"),
             R"(flaky.toml:4:10: "fault.target" takes "blendUnit" or "camera", not "cam")");
-    refuses("unknown effect", effectOn("setGamma", R"("refuses")"),
-            R"(flaky.toml:3:10: "fault.effect" takes "refuse", "answer", "stuck", "wrong", )"
-            R"("garbage", "late", "lostOnPowerCycle" or "cableOut", not "refuses")");
-    refuses("target of what has none",
-            "[[fault]]\noperation = \"openDevice\"\neffect = \"refuse\"\ntarget = \"camera\"",
-            R"(flaky.toml:2:13: "fault.operation" does not fit: "openDevice" is no operation of the )"
-            "device, and only those address a unit");
+    refuses(
+        "unknown effect", effectOn("setGamma", R"("refuses")"),
+        R"(flaky.toml:3:10: "fault.effect" takes "refuse", "answer", "stuck", "wrong", "garbage", "late", "lostOnPowerCycle" or "cableOut", not "refuses")");
+    refuses(
+        "target of what has none",
+        "[[fault]]\noperation = \"openDevice\"\neffect = \"refuse\"\ntarget = \"camera\"",
+        R"(flaky.toml:2:13: "fault.operation" does not fit: "openDevice" is no operation of the device, and only those address a unit)");
     refuses("onCall with fromCall", fault("onCall = 3\nfromCall = 4"),
             R"(flaky.toml:5:12: "fault.fromCall" cannot stand beside "onCall")");
     refuses("fromCall with onCall", fault("fromCall = 3\nonCall = 4"),
@@ -209,50 +209,49 @@ void ScenarioErrorsTest::fileIsRefusedWith_data()
     refuses(
         "answer that is too short", effectOn("getVideoMode", "\"answer\"\nanswer = [true]"),
         R"(flaky.toml:4:10: "fault.answer" does not fit: an answer of "getVideoMode" has 2 values, not 1)");
-    refuses("answer of another type", effectOn("getVideoMode", "\"answer\"\nanswer = [true, \"much\"]"),
-            R"(flaky.toml:4:10: "fault.answer" does not fit: value 2 of an answer of "getVideoMode" is an )"
-            "integer from 0 to 255");
-    refuses("answer for one that answers less",
-            effectOn("get*", "\"answer\"\nanswer = [1, 2, 3, 4, 5, 6, 7, 8]"),
-            R"(flaky.toml:4:10: "fault.answer" does not fit: an answer of "getFirmwareVersions" has 3 )"
-            "values, not 8");
+    refuses(
+        "answer of another type", effectOn("getVideoMode", "\"answer\"\nanswer = [true, \"much\"]"),
+        R"(flaky.toml:4:10: "fault.answer" does not fit: value 2 of an answer of "getVideoMode" is an integer from 0 to 255)");
+    refuses(
+        "answer for one that answers less", effectOn("get*", "\"answer\"\nanswer = [1, 2, 3, 4, 5, 6, 7, 8]"),
+        R"(flaky.toml:4:10: "fault.answer" does not fit: an answer of "getFirmwareVersions" has 3 values, not 8)");
     refuses("late without a delay", effectOn("getGamma", R"("late")"),
             R"(flaky.toml:1:1: "fault" lacks "delayMilliseconds")");
     refuses("delay that is too long", effectOn("getGamma", "\"late\"\ndelayMilliseconds = 10001"),
             R"(flaky.toml:4:21: "fault.delayMilliseconds" takes a number from 0 to 10000)");
-    refuses("stuck reader", effectOn("getGamma", R"("stuck")"),
-            R"(flaky.toml:2:13: "fault.operation" does not fit: "getGamma" changes nothing of a unit, so )"
-            "nothing can be stuck");
-    refuses("pattern that the effect does not fit", effectOn("get*", R"("stuck")"),
-            R"(flaky.toml:2:13: "fault.operation" does not fit: "getFirmwareVersions" changes nothing of a )"
-            "unit, so nothing can be stuck");
+    refuses(
+        "stuck reader", effectOn("getGamma", R"("stuck")"),
+        R"(flaky.toml:2:13: "fault.operation" does not fit: "getGamma" changes nothing of a unit, so nothing can be stuck)");
+    refuses(
+        "pattern that the effect does not fit", effectOn("get*", R"("stuck")"),
+        R"(flaky.toml:2:13: "fault.operation" does not fit: "getFirmwareVersions" changes nothing of a unit, so nothing can be stuck)");
     refuses("argument without a place", fault("argument = { minimum = 3 }"),
             R"(flaky.toml:4:12: "fault.argument" lacks "place")");
     refuses("argument in place zero", fault("argument = { place = 0 }"),
             R"(flaky.toml:4:22: "fault.argument.place" takes an integer from 1 to 100)");
-    refuses("argument that is not there", fault("argument = { place = 2, minimum = 0 }"),
-            R"(flaky.toml:4:12: "fault.argument" does not fit: "setGamma" takes 1 number, so there is no )"
-            "number 2");
+    refuses(
+        "argument that is not there", fault("argument = { place = 2, minimum = 0 }"),
+        R"(flaky.toml:4:12: "fault.argument" does not fit: "setGamma" takes 1 number, so there is no number 2)");
     refuses("argument without a range", fault("argument = { place = 1 }"),
             R"(flaky.toml:4:12: "fault.argument" lacks "minimum" or "maximum")");
-    refuses("argument that is never so large",
-            "[[fault]]\noperation = \"setVideoMode\"\neffect = \"refuse\"\n"
-            "argument = { place = 1, minimum = 300 }",
-            R"(flaky.toml:4:12: "fault.argument" does not fit: argument 1 of "setVideoMode" is an integer )"
-            "from 0 to 255, which is never in this range");
+    refuses(
+        "argument that is never so large",
+        "[[fault]]\noperation = \"setVideoMode\"\neffect = \"refuse\"\n"
+        "argument = { place = 1, minimum = 300 }",
+        R"(flaky.toml:4:12: "fault.argument" does not fit: argument 1 of "setVideoMode" is an integer from 0 to 255, which is never in this range)");
     refuses("never once", fault("once = false"),
             R"(flaky.toml:4:8: "fault.once" takes true, or is left out)");
-    refuses("no chance", fault("probability = 0"),
-            R"(flaky.toml:4:15: "fault.probability" takes a number above 0: a fault without a chance never )"
-            "happens");
+    refuses(
+        "no chance", fault("probability = 0"),
+        R"(flaky.toml:4:15: "fault.probability" takes a number above 0: a fault without a chance never happens)");
     refuses("empty range", fault("argument = { place = 1, minimum = 3, maximum = 2 }"),
             R"(flaky.toml:4:35: "fault.argument.minimum" is above the maximum)");
     refuses("memory without a file", "[memory]", R"(flaky.toml:1:1: "memory" lacks "file")");
     refuses("file without a name", R"(memory.file = "")",
             R"(flaky.toml:1:15: "memory.file" takes a text that is not empty and of one line)");
-    refuses("drift of an unknown key", "[[life.drift]]\nkey = \"camera.gama\"\nend = 1\nhalfTimeSeconds = 1",
-            R"(flaky.toml:2:7: "life.drift.key" knows no number of a unit "camera.gama"; did you mean )"
-            R"("camera.gamma"?)");
+    refuses(
+        "drift of an unknown key", "[[life.drift]]\nkey = \"camera.gama\"\nend = 1\nhalfTimeSeconds = 1",
+        R"(flaky.toml:2:7: "life.drift.key" knows no number of a unit "camera.gama"; did you mean "camera.gamma"?)");
     refuses("life without time", "[[life.counter]]\nkey = \"camera.gamma\"\nintervalSeconds = 1",
             R"(flaky.toml:1:1: "life" needs millisecondsPerCall or a link: without them no time goes by)");
     refuses(
@@ -262,9 +261,9 @@ void ScenarioErrorsTest::fileIsRefusedWith_data()
         R"(flaky.toml:7:7: "life.counter.key" drifts or counts already: "camera.gamma")");
     refuses("text that ends early", R"(configuration.communicationType = "UA\u0000RT")",
             R"(flaky.toml:1:35: "configuration.communicationType" takes a text)");
-    refuses("drift of a switch", "[[life.drift]]\nkey = \"camera.polarity\"\nend = 1\nhalfTimeSeconds = 1",
-            R"(flaky.toml:2:7: "life.drift.key" knows no number of a unit "camera.polarity"; did you mean )"
-            R"("camera.identity"?)");
+    refuses(
+        "drift of a switch", "[[life.drift]]\nkey = \"camera.polarity\"\nend = 1\nhalfTimeSeconds = 1",
+        R"(flaky.toml:2:7: "life.drift.key" knows no number of a unit "camera.polarity"; did you mean "camera.identity"?)");
     refuses("drift without an end", "[[life.drift]]\nkey = \"camera.gamma\"\nhalfTimeSeconds = 1",
             R"(flaky.toml:1:1: "life.drift" lacks "end")");
     refuses("drift to an integer that a double cannot hold",
@@ -284,12 +283,12 @@ void ScenarioErrorsTest::fileIsRefusedWith_data()
             R"(flaky.toml:1:1: "life.counter" lacks "intervalSeconds")");
     refuses("no TOML", "seed =",
             "flaky.toml:1:7: this is not TOML: Error while parsing key-value pair: encountered end-of-file");
-    refuses("key twice", "seed = 1\nseed = 2",
-            "flaky.toml:2:8: this is not TOML: Error while parsing key-value pair: cannot redefine existing "
-            "integer 'seed'");
-    refuses("table twice", "[link]\nkind = \"none\"\n[link]",
-            "flaky.toml:3:1: this is not TOML: Error while parsing table header: cannot redefine existing "
-            "table 'link'");
+    refuses(
+        "key twice", "seed = 1\nseed = 2",
+        "flaky.toml:2:8: this is not TOML: Error while parsing key-value pair: cannot redefine existing integer 'seed'");
+    refuses(
+        "table twice", "[link]\nkind = \"none\"\n[link]",
+        "flaky.toml:3:1: this is not TOML: Error while parsing table header: cannot redefine existing table 'link'");
     refuses("unclosed text", "[memory]\nfile = \"x",
             "flaky.toml:2:10: this is not TOML: Error while parsing string: encountered end-of-file");
     refuses("letters in a key", "seed = 1\ngröße = 1",
@@ -298,9 +297,9 @@ void ScenarioErrorsTest::fileIsRefusedWith_data()
             "flaky.toml:2:4: this is not TOML: Error while parsing table header: expected ']', saw 'ö'");
     refuses("sign in a heading", "seed = 1\n\n[[~ort]]\nname = \"A\"",
             "flaky.toml:3:1: this is not TOML: this line has a character that needs quotes");
-    refuses("sign in a key", "seed = 1\n~ = 3",
-            "flaky.toml:2:1: this is not TOML: Error while parsing root table: expected keys, tables, "
-            "whitespace or comments, saw '~'");
+    refuses(
+        "sign in a key", "seed = 1\n~ = 3",
+        "flaky.toml:2:1: this is not TOML: Error while parsing root table: expected keys, tables, whitespace or comments, saw '~'");
     refuses("letter for a value", "seed = é",
             "flaky.toml:1:8: this is not TOML: Error while parsing value: could not determine value type");
     refuses("letters in a text", "[memory]\nfile = \"größe.json\"", "fine");

@@ -9,7 +9,7 @@
 #include "time/life.h"
 #include "veltrix_simulator/simulator.h"
 
-#include <algorithm>
+#include <cstddef>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -69,11 +69,11 @@ std::variant<Scenario, std::string> findScenario(const std::string &nameOrPath)
 {
     if (isPath(nameOrPath)) {
         const std::optional<std::string> text = bytesOf(nameOrPath);
-        return text ? read(*text, nameOrPath, nameOrPath)
-                    : "the scenario file " + inQuotes(nameOrPath) +
-                          " is no file or cannot be read; name a file that can be, or a scenario that the "
-                          "simulator "
-                          "brings along, such as \"default\"";
+        return text
+                   ? read(*text, nameOrPath, nameOrPath)
+                   : "the scenario file " + inQuotes(nameOrPath) +
+                         " is no file or cannot be read; "
+                         "name a file that can be, or a scenario that the simulator brings along, such as \"default\"";
     }
     std::vector<std::string> names;
     for (const ShippedScenario &shipped : shippedScenarios()) {
