@@ -9,7 +9,6 @@
 #include <QTextStream>
 
 #include <algorithm>
-#include <cstdint>
 #include <functional>
 #include <limits>
 

@@ -3,6 +3,7 @@
 // Throws bytes at the parser of the tables of bad pixels.
 #include "units/bprfile.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <string>

@@ -3,6 +3,7 @@
 // Throws bytes at the parser of the files of saved parameters.
 #include "units/memoryfile.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <string>

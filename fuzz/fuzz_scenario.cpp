@@ -4,6 +4,7 @@
 #include "scenarios/scenarioreader.h"
 #include "simulation.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <string>

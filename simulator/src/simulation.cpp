@@ -37,7 +37,8 @@ Simulation::Simulation()
     }
 }
 
-// The default scenario in the place of the wrong one would pass for the camera that was asked for.
+// Played instead, the default scenario would look like a healthy camera, and the mistake in the file would go
+// unnoticed.
 void Simulation::refuseToOpen(const char *reason)
 {
     log.write(veltrix_sdk::severity_error, reason);

@@ -22,8 +22,9 @@
 namespace veltrix_simulator
 {
 
-/// All objects of the simulation; there is one set in a process. The objects of the contract refer to the
-/// state and the path of calls, which stand behind them because they need the objects' words and addresses.
+/// All objects of the simulation; there is one set in a process. The objects of the contract keep references
+/// to state and path, which are declared after them because State needs the configuration's words and
+/// CallPath the objects' addresses.
 struct Simulation
 {
     /// Power-on with the scenario that the environment chooses.

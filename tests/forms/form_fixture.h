@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// The bare main window form, look-ups that say what there is, and a translator that listens.
-
+// The main window's form without handlers, look-ups that list the names there are, and a translator that
+// notes what it is asked for.
 #pragma once
 
 #include "ui_mainwindow.h"

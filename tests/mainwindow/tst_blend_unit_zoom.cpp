@@ -164,7 +164,7 @@ void BlendUnitZoomTest::factorText_data()
     row("1e+06", 1e6, 8.0);
     row("inf", qInf(), 8.0);
     row("-inf", -qInf(), 1.0);
-    // Not a number has no place in the box, which is to show one of its own.
+    // The box cannot show NaN and shows its minimum.
     row("nan", qQNaN(), 1.0);
 }
 

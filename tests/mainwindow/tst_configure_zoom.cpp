@@ -101,7 +101,7 @@ void ConfigureZoomTest::configureSendsFactorAndMethodOfTheFusionPage()
     TestWindow test;
     beConnectedAndZoomed(test);
     enterFusionZoom(test, "2.5", Qt::Key_B);
-    // What the infrared side shows is of no account.
+    // Only the fusion page is sent, whatever the infrared page shows.
     test.child<QDoubleSpinBox>("factorZoomEdit").setValue(7.0);
     test.child<QSpinBox>("xCenterZoomEdit").setValue(11);
     test.child<QSpinBox>("yCenterZoomEdit").setValue(12);

@@ -78,7 +78,7 @@ void RepeatableScenariosTest::scenarioMakesTheSameTrace_data()
 {
     QTest::addColumn<QString>("name");
     for (const QFileInfo &file : QDir{QStringLiteral(SCENARIOS)}.entryInfoList({QStringLiteral("*.toml")})) {
-        // What is slow there is not what is drawn.
+        // Left out: it takes long, and nothing in it is drawn from the seed.
         if (file.completeBaseName() != QStringLiteral("slow-link")) {
             QTest::newRow(qPrintable(file.completeBaseName())) << file.completeBaseName();
         }

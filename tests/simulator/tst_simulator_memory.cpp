@@ -444,7 +444,7 @@ void SimulatorMemoryTest::cutFileIsRefused()
 
 void SimulatorMemoryTest::anyChangedByteIsBorne()
 {
-    // What JSON knows, what it does not, and what is no text.
+    // Characters that JSON uses, others, and bytes that are not UTF-8.
     const QByteArray others("\0\t \"-.09:,[]{}\\etx\x7F\x80\xC3\xFF", 22);
     int accepted{0};
     for (int place{0}; place < expertFile.size(); ++place) {
@@ -459,7 +459,7 @@ void SimulatorMemoryTest::anyChangedByteIsBorne()
             }
         }
     }
-    // A digit for a digit and white space for white space make another whole file.
+    // A file is still valid when a digit replaces a digit, or white space other white space.
     QVERIFY2(accepted > 100 && accepted < 2'000, qPrintable(QString::number(accepted)));
 }
 

@@ -14,7 +14,6 @@
 #include <cstdint>
 #include <limits>
 #include <optional>
-#include <type_traits>
 #include <utility>
 
 namespace veltrix_simulator

@@ -44,7 +44,8 @@ public:
 
     bool passes() const { return link.kind != Link::Kind::None; }
 
-    /// What the next call takes, bounded, at this many bits per second; the link's own rate goes before.
+    /// What the next call takes, bounded, at this many bits per second; a rate of the link itself replaces
+    /// it.
     std::chrono::microseconds next(std::int32_t baudRate);
 
 private:
