@@ -177,7 +177,8 @@ void MainWindow::readLut()
 
     const std::uint8_t contrastType{device->getContrastType()};
     ui->contrastTypeEdit->setCurrentIndex(contrastType);
-    appendLog(joinText("Contrast type = ", contrastType == 0 ? "CLHE (ROI)" : "CLAHE (LOCAL)"));
+    appendLog(
+        joinText("Contrast type = ", contrastType == contrastTypeClhe ? "CLHE (ROI)" : "CLAHE (LOCAL)"));
 
     readNumbers(SequencePlace::LutFilter);
 

@@ -6,6 +6,7 @@
 #include "encodings.h"
 #include "veltrix_sdk/configuration.h"
 #include "veltrix_sdk/device_control.h"
+#include "veltrix_sdk/numbers.h"
 #include "veltrix_sdk/records.h"
 #include "widgetvalues.h"
 
@@ -22,7 +23,7 @@ namespace
 constexpr double oneStepAUnit{1.0};
 constexpr double tenStepsAUnit{10.0};
 constexpr double fromZero{0.0};
-constexpr double lowestGamma{0.5};
+constexpr double lowestGamma{static_cast<double>(gammaRange.minimum) / fixedPointOne};
 
 } // namespace
 

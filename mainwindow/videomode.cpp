@@ -27,9 +27,12 @@ namespace
 constexpr std::uint8_t unknownMode{99};
 
 constexpr std::array<VideoMode, 3> videoModes{{
-    {0, &Ui_MainWindow::BU_IR_MODE_PB, "IR mode activated", "Could not configure IR mode"},
-    {1, &Ui_MainWindow::BU_VISIBLE_MODE_PB, "Visible mode activated", "Could not configure visible mode"},
-    {2, &Ui_MainWindow::BU_FUSION_MODE_PB, "Fusion mode activated", "Could not configure fusion mode"},
+    {veltrix_sdk::videoModeInfrared, &Ui_MainWindow::BU_IR_MODE_PB, "IR mode activated",
+     "Could not configure IR mode"},
+    {veltrix_sdk::videoModeVisible, &Ui_MainWindow::BU_VISIBLE_MODE_PB, "Visible mode activated",
+     "Could not configure visible mode"},
+    {veltrix_sdk::videoModeFusion, &Ui_MainWindow::BU_FUSION_MODE_PB, "Fusion mode activated",
+     "Could not configure fusion mode"},
 }};
 static_assert(videoModes.size() == veltrix_sdk::videoModeRange.maximum + 1);
 
