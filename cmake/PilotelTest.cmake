@@ -3,16 +3,18 @@
 # Test programs and their entries in CTest.
 include_guard(GLOBAL)
 
-# pilotel_add_tests(<program> ENTRIES <entry>... [SOURCES <file>...] [LIBRARIES <target>...] [WINDOW])
+# pilotel_add_tests(<program> ENTRIES <entry>... [SOURCES <file>...] [LIBRARIES <target>...]
+#                   [WINDOW] [OPTIMISED])
 #
 # A program of several test classes. The entry tst_bad_pixels runs the class that tst_bad_pixels.cpp registers; an entry
 # tst_torture.settings runs one function of a class, so that several processors share a long one. Every entry is a
 # process of its own, off screen, in Fusion style, in a working directory of its own. With WINDOW the tests get a
-# QApplication, else a QCoreApplication. SOURCES are what the tests share.
+# QApplication, else a QCoreApplication. SOURCES are what the tests share. With OPTIMISED they are compiled as the
+# program is; else less optimised, since most tests run for moments and take longer to compile.
 #
 # One more entry, <program>.entries, holds the entries against what the program has to run.
 function(pilotel_add_tests program)
-    cmake_parse_arguments(TEST "WINDOW" "" "ENTRIES;SOURCES;LIBRARIES" ${ARGN})
+    cmake_parse_arguments(TEST "WINDOW;OPTIMISED" "" "ENTRIES;SOURCES;LIBRARIES" ${ARGN})
     set(classes ${TEST_ENTRIES})
     list(TRANSFORM classes REPLACE "\\..*" "")
     list(REMOVE_DUPLICATES classes)
@@ -26,9 +28,8 @@ function(pilotel_add_tests program)
     add_executable(${program} ${sources} ${TEST_SOURCES})
     set_target_properties(${program} PROPERTIES AUTOMOC ON)
     target_link_libraries(${program} PRIVATE ${TEST_LIBRARIES} ${runner} Qt5::Test pilotel::warnings)
-    if(NOT MSVC)
-        # A test runs for moments, and its compilation is what takes time.
-        target_compile_options(${program} PRIVATE $<$<CONFIG:Release>:-O1>)
+    if(NOT MSVC AND NOT TEST_OPTIMISED)
+        target_compile_options(${program} PRIVATE $<$<CONFIG:Release>:-O1> $<$<CONFIG:RelWithDebInfo>:-O0>)
     endif()
     set(compiled ${sources} ${TEST_SOURCES})
     list(FILTER compiled INCLUDE REGEX "\\.cpp$")
