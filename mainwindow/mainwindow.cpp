@@ -4,6 +4,7 @@
 #include "mainwindow.h"
 
 #include "dialog.h"
+#include "mainwindowform.h"
 #include "ui_mainwindow.h"
 #include "veltrix_sdk/configuration.h"
 #include "veltrix_sdk/sdk.h"
@@ -32,7 +33,7 @@ MainWindow::MainWindow(QWidget *parent)
     sdk->initialize();
     ISdkConfiguration *const configuration{sdk->getConfiguration()};
 
-    ui->setupUi(this);
+    setUpForm(*ui, *this);
     // Nobody undoes a log; remembering every line for it would only cost time and memory.
     ui->logView->setUndoRedoEnabled(false);
 

@@ -5,15 +5,10 @@
 
 MainForm::MainForm()
 {
-    ui.setupUi(&window);
+    setUpForm(ui, window);
 }
 
 void MainForm::retranslate()
 {
-    ui.retranslateUi(&window);
-}
-
-void setUpForm(Ui_MainWindow &ui, QMainWindow &window)
-{
-    ui.setupUi(&window);
+    retranslateForm(ui, window);
 }

@@ -4,6 +4,7 @@
 // notes what it is asked for.
 #pragma once
 
+#include "mainwindowform.h"
 #include "ui_mainwindow.h"
 
 #include <QCoreApplication>
@@ -25,9 +26,6 @@ struct MainForm
     MainForm();
     void retranslate();
 };
-
-/// Puts the form onto a window of the test's own.
-void setUpForm(Ui_MainWindow &ui, QMainWindow &window);
 
 /// What to print when a look-up found nothing: the names of that class which do exist below `root`.
 template <typename Object>
