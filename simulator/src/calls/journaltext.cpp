@@ -25,7 +25,8 @@ public:
     void argument(const T &value)
     {
         if (line.back() != '(') {
-            line.append(", ");
+            line.push_back(',');
+            line.push_back(' ');
         }
         append(value);
     }
@@ -80,13 +81,15 @@ private:
 
     void append(const ReadNumbers &record)
     {
-        std::string_view separator{"{"};
+        line.push_back('{');
         for (const Member &member : record.members()) {
-            line.append(separator).append(member.name).push_back('=');
+            line.append(member.name).push_back('=');
             append(Number{member.kind, record.at(member)});
-            separator = ", ";
+            line.push_back(',');
+            line.push_back(' ');
         }
-        line.push_back('}');
+        line.pop_back();
+        line.back() = '}';
     }
 
     std::string &line;
