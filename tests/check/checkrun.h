@@ -7,8 +7,23 @@
 #include "veltrix_simulator/simulator.h"
 
 #include <QMap>
+#include <QMetaType>
 #include <QString>
 #include <QStringList>
+
+#include <cstdint>
+#include <vector>
+
+/// What an operation answers: its result, then what it fills.
+using Answer = std::vector<veltrix_simulator::Value>;
+
+Q_DECLARE_METATYPE(veltrix_simulator::Fault)
+
+/// A whole number of an answer, whatever its type in the source.
+constexpr std::int64_t number(std::int64_t value)
+{
+    return value;
+}
 
 /// What a run of the check said and how it ended.
 struct CheckRun

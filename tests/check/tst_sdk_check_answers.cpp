@@ -15,8 +15,9 @@
 #include <string>
 #include <vector>
 
-using namespace device_settings;
-using namespace sdk_check;
+using device_settings::Allowed;
+using device_settings::between;
+using device_settings::oneOf;
 
 Q_DECLARE_METATYPE(Allowed)
 
@@ -70,7 +71,7 @@ void SdkCheckAnswersTest::saysNumbers()
 {
     QFETCH(const double, number);
     QFETCH(const QString, text);
-    QCOMPARE(QString::fromStdString(numberText(number)), text);
+    QCOMPARE(QString::fromStdString(device_settings::numberText(number)), text);
 }
 
 void SdkCheckAnswersTest::allowsNumbers_data()
@@ -113,12 +114,12 @@ void SdkCheckAnswersTest::escapesText()
 {
     QFETCH(const QByteArray, text);
     QFETCH(const QString, shown);
-    QCOMPARE(QString::fromStdString(escaped(text.toStdString())), shown);
+    QCOMPARE(QString::fromStdString(sdk_check::escaped(text.toStdString())), shown);
 }
 
 void SdkCheckAnswersTest::shortensLongText()
 {
-    const std::string shown{escaped(std::string(300, 'x'))};
+    const std::string shown{sdk_check::escaped(std::string(300, 'x'))};
     QCOMPARE(QString::fromStdString(shown), QString(200, 'x') + "...");
 }
 
@@ -145,23 +146,23 @@ void SdkCheckAnswersTest::ranksTimes()
     for (int time{count}; time > 0; --time) {
         times.emplace_back(time);
     }
-    QCOMPARE(qint64{percentile(times, static_cast<std::size_t>(percent)).count()}, expected);
+    QCOMPARE(qint64{sdk_check::percentile(times, static_cast<std::size_t>(percent)).count()}, expected);
 }
 
 void SdkCheckAnswersTest::failsOnlyByWhatFails()
 {
     std::ostringstream lines;
-    Report report{&lines};
+    sdk_check::Report report{&lines};
     QVERIFY(report.allHold());
-    report.add({Outcome::Holds, "getGamma", "camera", "65536"});
-    report.add({Outcome::Skipped, "setGfid", "camera", "no other value"});
+    report.add({sdk_check::Outcome::Holds, "getGamma", "camera", "65536"});
+    report.add({sdk_check::Outcome::Skipped, "setGfid", "camera", "no other value"});
     QVERIFY(report.allHold());
-    report.add({Outcome::Fails, "connect", "", "answers false"});
+    report.add({sdk_check::Outcome::Fails, "connect", "", "answers false"});
     QVERIFY(!report.allHold());
     QCOMPARE(QString::fromStdString(lines.str()), QString{"ok     getGamma (camera): 65536\n"
                                                           "skip   setGfid (camera): no other value\n"
                                                           "not ok connect: answers false\n"});
-    Report interrupted{nullptr};
+    sdk_check::Report interrupted{nullptr};
     interrupted.setInterrupted();
     QVERIFY(!interrupted.allHold());
 }

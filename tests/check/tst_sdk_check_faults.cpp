@@ -16,22 +16,15 @@
 using sdk_check::Options;
 using veltrix_simulator::Fault;
 using veltrix_simulator::Value;
-using Values = std::vector<Value>;
 
 namespace
 {
-
-std::int64_t number(std::int64_t value)
-{
-    return value;
-}
 
 const Options reading{"SIM1", false, 2};
 const Options writing{"SIM1", true, 1};
 
 } // namespace
 
-Q_DECLARE_METATYPE(Fault)
 Q_DECLARE_METATYPE(Value)
 
 class SdkCheckFaultsTest : public QObject
@@ -75,8 +68,8 @@ void SdkCheckFaultsTest::namesWhatIsMissing_data()
     row({"getDeviceManager"}, {"getDeviceManager: answers null"});
     row({"openDevice"}, {"openDevice: answers null for the port SIM1"});
     row({"connect"}, {"connect: answers false"});
-    row({"connect", 1, 0, Values{number(2), number(21)}}, {"connect: answers 2; only 1 is success"});
-    row({"connect", 1, 0, Values{number(1), number(22)}}, {"connect: identity answers 22; 21 is allowed"});
+    row({"connect", 1, 0, Answer{number(2), number(21)}}, {"connect: answers 2; only 1 is success"});
+    row({"connect", 1, 0, Answer{number(1), number(22)}}, {"connect: identity answers 22; 21 is allowed"});
     row({"setTarget"}, {"setTarget (Blend Unit): answers false, so the unit is not reached",
                         "setTarget (Blend Unit): answers false, so the unit is not reached",
                         "setTarget (camera): answers false, so the unit is not reached",
@@ -107,57 +100,57 @@ void SdkCheckFaultsTest::namesTheAnswer_data()
 {
     QTest::addColumn<Fault>("fault");
     QTest::addColumn<QString>("notOk");
-    const auto row = [](const char *operation, const std::optional<Values> &answer, const char *notOk) {
+    const auto row = [](const char *operation, const std::optional<Answer> &answer, const char *notOk) {
         QTest::addRow("%s", notOk) << Fault{operation, 1, 0, answer} << QString{notOk};
     };
     constexpr double nan{std::numeric_limits<double>::quiet_NaN()};
-    constexpr double infinity{std::numeric_limits<double>::infinity()};
+    constexpr double infinite{std::numeric_limits<double>::infinity()};
     row("getVideoMode", std::nullopt, "getVideoMode (Blend Unit): answers false");
-    row("getVideoMode", Values{true, number(9)}, "getVideoMode (Blend Unit): answers 9; 0 to 2 is allowed");
-    row("getStartingMode", Values{true, number(4)},
+    row("getVideoMode", Answer{true, number(9)}, "getVideoMode (Blend Unit): answers 9; 0 to 2 is allowed");
+    row("getStartingMode", Answer{true, number(4)},
         "getStartingMode (Blend Unit): answers 4; 0 to 3 is allowed");
-    row("getFrameRate", Values{number(15)},
+    row("getFrameRate", Answer{number(15)},
         "getFrameRate (camera): answers 15; 9, 25, 30, 50 or 60 is allowed");
     row("getGamma", std::nullopt, "getGamma (camera): answers 0; 32768 to 163840 is allowed");
-    row("getClhe", Values{number(30001)}, "getClhe (camera): answers 30001; 0 to 30000 is allowed");
-    row("getColorLut", Values{number(8)}, "getColorLut (camera): answers 8; 0 to 7 is allowed");
-    row("getContrastType", Values{number(2)}, "getContrastType (camera): answers 2; 0 to 1 is allowed");
-    row("getVideoOutput", Values{number(9)}, "getVideoOutput (camera): answers 9; 0 to 8 is allowed");
-    row("getLutTemporalFilter", Values{number(9)},
+    row("getClhe", Answer{number(30001)}, "getClhe (camera): answers 30001; 0 to 30000 is allowed");
+    row("getColorLut", Answer{number(8)}, "getColorLut (camera): answers 8; 0 to 7 is allowed");
+    row("getContrastType", Answer{number(2)}, "getContrastType (camera): answers 2; 0 to 1 is allowed");
+    row("getVideoOutput", Answer{number(9)}, "getVideoOutput (camera): answers 9; 0 to 8 is allowed");
+    row("getLutTemporalFilter", Answer{number(9)},
         "getLutTemporalFilter (camera): answers 9; 0 to 8 is allowed");
     row("getGsk", std::nullopt, "getGsk (camera): answers 0; 1 to 3 is allowed");
-    row("getTint", Values{number(4294967295)}, "getTint (camera): answers 4294967295; 0 to 20 is allowed");
+    row("getTint", Answer{number(4294967295)}, "getTint (camera): answers 4294967295; 0 to 20 is allowed");
     row("getSensorSerialNumber", std::nullopt,
         "getSensorSerialNumber (camera): answers 0; 1 or more is allowed");
-    row("getOperatingInfo", Values{true, number(1), number(0)},
+    row("getOperatingInfo", Answer{true, number(1), number(0)},
         "getOperatingInfo (camera): startupCount answers 0; 1 or more is allowed");
-    row("getAhcGainLimitation", Values{number(2), number(1), number(1)},
+    row("getAhcGainLimitation", Answer{number(2), number(1), number(1)},
         "getAhcGainLimitation (camera): answers 2; only 1 is success");
-    row("getAhcGainLimitation", Values{number(1), number(101), number(255)},
+    row("getAhcGainLimitation", Answer{number(1), number(101), number(255)},
         "getAhcGainLimitation (camera): black answers 101; 0 to 100 is allowed, white answers 255; 0 to 100 is allowed");
-    row("getEdgeCorrection", Values{number(3), number(64), number(20), number(39)},
+    row("getEdgeCorrection", Answer{number(3), number(64), number(20), number(39)},
         "getEdgeCorrection (camera): type answers 3; 0 to 2 is allowed, secondThreshold answers 39; 40 or more is allowed");
-    row("getZoomResolution", Values{true, number(0), number(576)},
+    row("getZoomResolution", Answer{true, number(0), number(576)},
         "getZoomResolution (Blend Unit): x answers 0; 1 to 10000 is allowed");
-    row("getVisibleAgc", Values{true, number(101), number(0), number(0)},
+    row("getVisibleAgc", Answer{true, number(101), number(0), number(0)},
         "getVisibleAgc (Blend Unit): target answers 101; 0 to 100 is allowed");
-    row("getVisibleClhe", Values{true, number(65536), number(0)},
+    row("getVisibleClhe", Answer{true, number(65536), number(0)},
         "getVisibleClhe (Blend Unit): threshold answers 65536; 0 to 65535 is allowed");
-    row("getWarp", Values{true, nan, 0.0, 0.0, infinity, 0.0, 0.0},
+    row("getWarp", Answer{true, nan, 0.0, 0.0, infinite, 0.0, 0.0},
         "getWarp(0) (Blend Unit): a11 answers nan; -32768 to 65536 is allowed, a22 answers inf; -32768 to 65536 is allowed");
-    row("getZoomConfig", Values{true, nan, number(1), number(1), number(0)},
+    row("getZoomConfig", Answer{true, nan, number(1), number(1), number(0)},
         "getZoomConfig (Blend Unit): factor answers nan; 1 to 8 is allowed");
-    row("getZoomConfig", Values{true, 1.0, number(1281), number(1025), number(0)},
+    row("getZoomConfig", Answer{true, 1.0, number(1281), number(1025), number(0)},
         "getZoomConfig (Blend Unit): xCenter answers 1281; 0 to 1280 is allowed, yCenter answers 1025; 0 to 1024 is allowed");
-    row("getTemperatures", Values{true, 296650.0, -infinity},
+    row("getTemperatures", Answer{true, 296650.0, -infinite},
         "getTemperatures (Blend Unit): fpga answers -inf; 200000 to 400000 is allowed");
     row("getTemperatures", std::nullopt, "getTemperatures (camera): answers false");
-    row("getFirmwareVersions", Values{true, number(0), number(0)},
+    row("getFirmwareVersions", Answer{true, number(0), number(0)},
         "getFirmwareVersions (camera): both words are 0, which means no answer");
     row("startReading", std::nullopt, "startReading (camera): answers false");
     row("getSerialNumber", std::nullopt, "getSerialNumber (Blend Unit): answers 0; 1 or more is allowed");
-    row("getRoiX1", Values{number(640)}, "getRoiX1(2) (camera): answers 640; 0 to 639 is allowed");
-    row("getRoiY2", Values{number(480)}, "getRoiY2(3) (camera): answers 480; 0 to 479 is allowed");
+    row("getRoiX1", Answer{number(640)}, "getRoiX1(2) (camera): answers 640; 0 to 639 is allowed");
+    row("getRoiY2", Answer{number(480)}, "getRoiY2(3) (camera): answers 480; 0 to 479 is allowed");
 }
 
 void SdkCheckFaultsTest::namesTheAnswer()
@@ -220,14 +213,14 @@ void SdkCheckFaultsTest::namesTheSetter_data()
     };
     row({"setClhe", 1, 1}, {"setClhe (camera): answers false to 0; back at 2000"});
     row({"setGamma"}, {"setGamma (camera): answers false to 32768; back at 65536"});
-    row({"setGamma", 1, 0, Values{true}},
+    row({"setGamma", 1, 0, Answer{true}},
         {"setGamma (camera): set to 32768, but getGamma answers 65536; back at 65536"});
-    row({"setPolarity", 1, 1, Values{true}},
+    row({"setPolarity", 1, 1, Answer{true}},
         {"setPolarity (camera): set to true, but getPolarity answers false; back at false"});
-    row({"setAhcGainLimitation", 1, 2, Values{true}},
+    row({"setAhcGainLimitation", 1, 2, Answer{true}},
         {"setAhcGainLimitation black (camera): set to 0, but getAhcGainLimitation answers black 20, white 80; back at 20"});
     row({"configureZoom", 1, 1}, {"configureZoom factor (Blend Unit): answers false to 8; back at 1"});
-    row({"setRoiY1", 1, 1, Values{true}},
+    row({"setRoiY1", 1, 1, Answer{true}},
         {"setRoiY1(0) (camera): set to 6, but getRoiY1 answers 5; back at 5"});
     row({"setWarp", 3, 1}, {"setWarp(0) a21 (Blend Unit): answers false to 2; back at 0"});
     row({"getGamma", 4, 1}, {"setGamma (camera): set to 32768, but getGamma answers 0; back at 65536"});

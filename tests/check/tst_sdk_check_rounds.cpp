@@ -11,22 +11,14 @@
 
 using veltrix_simulator::Fault;
 using veltrix_simulator::Value;
-using Values = std::vector<Value>;
 
 namespace
 {
-
-std::int64_t number(std::int64_t value)
-{
-    return value;
-}
 
 const sdk_check::Options twoRounds{"SIM1", false, 2};
 const sdk_check::Options fiveRounds{"SIM1", false, 5};
 
 } // namespace
-
-Q_DECLARE_METATYPE(Fault)
 
 class SdkCheckRoundsTest : public QObject
 {
@@ -57,15 +49,15 @@ void SdkCheckRoundsTest::comparesRepeatedReads_data()
         QTest::addRow("%s", name) << fault << notOk;
     };
     // Each round asks the Blend Unit first, then the camera.
-    row("another answer", {"getGamma", 4, 1, Values{number(65537)}},
+    row("another answer", {"getGamma", 4, 1, Answer{number(65537)}},
         {"getGamma (camera): answers 65537 in round 2; the first answer was 65536",
          "repeated reads (camera): 187 of 188 answers as before"});
-    row("said once", {"getBprEnable", 4, 3, Values{false}},
+    row("said once", {"getBprEnable", 4, 3, Answer{false}},
         {"getBprEnable (camera): answers false in round 2; the first answer was true",
          "repeated reads (camera): 186 of 188 answers as before"});
-    row("a counter may move", {"getOperatingInfo", 4, 1, Values{true, number(73416), number(412)}}, {});
-    row("a temperature may move", {"getTemperatures", 4, 2, Values{true, 300000.0, 300000.0}}, {});
-    row("a temperature out of range", {"getTemperatures", 4, 1, Values{true, 300000.0, 0.0}},
+    row("a counter may move", {"getOperatingInfo", 4, 1, Answer{true, number(73416), number(412)}}, {});
+    row("a temperature may move", {"getTemperatures", 4, 2, Answer{true, 300000.0, 300000.0}}, {});
+    row("a temperature out of range", {"getTemperatures", 4, 1, Answer{true, 300000.0, 0.0}},
         {"getTemperatures (camera): fpga answers 0; 200000 to 400000 is allowed in round 2",
          "repeated reads (camera): 187 of 188 answers as before"});
     row("a refusal", {"getVideoMode", 9, 1},
@@ -88,18 +80,18 @@ void SdkCheckRoundsTest::skipsWhatNobodyAsksAUnitFor_data()
     const auto row = [](const Fault &fault, const char *skipped) {
         QTest::addRow("%s", skipped) << fault << QString{skipped};
     };
-    row({"getGamma", 1, 1, Values{number(5)}},
+    row({"getGamma", 1, 1, Answer{number(5)}},
         "getGamma (Blend Unit): answers 5; 32768 to 163840 is allowed; the program does not ask this unit for it");
-    row({"getGamma", 3, 1, Values{number(65537)}},
+    row({"getGamma", 3, 1, Answer{number(65537)}},
         "getGamma (Blend Unit): answers 65537 in round 2; the first answer was 65536; the program does not ask this unit for it");
-    row({"getOperatingInfo", 3, 1, Values{true, number(1), number(0)}},
+    row({"getOperatingInfo", 3, 1, Answer{true, number(1), number(0)}},
         "getOperatingInfo (Blend Unit): startupCount answers 0; 1 or more is allowed in round 2; the program does not ask this unit for it");
-    row({"getAhcGainLimitation", 1, 1, Values{number(2), number(1), number(1)}},
+    row({"getAhcGainLimitation", 1, 1, Answer{number(2), number(1), number(1)}},
         "getAhcGainLimitation (Blend Unit): answers 2; only 1 is success; the program does not ask this unit for it");
     row({"getVideoMode", 2, 1},
         "getVideoMode (camera): answers false; the program does not ask this unit for it");
     row({"getWarp", 5, 1}, "getWarp(1) (camera): answers false; the program does not ask this unit for it");
-    row({"getZoomResolution", 2, 1, Values{true, number(720), number(0)}},
+    row({"getZoomResolution", 2, 1, Answer{true, number(720), number(0)}},
         "getZoomResolution (camera): y answers 0; 1 to 10000 is allowed; the program does not ask this unit for it");
 }
 
