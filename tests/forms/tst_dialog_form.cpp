@@ -4,6 +4,7 @@
 
 #include "dialog.h"
 #include "form_fixture.h"
+#include "layoutchildren.h"
 #include "testclass.h"
 #include "ui_dialog.h"
 
@@ -17,20 +18,6 @@ QString textOf(const QWidget &dialog, const QString &name)
 {
     const auto *label = dialog.findChild<QLabel *>(name);
     return label != nullptr ? label->text() : QString::fromUtf8(noSuch<QLabel>(dialog, name));
-}
-
-QStringList childrenOf(const QLayout &layout)
-{
-    QStringList children;
-    for (int i{0}; i < layout.count(); ++i) {
-        QLayoutItem *item{layout.itemAt(i)};
-        if (item->widget() != nullptr) {
-            children << item->widget()->objectName();
-        } else {
-            children << (item->layout() != nullptr ? item->layout()->objectName() : QStringLiteral("spacer"));
-        }
-    }
-    return children;
 }
 
 } // namespace

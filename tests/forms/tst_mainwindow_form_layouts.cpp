@@ -3,6 +3,7 @@
 // The main window form's layouts: what each holds in which order, in which cells and at which distances.
 
 #include "form_fixture.h"
+#include "layoutchildren.h"
 #include "testclass.h"
 
 #include <QMetaEnum>
@@ -84,36 +85,6 @@ std::vector<Cell> cells()
         {"gridLayout_3", "VisClheTHSB", 5, 0, 1, 1},
         {"gridLayout_3", "VisClheCoeffSB", 5, 2, 1, 1},
     };
-}
-
-QString spacer(const QString &size, const char *horizontal, const char *vertical)
-{
-    return QStringLiteral("spacer %1 %2 %3").arg(size, QLatin1String{horizontal}, QLatin1String{vertical});
-}
-
-QString describe(QLayoutItem &item)
-{
-    if (const QWidget * widget{item.widget()}) {
-        return widget->objectName();
-    }
-    if (const QLayout * layout{item.layout()}) {
-        return layout->objectName();
-    }
-    const QSpacerItem *gap{item.spacerItem()};
-    const auto policies = QMetaEnum::fromType<QSizePolicy::Policy>();
-    const QSize size{gap->sizeHint()};
-    return spacer(QStringLiteral("%1x%2").arg(size.width()).arg(size.height()),
-                  policies.valueToKey(gap->sizePolicy().horizontalPolicy()),
-                  policies.valueToKey(gap->sizePolicy().verticalPolicy()));
-}
-
-QStringList childrenOf(const QLayout &layout)
-{
-    QStringList children;
-    for (int i{0}; i < layout.count(); ++i) {
-        children << describe(*layout.itemAt(i));
-    }
-    return children;
 }
 
 QStringList widgetsWithin(const QLayout &layout)
