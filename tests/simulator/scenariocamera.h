@@ -6,7 +6,10 @@
 #include "scenarios/scenario.h"
 #include "simulation.h"
 
+#include <QMetaType>
 #include <QString>
+
+#include <functional>
 
 /// Starts the simulation of this process on the scenario and opens its first port. Selects the camera
 /// without a call, so that the first call of the device is the test's.
@@ -25,6 +28,11 @@ struct ScenarioCamera
 private:
     void open();
 };
+
+/// What is changed of a rule, as a column of a table.
+using Change = std::function<void(veltrix_simulator::FaultRule &rule)>;
+
+Q_DECLARE_METATYPE(Change)
 
 /// A scenario with one rule: `effect` for the operation.
 veltrix_simulator::Scenario scenarioWith(veltrix_simulator::OperationId operation,

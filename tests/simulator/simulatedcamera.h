@@ -6,6 +6,7 @@
 #include "veltrix_sdk/sdk.h"
 #include "veltrix_simulator/simulator.h"
 
+#include <QMetaType>
 #include <QString>
 
 #include <cstdint>
@@ -29,6 +30,11 @@ struct SimulatedCamera
     veltrix_sdk::IDeviceManager *manager;
     veltrix_sdk::IDeviceControl *device;
 };
+
+/// What a test does with it, as a column of a table.
+using Action = void (*)(SimulatedCamera &c);
+
+Q_DECLARE_METATYPE(Action)
 
 /// Prefix of the keys of a unit.
 QString unitPrefix(int target);

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // What is said of a scenario file that cannot be played.
+#include "scenariofaults.h"
 #include "scenarios/scenarioreader.h"
 #include "testclass.h"
 
@@ -20,18 +21,6 @@ QString messageOf(const QByteArray &file)
     const auto result = readScenario(file.toStdString(), "flaky.toml");
     const auto *const error = std::get_if<ScenarioError>(&result);
     return error != nullptr ? QString::fromStdString(error->message()) : QStringLiteral("fine");
-}
-
-/// A fault that would be fine, with more lines; they begin in line 4.
-QByteArray fault(const char *lines)
-{
-    return QByteArray{"[[fault]]\noperation = \"setGamma\"\neffect = \"refuse\"\n"} + lines;
-}
-
-/// A fault of an operation with these lines; the effect is in line 3.
-QByteArray effectOn(const char *operation, const char *lines)
-{
-    return QByteArray{"[[fault]]\noperation = \""} + operation + "\"\neffect = " + lines;
 }
 
 } // namespace

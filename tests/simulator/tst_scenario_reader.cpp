@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // What the keys of a scenario file set.
+#include "scenariofaults.h"
 #include "scenarios/scenarioreader.h"
 #include "testclass.h"
 #include "units/state.h"
@@ -121,18 +122,6 @@ std::string answer(const Scenario &scenario)
         values.push_back(text(value));
     }
     return text(values) + (scenario.faults.at(0).leavesOutputs ? " alone" : "");
-}
-
-/// A fault with these lines.
-QByteArray fault(const char *lines)
-{
-    return QByteArray{"[[fault]]\noperation = \"setGamma\"\neffect = \"refuse\"\n"} + lines;
-}
-
-/// A fault of an operation with these lines.
-QByteArray effectOn(const char *operation, const char *lines)
-{
-    return QByteArray{"[[fault]]\noperation = \""} + operation + "\"\neffect = " + lines;
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // The table of bad pixels, its file in the working directory, and what is wrong with a damaged one.
+#include "contents.h"
 #include "simulatedcamera.h"
 #include "testclass.h"
 
@@ -45,12 +46,6 @@ bool read(const SimulatedCamera &c)
 bool write(const SimulatedCamera &c)
 {
     return c.device->writeBprTable(4096, 16384, 8);
-}
-
-QByteArray contentOf(const QString &name)
-{
-    QFile file{name};
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray{};
 }
 
 bool store(const QString &name, const QByteArray &content)

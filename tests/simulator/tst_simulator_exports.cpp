@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // What the libraries veltrix.sdk export, name by name, and what they are called inside.
+#include "contents.h"
 #include "testclass.h"
 
 #include <QProcess>
@@ -10,21 +11,13 @@
 namespace
 {
 
-QString outputOf(const QString &program, const QStringList &arguments)
-{
-    QProcess process;
-    process.start(program, arguments);
-    process.waitForFinished();
-    return QString::fromLocal8Bit(process.readAllStandardOutput());
-}
-
 /// The demangled names of a library's dynamic symbols without their parameters, sorted.
 QStringList exportsOf(const QString &library)
 {
     static const QRegularExpression decoration{QStringLiteral(R"((\[abi:\w+\])?(\(.*)?$)")};
     QStringList names;
-    for (const QString &line :
-         outputOf(NM, {"-D", "-C", "--defined-only", library}).split('\n', Qt::SkipEmptyParts)) {
+    for (const QString &line : QString::fromLocal8Bit(outputOf(NM, {"-D", "-C", "--defined-only", library}))
+                                   .split('\n', Qt::SkipEmptyParts)) {
         names.append(line.section(' ', 2).remove(decoration));
     }
     names.removeDuplicates();
@@ -78,7 +71,7 @@ void SimulatorExportsTest::isNamedWithoutVersion()
     QFETCH(const QString, library);
     QVERIFY2(library.endsWith("/libveltrix.sdk.so"), qPrintable(library));
     static const QRegularExpression soname{QStringLiteral(R"(SONAME.*\[(.*)\])")};
-    QCOMPARE(soname.match(outputOf(READELF, {"-d", library})).captured(1),
+    QCOMPARE(soname.match(QString::fromLocal8Bit(outputOf(READELF, {"-d", library}))).captured(1),
              QStringLiteral("libveltrix.sdk.so"));
 }
 

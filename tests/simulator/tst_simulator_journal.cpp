@@ -17,16 +17,12 @@ using veltrix_simulator::Call;
 namespace
 {
 
-using Action = void (*)(SimulatedCamera &c);
-
 void log(const char *text)
 {
     SDKLogger{severity_info}.GetILogger() << text;
 }
 
 } // namespace
-
-Q_DECLARE_METATYPE(Action)
 
 class SimulatorJournalTest : public QObject
 {

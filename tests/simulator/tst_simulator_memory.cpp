@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // Saved parameters: what comes back after a power cycle, and files that are damaged or half written.
+#include "contents.h"
 #include "output/replacefile.h"
 #include "simulation.h"
 #include "testclass.h"
@@ -23,12 +24,6 @@ using namespace veltrix_simulator;
 
 namespace
 {
-
-QByteArray contentOf(const QString &name)
-{
-    QFile file{name};
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray{"no file"};
-}
 
 bool write(const QString &name, const QByteArray &content)
 {

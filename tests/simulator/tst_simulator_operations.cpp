@@ -13,9 +13,6 @@
 
 using namespace veltrix_simulator;
 
-using Change = std::function<void(FaultRule &rule)>;
-Q_DECLARE_METATYPE(Change)
-
 class SimulatorOperationsTest : public QObject
 {
     Q_OBJECT

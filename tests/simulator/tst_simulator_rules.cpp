@@ -13,8 +13,6 @@ using namespace veltrix_simulator;
 namespace
 {
 
-using Change = std::function<void(FaultRule &rule)>;
-
 Scenario refusing(OperationId operation, const Change &change)
 {
     Scenario scenario = scenarioWith(operation, Effect::Refuse);
@@ -48,8 +46,6 @@ Scenario byChance(double probability, std::uint64_t seed)
 }
 
 } // namespace
-
-Q_DECLARE_METATYPE(Change)
 
 class SimulatorRulesTest : public QObject
 {

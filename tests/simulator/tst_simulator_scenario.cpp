@@ -16,7 +16,7 @@ using namespace veltrix_simulator;
 namespace
 {
 
-constexpr int pixels{640 * 480};
+constexpr int pixelsOfTable{640 * 480};
 
 QString refusalOfStarting(const Scenario &scenario)
 {
@@ -152,8 +152,8 @@ void SimulatorScenarioTest::badPixelsAreThoseThatAreListed()
         QFile file{directory.filePath(name)};
         QList<int> places;
         if (file.open(QIODevice::ReadOnly)) {
-            const QByteArray table = file.readAll().right(pixels / 8);
-            const QBitArray bits = QBitArray::fromBits(table.constData(), pixels);
+            const QByteArray table = file.readAll().right(pixelsOfTable / 8);
+            const QBitArray bits = QBitArray::fromBits(table.constData(), pixelsOfTable);
             for (int place{0}; place < bits.size(); ++place) {
                 if (bits.testBit(place)) {
                     places << place;

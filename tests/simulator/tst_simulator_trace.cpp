@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // The trace: what a line of it looks like, and that it outlives the program.
+#include "contents.h"
 #include "simulatedcamera.h"
 #include "testclass.h"
 
@@ -25,14 +26,6 @@ namespace
 {
 
 constexpr const char *variable{"VELTRIX_SIMULATOR_TRACE"};
-
-using Action = void (*)(SimulatedCamera &c);
-
-QByteArray contentOf(const QString &name)
-{
-    QFile file{name};
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray{"no file"};
-}
 
 /// The lines without their times, which are checked; a line that is no JSON or has no times comes whole.
 QStringList linesOf(const QString &name)
@@ -86,15 +79,6 @@ struct Run
     QProcess process;
 };
 
-/// What a tool makes of a file.
-QByteArray outputOf(const QString &program, const QStringList &arguments)
-{
-    QProcess process;
-    process.start(program, arguments);
-    const bool succeeded{process.waitForFinished() && process.exitCode() == 0};
-    return succeeded ? process.readAllStandardOutput() : "failed: " + process.readAllStandardError();
-}
-
 /// The program of jq that the README gives for comparing two traces.
 QString documentedFilter()
 {
@@ -103,8 +87,6 @@ QString documentedFilter()
 }
 
 } // namespace
-
-Q_DECLARE_METATYPE(Action)
 
 class SimulatorTraceTest : public QObject
 {
