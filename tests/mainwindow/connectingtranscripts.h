@@ -24,3 +24,7 @@ Transcript returned();
 
 /// A whole first connect with the Fusion page in view.
 Transcript connecting(bool expertMode);
+
+/// The box of a device that is not there, or that answers with zeros when it is asked for its versions.
+constexpr const char *notConnectedBox{
+    R"(window icon "Camera not connected" "Unable to connect to SIM1" [OK])"};

@@ -3,6 +3,7 @@
 // A Blend Unit with values of its own, and its reads as the tests of it call them.
 #include "filledblendunit.h"
 
+#include <QPlainTextEdit>
 #include <QTest>
 
 #include <string>
@@ -52,4 +53,9 @@ void readZoom(TestWindow &test, int selector)
     if (!QMetaObject::invokeMethod(&test.window(), "readZoom", Qt::DirectConnection, Q_ARG(int, selector))) {
         QTest::qFail("the zoom cannot be read", __FILE__, __LINE__);
     }
+}
+
+QString textOf(const TestWindow &test, const char *box)
+{
+    return test.child<QPlainTextEdit>(box).toPlainText();
 }

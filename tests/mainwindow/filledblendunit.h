@@ -14,3 +14,6 @@ bool readBlendUnit(TestWindow &test);
 
 /// Reads the zoom by the handler's name: 0 of the infrared side, 2 of the fusion.
 void readZoom(TestWindow &test, int selector);
+
+/// The text of a text box.
+QString textOf(const TestWindow &test, const char *box);

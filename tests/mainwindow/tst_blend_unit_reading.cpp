@@ -44,11 +44,6 @@ QStringList operationsOf(const QStringList &calls)
     return names;
 }
 
-QString textOf(const TestWindow &test, const char *box)
-{
-    return test.child<QPlainTextEdit>(box).toPlainText();
-}
-
 } // namespace
 
 class BlendUnitReadingTest : public QObject

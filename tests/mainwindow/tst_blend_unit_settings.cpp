@@ -3,14 +3,13 @@
 // Tests of saving the Blend Unit's parameters.
 #include "filledblendunit.h"
 #include "testclass.h"
+#include "trigger.h"
 
 #include <QAbstractButton>
 #include <QTest>
 
 namespace
 {
-
-using Save = void (*)(TestWindow &);
 
 void saveUserParameters(TestWindow &test)
 {
@@ -25,8 +24,6 @@ void saveExpertParameters(TestWindow &test)
 
 } // namespace
 
-Q_DECLARE_METATYPE(Save)
-
 class BlendUnitSettingsTest : public QObject
 {
     Q_OBJECT
@@ -39,12 +36,12 @@ private slots:
 
 void BlendUnitSettingsTest::savingIsReported_data()
 {
-    QTest::addColumn<Save>("save");
+    QTest::addColumn<Trigger>("save");
     QTest::addColumn<bool>("refused");
     QTest::addColumn<QString>("call");
     QTest::addColumn<QString>("line");
 
-    const auto row = [](const char *name, Save save, bool refused, const char *call, const char *line) {
+    const auto row = [](const char *name, Trigger save, bool refused, const char *call, const char *line) {
         QTest::newRow(name) << save << refused << QString{call} << QString{line};
     };
     row("user parameters saved", saveUserParameters, false, "saveBlendUnitParameters(0) -> true",
@@ -59,7 +56,7 @@ void BlendUnitSettingsTest::savingIsReported_data()
 
 void BlendUnitSettingsTest::savingIsReported()
 {
-    QFETCH(const Save, save);
+    QFETCH(const Trigger, save);
     QFETCH(const bool, refused);
     QFETCH(const QString, call);
     QFETCH(const QString, line);

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // Tests of the firmware versions of the Blend Unit, which tell whether it answers at all.
+#include "connectingtranscripts.h"
 #include "filledblendunit.h"
 #include "testclass.h"
 
@@ -14,17 +15,10 @@ using veltrix_simulator::Value;
 namespace
 {
 
-const char *const notConnectedBox{R"(window icon "Camera not connected" "Unable to connect to SIM1" [OK])"};
-
 void setVersions(Simulator &simulator, int processor, int fpga)
 {
     simulator.set("blendUnit.firmwareVersions.processor", processor);
     simulator.set("blendUnit.firmwareVersions.fpga", fpga);
-}
-
-QString textOf(const TestWindow &test, const char *box)
-{
-    return test.child<QPlainTextEdit>(box).toPlainText();
 }
 
 } // namespace

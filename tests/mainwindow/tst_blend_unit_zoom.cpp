@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // Tests of the read of the Blend Unit's zoom.
-#include "filledblendunit.h"
 #include "testclass.h"
+#include "zoomcontrols.h"
 
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -17,15 +17,7 @@ namespace
 
 constexpr int infraredZoom{0};
 constexpr int fusionZoom{2};
-const char *const recordRead{"getZoomConfig() -> true {factor=1.5, xCenter=300, yCenter=200, method=0}"};
 const char *const resolutionRead{"getZoomResolution() -> true {x=1024, y=768}"};
-
-/// A connected window whose device has since been given another zoom; the method is the one shown.
-void beConnectedAndZoomed(TestWindow &test)
-{
-    test.beConnected();
-    fillBlendUnit(test.simulator);
-}
 
 /// The five lines of a zoom read.
 QStringList zoomLines(const QString &stream, const QString &factor, const QStringList &numbers)
@@ -35,21 +27,6 @@ QStringList zoomLines(const QString &stream, const QString &factor, const QStrin
         stream + " Y zoom resolution = " + numbers[1], stream + " X zoom center = " + numbers[2],
         stream + " Y zoom center = " + numbers[3],
     };
-}
-
-QDoubleSpinBox &fusionFactor(const TestWindow &test)
-{
-    return test.child<QDoubleSpinBox>("FusionZoomFactorSB");
-}
-
-QComboBox &fusionMethod(const TestWindow &test)
-{
-    return test.child<QComboBox>("FusionZoomMethod");
-}
-
-QComboBox &infraredMethod(const TestWindow &test)
-{
-    return test.child<QComboBox>("methodZoomEdit");
 }
 
 /// What the infrared side's page shows: factor, X and Y centre, X and Y resolution.
@@ -94,7 +71,7 @@ void BlendUnitZoomTest::fusionReadShowsFactorAndTellsAll()
 
     readZoom(test, fusionZoom);
 
-    const QStringList calls{recordRead, resolutionRead};
+    const QStringList calls{zoomRecordRead, resolutionRead};
     QCOMPARE(test.takeCalls(), calls);
     QCOMPARE(test.takeLog(), zoomLines("Fusion", "1.5", {"1024", "768", "300", "200"}));
     QCOMPARE(fusionFactor(test).value(), 1.5);
@@ -108,7 +85,7 @@ void BlendUnitZoomTest::infraredReadShowsAndTellsAll()
 
     readZoom(test, infraredZoom);
 
-    const QStringList calls{recordRead, resolutionRead};
+    const QStringList calls{zoomRecordRead, resolutionRead};
     QCOMPARE(test.takeCalls(), calls);
     QCOMPARE(test.takeLog(), zoomLines("IR", "1.5", {"1024", "768", "300", "200"}));
     const QStringList shown{"1.5", "300", "200", "1024", "768"};

@@ -41,12 +41,12 @@ void addTransfers()
     }
 }
 
-QString call(const Transfer &transfer, bool accepted)
+QString callOf(const Transfer &transfer, bool accepted)
 {
     return QString{transfer.operation} + transfer.arguments + (accepted ? " -> true" : " -> false");
 }
 
-QString line(const Transfer &transfer, const char *fileName)
+QString lineOf(const Transfer &transfer, const char *fileName)
 {
     return QString{transfer.lineBegin} + fileName + transfer.lineEnd;
 }
@@ -141,10 +141,10 @@ void BprTableTest::aFailureIsToldInABoxBeforeTheLine()
     clickHidden(test, transfer.button);
     QCOMPARE(test.boxes.takeShown(), QStringList{transfer.failureBox});
     QVERIFY(parent == &test.window());
-    QCOMPARE(callsBefore, QStringList{call(transfer, false)});
+    QCOMPARE(callsBefore, QStringList{callOf(transfer, false)});
     QCOMPARE(linesBefore, QStringList{});
     QCOMPARE(test.takeCalls(), QStringList{"getSerialNumber() -> 10417"});
-    QCOMPARE(test.takeLog(), QStringList{line(transfer, "bpr_SN10417.bin")});
+    QCOMPARE(test.takeLog(), QStringList{lineOf(transfer, "bpr_SN10417.bin")});
 }
 
 void BprTableTest::aDeviceThatIsClosedMeanwhileIsNotAsked()
@@ -162,7 +162,7 @@ void BprTableTest::aDeviceThatIsClosedMeanwhileIsNotAsked()
     clickHidden(test, transfer.button);
 
     QCOMPARE(test.boxes.takeShown(), QStringList{transfer.failureBox});
-    QCOMPARE(test.takeCalls(), (QStringList{call(transfer, false), "closeDevice(device)",
+    QCOMPARE(test.takeCalls(), (QStringList{callOf(transfer, false), "closeDevice(device)",
                                             "get_instance() -> sdk", "releaseDeviceManager(manager)"}));
     QCOMPARE(test.takeLog(), QStringList{});
 }
@@ -196,7 +196,7 @@ void BprTableTest::theFileIsNamedAfterTheSerialNumber()
     test.takeLog();
 
     clickHidden(test, transfers.at(place).button);
-    QCOMPARE(test.takeLog(), QStringList{line(transfers.at(place), fileName)});
+    QCOMPARE(test.takeLog(), QStringList{lineOf(transfers.at(place), fileName)});
     QCOMPARE(QDir{}.entryList(QDir::Files), QStringList{QString{fileName}});
 }
 
@@ -239,7 +239,7 @@ void BprTableTest::theLastResultIsLeft()
 
     letACommandFail(test);
     clickHidden(test, transfer.button);
-    QCOMPARE(test.takeCalls().first(), call(transfer, true));
+    QCOMPARE(test.takeCalls().first(), callOf(transfer, true));
     QVERIFY(!test.lastCommandOk());
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Tests of the settings that are sliders with spin boxes: a released slider and a finished edit send the box.
 #include "coupledpairs.h"
+#include "sliderhandle.h"
 #include "testclass.h"
 
 #include <QApplication>
@@ -13,22 +14,6 @@
 namespace
 {
 
-QPoint middleOfHandle(const QSlider &slider, int position)
-{
-    const int length{slider.style()->pixelMetric(QStyle::PM_SliderLength, nullptr, &slider)};
-    const int start{QStyle::sliderPositionFromValue(slider.minimum(), slider.maximum(), position,
-                                                    slider.width() - length)};
-    return {start + length / 2, slider.height() / 2};
-}
-
-void sendMouse(QWidget &widget, QEvent::Type type, const QPoint &place)
-{
-    const Qt::MouseButton button{type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton};
-    const Qt::MouseButtons held{type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton};
-    QMouseEvent event{type, place, widget.mapToGlobal(place), button, held, Qt::NoModifier};
-    QApplication::sendEvent(&widget, &event);
-}
-
 /// The journal of one command and its line.
 QStringList told(const char *call, const char *action, bool accepted = true)
 {
@@ -36,7 +21,7 @@ QStringList told(const char *call, const char *action, bool accepted = true)
             QStringLiteral("log(2, \"%1 %2\")").arg(action, accepted ? "OK" : "KO")};
 }
 
-QString line(const Pair &pair, const char *outcome)
+QString lineOf(const Pair &pair, const char *outcome)
 {
     return QStringLiteral("%1 %2").arg(pair.action, outcome);
 }
@@ -81,7 +66,7 @@ void CameraSendsTest::releasingTheSliderSendsTheBox()
     QCOMPARE(test.takeCallsAndRecords(), QStringList{});
     widgets.slider.setSliderDown(false);
     QCOMPARE(test.takeCallsAndRecords(), told(pair.call, pair.action));
-    QCOMPARE(test.takeLog(), QStringList{line(pair, "OK")});
+    QCOMPARE(test.takeLog(), QStringList{lineOf(pair, "OK")});
     QVERIFY(test.lastCommandOk());
     QCOMPARE(widgets.value(), QString{pair.text}.toDouble());
 }
@@ -104,7 +89,7 @@ void CameraSendsTest::theEndOfADragSendsOnce()
     sendMouse(widgets.slider, QEvent::MouseButtonRelease, end);
 
     QCOMPARE(test.takeCallsAndRecords(), told(pair.callAtEnd, pair.action));
-    QCOMPARE(test.takeLog(), QStringList{line(pair, "OK")});
+    QCOMPARE(test.takeLog(), QStringList{lineOf(pair, "OK")});
 }
 
 void CameraSendsTest::movingTheSliderSendsNothing()
@@ -137,7 +122,7 @@ void CameraSendsTest::enterSendsTheBox()
     QCOMPARE(test.takeCallsAndRecords(), QStringList{});
     QTest::keyClick(&widgets.box, Qt::Key_Enter);
     QCOMPARE(test.takeCallsAndRecords(), told(pair.call, pair.action));
-    QCOMPARE(test.takeLog(), QStringList{line(pair, "OK")});
+    QCOMPARE(test.takeLog(), QStringList{lineOf(pair, "OK")});
     QVERIFY(test.lastCommandOk());
     QCOMPARE(widgets.slider.value(), pair.position);
 }
@@ -153,7 +138,7 @@ void CameraSendsTest::leavingSendsTheBox()
     typeInto(widgets.box, pair.text);
     QTest::mouseClick(test.child<QPlainTextEdit>("logView").viewport(), Qt::LeftButton);
     QCOMPARE(test.takeCallsAndRecords(), told(pair.call, pair.action));
-    QCOMPARE(test.takeLog(), QStringList{line(pair, "OK")});
+    QCOMPARE(test.takeLog(), QStringList{lineOf(pair, "OK")});
 }
 
 void CameraSendsTest::enterAndLeavingSendNothingElse()
@@ -186,7 +171,7 @@ void CameraSendsTest::aRefusalIsToldAndRemembered()
     typeInto(widgets.box, pair.text);
     QTest::keyClick(&widgets.box, Qt::Key_Enter);
     QCOMPARE(test.takeCallsAndRecords(), told(pair.call, pair.action, false));
-    QCOMPARE(test.takeLog(), QStringList{line(pair, "KO")});
+    QCOMPARE(test.takeLog(), QStringList{lineOf(pair, "KO")});
     QVERIFY(!test.lastCommandOk());
     // The window stays as the operator left it.
     QCOMPARE(widgets.slider.value(), pair.position);

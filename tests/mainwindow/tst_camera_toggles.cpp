@@ -34,7 +34,7 @@ QStringList told(const ToggleRow &toggle, bool sent, bool accepted)
             QStringLiteral("log(2, \"%1 %2\")").arg(toggle.action, accepted ? "OK" : "KO")};
 }
 
-QString line(const ToggleRow &toggle, const char *outcome)
+QString lineOf(const ToggleRow &toggle, const char *outcome)
 {
     return QStringLiteral("%1 %2").arg(toggle.action, outcome);
 }
@@ -98,7 +98,7 @@ void CameraTogglesTest::aClickSendsTheNewState()
     for (const bool state : {true, false, true}) {
         test.click(toggle.button);
         QCOMPARE(test.takeCallsAndRecords(), told(toggle, state, true));
-        QCOMPARE(test.takeLog(), QStringList{line(toggle, "OK")});
+        QCOMPARE(test.takeLog(), QStringList{lineOf(toggle, "OK")});
         QCOMPARE(button.isChecked(), state);
         QCOMPARE(button.text(), textOf(toggle, state));
         QVERIFY(test.lastCommandOk());
@@ -143,7 +143,7 @@ void CameraTogglesTest::aRefusalLeavesTheTextAndTheNewState()
 
     test.click(toggle.button);
     QCOMPARE(test.takeCallsAndRecords(), told(toggle, !before, false));
-    QCOMPARE(test.takeLog(), QStringList{line(toggle, "KO")});
+    QCOMPARE(test.takeLog(), QStringList{lineOf(toggle, "KO")});
     QVERIFY(!test.lastCommandOk());
     QCOMPARE(test.child<QPushButton>(toggle.button).isChecked(), !before);
     QCOMPARE(test.child<QPushButton>(toggle.button).text(), textOf(toggle, before));
@@ -167,7 +167,7 @@ void CameraTogglesTest::theTextCatchesUpWithTheNextClicks()
     test.click(toggle.button);
     QCOMPARE(button.isChecked(), true);
     QCOMPARE(button.text(), textOf(toggle, true));
-    QCOMPARE(test.takeLog(), (QStringList{line(toggle, "KO"), line(toggle, "OK"), line(toggle, "OK")}));
+    QCOMPARE(test.takeLog(), (QStringList{lineOf(toggle, "KO"), lineOf(toggle, "OK"), lineOf(toggle, "OK")}));
 }
 
 void CameraTogglesTest::onlyTheOppositeWordChanges()

@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // Tests of Configure Zoom by all that triggers it.
-#include "filledblendunit.h"
 #include "testclass.h"
+#include "trigger.h"
+#include "zoomcontrols.h"
 
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -12,30 +13,6 @@ using veltrix_simulator::Value;
 
 namespace
 {
-
-const char *const recordRead{"getZoomConfig() -> true {factor=1.5, xCenter=300, yCenter=200, method=0}"};
-
-/// A connected window whose device has since been given another zoom; the method is the one shown.
-void beConnectedAndZoomed(TestWindow &test)
-{
-    test.beConnected();
-    fillBlendUnit(test.simulator);
-}
-
-QDoubleSpinBox &fusionFactor(const TestWindow &test)
-{
-    return test.child<QDoubleSpinBox>("FusionZoomFactorSB");
-}
-
-QComboBox &fusionMethod(const TestWindow &test)
-{
-    return test.child<QComboBox>("FusionZoomMethod");
-}
-
-QComboBox &infraredMethod(const TestWindow &test)
-{
-    return test.child<QComboBox>("methodZoomEdit");
-}
 
 /// As an operator sets up the zoom: the factor typed, the method picked.
 void enterFusionZoom(const TestWindow &test, const QString &factor, Qt::Key method)
@@ -48,8 +25,6 @@ void enterFusionZoom(const TestWindow &test, const QString &factor, Qt::Key meth
     fusionMethod(test).setFocus();
     QTest::keyClick(&fusionMethod(test), method);
 }
-
-using Trigger = void (*)(TestWindow &);
 
 void pressOnFusionPage(TestWindow &test)
 {
@@ -77,8 +52,6 @@ void addTriggers()
 }
 
 } // namespace
-
-Q_DECLARE_METATYPE(Trigger)
 
 class ConfigureZoomTest : public QObject
 {
@@ -108,7 +81,7 @@ void ConfigureZoomTest::configureSendsFactorAndMethodOfTheFusionPage()
 
     trigger(test);
 
-    const QStringList calls{recordRead,
+    const QStringList calls{zoomRecordRead,
                             "configureZoom({factor=2.5, xCenter=300, yCenter=200, method=1}) -> true"};
     QCOMPARE(test.takeCalls(), calls);
     QCOMPARE(test.takeLog(), QStringList{"Configure Zoom OK"});
@@ -139,7 +112,7 @@ void ConfigureZoomTest::refusedConfigureIsReported()
 
     trigger(test);
 
-    const QStringList calls{recordRead,
+    const QStringList calls{zoomRecordRead,
                             "configureZoom({factor=1, xCenter=300, yCenter=200, method=0}) -> false"};
     QCOMPARE(test.takeCalls(), calls);
     QCOMPARE(test.takeLog(), QStringList{"Configure Zoom KO"});

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Tests of the sliders and their spin boxes: each moves its partner, and neither calls the device.
 #include "coupledpairs.h"
+#include "sliderhandle.h"
 #include "testclass.h"
 
 #include <QApplication>
@@ -32,21 +33,6 @@ struct KeyStroke
     double value;
 };
 using KeyStrokes = QVector<KeyStroke>;
-
-QPoint middleOfHandle(const QSlider &slider, int position)
-{
-    const int length{slider.style()->pixelMetric(QStyle::PM_SliderLength, nullptr, &slider)};
-    const int start{QStyle::sliderPositionFromValue(slider.minimum(), slider.maximum(), position,
-                                                    slider.width() - length)};
-    return {start + length / 2, slider.height() / 2};
-}
-
-void sendMouse(QWidget &widget, QEvent::Type type, const QPoint &place)
-{
-    const Qt::MouseButton button{type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton};
-    QMouseEvent event{type, place, widget.mapToGlobal(place), button, Qt::LeftButton, Qt::NoModifier};
-    QApplication::sendEvent(&widget, &event);
-}
 
 } // namespace
 

@@ -3,6 +3,7 @@
 // How numbers travel between the widgets and the device, and how they are told, at the edges too.
 #include "encodings.h"
 #include "logtext.h"
+#include "notanumber.h"
 #include "testclass.h"
 
 #include <QTest>
@@ -13,7 +14,6 @@
 namespace
 {
 
-constexpr double notANumber{std::numeric_limits<double>::quiet_NaN()};
 constexpr double infinity{std::numeric_limits<double>::infinity()};
 constexpr int highestInt{std::numeric_limits<int>::max()};
 constexpr int lowestInt{std::numeric_limits<int>::min()};

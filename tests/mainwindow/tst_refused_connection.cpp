@@ -14,9 +14,6 @@ using veltrix_simulator::Simulator;
 namespace
 {
 
-const char *const notConnectedBox{
-    R"(window icon "Camera not connected" "Unable to connect to SIM1" [OK])",
-};
 const char *const invalidCommunicationBox{
     R"(window icon "Invalid communication" "Select an other serial port" [OK])",
 };

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Tests of the reset: where each default of the configuration is shown, also one beyond its control's range.
 #include "camerapage.h"
+#include "notanumber.h"
 #include "testclass.h"
 
 #include <QComboBox>
@@ -23,7 +24,6 @@ using veltrix_simulator::Value;
 namespace
 {
 
-constexpr double notANumber{std::numeric_limits<double>::quiet_NaN()};
 constexpr double infinite{std::numeric_limits<double>::infinity()};
 constexpr qlonglong largestWord{4294967295};
 

@@ -13,14 +13,14 @@
 namespace
 {
 
-/// Puts every text of the main window between marks.
-class MarkingTranslator : public QTranslator
+/// Puts every text of the main window between angle brackets.
+class BracketingTranslator : public QTranslator
 {
 public:
-    MarkingTranslator() { QCoreApplication::installTranslator(this); }
-    ~MarkingTranslator() override { QCoreApplication::removeTranslator(this); }
-    MarkingTranslator(const MarkingTranslator &) = delete;
-    MarkingTranslator &operator=(const MarkingTranslator &) = delete;
+    BracketingTranslator() { QCoreApplication::installTranslator(this); }
+    ~BracketingTranslator() override { QCoreApplication::removeTranslator(this); }
+    BracketingTranslator(const BracketingTranslator &) = delete;
+    BracketingTranslator &operator=(const BracketingTranslator &) = delete;
 
     bool isEmpty() const override { return false; }
     QString translate(const char *context, const char *text, const char * /*disambiguation*/,
@@ -79,7 +79,7 @@ void TranslationTest::boxesAreTranslated()
     QFETCH(const QString, handler);
     QFETCH(const QString, box);
     QFETCH(const QStringList, log);
-    const MarkingTranslator translator;
+    const BracketingTranslator translator;
     TestWindow test;
     test.beConnected();
     QVERIFY(QMetaObject::invokeMethod(&test.window(), "targetChanged", Q_ARG(int, 1)));
@@ -96,7 +96,7 @@ void TranslationTest::boxesAreTranslated()
 
 void TranslationTest::theBoxOfARegionIsTranslatedPieceByPiece()
 {
-    const MarkingTranslator translator;
+    const BracketingTranslator translator;
     TestWindow test;
     test.child<QSpinBox>("Roi0IncX1").setValue(300);
     test.child<QSpinBox>("Roi0IncX2").setValue(200);
@@ -110,7 +110,7 @@ void TranslationTest::theBoxOfARegionIsTranslatedPieceByPiece()
 
 void TranslationTest::captionsThatChangeAreTranslated()
 {
-    const MarkingTranslator translator;
+    const BracketingTranslator translator;
     TestWindow test;
     test.beConnected();
 
@@ -122,7 +122,7 @@ void TranslationTest::captionsThatChangeAreTranslated()
 
 void TranslationTest::theResetFindsTheTranslatedItem()
 {
-    const MarkingTranslator translator;
+    const BracketingTranslator translator;
     TestWindow test;
     test.beConnected();
     test.simulator.set("configuration.defaultContrastType", std::int64_t{1});

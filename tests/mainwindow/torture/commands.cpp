@@ -46,7 +46,7 @@ constexpr char colorLut[]{"lutColorEdit"};
 constexpr char edgeType[]{"EdgeCorrectionCB"};
 constexpr char edgeGain[]{"sharpeningGainEdit"};
 constexpr char edgeThreshold[]{"SharpeningTHEdit"};
-constexpr char clhe[]{"clheEdit"};
+constexpr char clheBox[]{"clheEdit"};
 constexpr char tempoFilter[]{"TempoFilterSpin"};
 constexpr char ahcBlack[]{"AhcBlackGainLimSpin"};
 constexpr char ahcWhite[]{"AhcWhiteGainLimSpin"};
@@ -82,7 +82,7 @@ const SendRow sendRows[]{
     {{"gammaSlider", "gammaEdit"}, "setGamma", gammaFixedPoint, "Set GAMMA value"},
     {{contrastType}, "configureContrastType", indexOf<contrastType>, "Configure contrast type"},
     {{colorLut}, "setColorLut", indexOf<colorLut>, "Set COLOR LUT value"},
-    {{"clheSlider", clhe}, "setClhe", wholeOf<clhe>, "Set CLHE value"},
+    {{"clheSlider", clheBox}, "setClhe", wholeOf<clheBox>, "Set CLHE value"},
     {{"TempoFilterSlider", tempoFilter},
      "setLutTemporalFilter",
      wholeOf<tempoFilter>,
