@@ -4,6 +4,8 @@
 #include "program.h"
 
 #include <QFile>
+#include <QIODevice>
+#include <QProcessEnvironment>
 
 QProcessEnvironment programEnvironment()
 {

@@ -4,7 +4,11 @@
 #include "program.h"
 #include "testclass.h"
 
+#include <QObject>
+#include <QProcessEnvironment>
 #include <QRegularExpression>
+#include <QString>
+#include <QStringList>
 #include <QTest>
 
 namespace

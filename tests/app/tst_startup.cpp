@@ -6,8 +6,13 @@
 
 #include <QFile>
 #include <QLibraryInfo>
+#include <QObject>
+#include <QProcess>
+#include <QProcessEnvironment>
 #include <QRegularExpression>
 #include <QSerialPortInfo>
+#include <QString>
+#include <QStringList>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QVersionNumber>

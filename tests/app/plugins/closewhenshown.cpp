@@ -7,9 +7,13 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDir>
 #include <QDirIterator>
+#include <QEvent>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QString>
+#include <QStringList>
 
 namespace
 {

@@ -3,8 +3,10 @@
 // A plugin that closes the program's window once it is shown.
 #pragma once
 
+#include <QEvent>
 #include <QGenericPlugin>
 #include <QObject>
+#include <QString>
 #include <QWidget>
 
 /// Closes the first window that is shown. PILOTEL_TEST_REPORT names a file for what it finds before that;

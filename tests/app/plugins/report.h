@@ -4,6 +4,8 @@
 #pragma once
 
 #include <QFile>
+#include <QIODevice>
+#include <QString>
 #include <QStringList>
 
 /// Appends lines to the file that an environment variable names; does nothing when it names none.

@@ -8,6 +8,8 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QString>
+#include <QStringList>
 #include <QWidget>
 
 TellTheJournal::TellTheJournal()

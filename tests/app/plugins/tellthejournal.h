@@ -3,8 +3,10 @@
 // A plugin that writes down the simulated SDK's journal when the program's window closes.
 #pragma once
 
+#include <QEvent>
 #include <QGenericPlugin>
 #include <QObject>
+#include <QString>
 
 /// Appends the journal to the file that PILOTEL_TEST_JOURNAL names, once: when the first window closes.
 class TellTheJournal : public QObject
