@@ -7,6 +7,7 @@
 #include "veltrix_sdk/sdk.h"
 
 #include <sstream>
+#include <string>
 #include <utility>
 
 using veltrix_simulator::Call;

@@ -11,6 +11,8 @@
 #include <QJsonObject>
 #include <QtTest>
 
+#include <cstddef>
+#include <cstdint>
 #include <sstream>
 
 using sdk_check::Options;

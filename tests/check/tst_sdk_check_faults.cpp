@@ -7,10 +7,12 @@
 
 #include <QtTest>
 
+#include <cstddef>
 #include <cstdint>
 #include <limits>
 #include <optional>
 #include <sstream>
+#include <string>
 #include <vector>
 
 using sdk_check::Options;

@@ -6,13 +6,20 @@
 #include "scenarioruns.h"
 #include "testclass.h"
 
+#include <QByteArray>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QJsonValue>
+#include <QObject>
+#include <QProcess>
+#include <QProcessEnvironment>
 #include <QRegularExpression>
 #include <QSerialPortInfo>
+#include <QString>
+#include <QStringList>
 #include <QTemporaryDir>
 #include <QTest>
 
