@@ -7,11 +7,18 @@
 #include "mainwindowform.h"
 #include "ui_mainwindow.h"
 
+#include <QByteArray>
 #include <QCoreApplication>
+#include <QLatin1Char>
+#include <QLatin1String>
 #include <QMainWindow>
+#include <QString>
+#include <QStringList>
+#include <QTabBar>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTranslator>
+#include <QWidget>
 
 #include <vector>
 

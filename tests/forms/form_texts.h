@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QComboBox>
+#include <QString>
 #include <QStringList>
 #include <QTabWidget>
 

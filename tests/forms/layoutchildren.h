@@ -3,8 +3,11 @@
 // What a layout holds, as texts to be compared.
 #pragma once
 
+#include <QLatin1String>
 #include <QLayout>
+#include <QLayoutItem>
 #include <QMetaEnum>
+#include <QSize>
 #include <QSizePolicy>
 #include <QSpacerItem>
 #include <QString>

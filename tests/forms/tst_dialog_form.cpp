@@ -8,7 +8,14 @@
 #include "testclass.h"
 #include "ui_dialog.h"
 
+#include <QApplication>
+#include <QDialog>
+#include <QLabel>
+#include <QLayout>
+#include <QPushButton>
 #include <QSignalSpy>
+#include <QSizePolicy>
+#include <QWidget>
 #include <QtTest>
 
 namespace

@@ -5,13 +5,26 @@
 #include "form_fixture.h"
 #include "testclass.h"
 
+#include <QAbstractButton>
+#include <QBrush>
+#include <QColor>
 #include <QDir>
 #include <QFile>
+#include <QFont>
+#include <QIcon>
+#include <QImage>
 #include <QImageReader>
+#include <QMainWindow>
+#include <QPalette>
+#include <QPushButton>
 #include <QSet>
 #include <QSignalSpy>
+#include <QSizePolicy>
 #include <QTemporaryDir>
+#include <QWidget>
 #include <QtTest>
+
+#include <vector>
 
 namespace
 {

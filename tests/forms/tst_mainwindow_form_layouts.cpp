@@ -6,11 +6,18 @@
 #include "layoutchildren.h"
 #include "testclass.h"
 
-#include <QMetaEnum>
+#include <QFormLayout>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLayout>
+#include <QLayoutItem>
 #include <QRegularExpression>
+#include <QWidget>
 #include <QtTest>
 
 #include <array>
+#include <cstddef>
+#include <vector>
 
 namespace
 {

@@ -6,8 +6,19 @@
 #include "form_texts.h"
 #include "testclass.h"
 
+#include <QComboBox>
 #include <QFile>
+#include <QLabel>
+#include <QTabWidget>
+#include <QTextBlock>
+#include <QTextCharFormat>
+#include <QTextDocument>
+#include <QTextFragment>
+#include <QWidget>
 #include <QtTest>
+
+#include <cstddef>
+#include <vector>
 
 namespace
 {

@@ -6,6 +6,10 @@
 #include "form_texts.h"
 #include "testclass.h"
 
+#include <QComboBox>
+#include <QLabel>
+#include <QTabWidget>
+#include <QWidget>
 #include <QtTest>
 
 namespace

@@ -5,7 +5,12 @@
 #include "form_fixture.h"
 #include "testclass.h"
 
+#include <QMainWindow>
+#include <QTabWidget>
+#include <QWidget>
 #include <QtTest>
+
+#include <vector>
 
 namespace
 {

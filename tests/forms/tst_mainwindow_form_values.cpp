@@ -5,6 +5,15 @@
 #include "form_fixture.h"
 #include "testclass.h"
 
+#include <QAbstractButton>
+#include <QAbstractScrollArea>
+#include <QAbstractSpinBox>
+#include <QComboBox>
+#include <QPushButton>
+#include <QSlider>
+#include <QSpinBox>
+#include <QTabWidget>
+#include <QWidget>
 #include <QtTest>
 
 #include <limits>
