@@ -3,10 +3,17 @@
 // The same scenario and the same seed make the same trace, whatever goes wrong in it.
 #include "testclass.h"
 
+#include <QByteArray>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QIODevice>
+#include <QList>
+#include <QObject>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QRegularExpression>
+#include <QString>
 #include <QTemporaryDir>
 #include <QTest>
 

@@ -5,15 +5,27 @@
 #include "testclass.h"
 #include "testwindow.h"
 
+#include <QAbstractButton>
 #include <QComboBox>
 #include <QDir>
 #include <QDoubleSpinBox>
+#include <QFile>
+#include <QFileInfo>
+#include <QIODevice>
+#include <QLatin1Char>
+#include <QList>
+#include <QObject>
 #include <QPlainTextEdit>
 #include <QProcess>
 #include <QSerialPortInfo>
+#include <QString>
+#include <QStringList>
 #include <QTest>
+#include <QWidget>
 
 #include <functional>
+#include <string>
+#include <vector>
 
 using veltrix_simulator::Simulator;
 
