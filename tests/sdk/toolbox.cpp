@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QIODevice>
 #include <QProcess>
 
 #include <algorithm>

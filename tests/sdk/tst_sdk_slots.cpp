@@ -8,9 +8,11 @@
 #include <QtTest>
 
 #include <algorithm>
+#include <cstddef>
 #include <set>
 #include <string>
 #include <type_traits>
+#include <vector>
 
 namespace
 {
