@@ -3,6 +3,7 @@
 // The simulator as most of its tests want it: in power-on state, with the device open.
 #include "simulatedcamera.h"
 
+#include <string>
 #include <variant>
 
 using namespace veltrix_sdk;

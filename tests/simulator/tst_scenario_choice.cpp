@@ -10,7 +10,10 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <cstddef>
 #include <stdexcept>
+#include <string>
+#include <vector>
 
 #ifdef Q_OS_UNIX
 #include <sys/stat.h>

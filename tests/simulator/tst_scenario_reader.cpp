@@ -10,8 +10,11 @@
 #include <QRegularExpression>
 #include <QtTest>
 
+#include <chrono>
+#include <cstdint>
 #include <functional>
 #include <string>
+#include <type_traits>
 #include <variant>
 #include <vector>
 

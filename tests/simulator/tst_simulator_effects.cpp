@@ -9,12 +9,18 @@
 #include <QRegularExpression>
 #include <QtTest>
 
+#include <chrono>
 #include <cmath>
+#include <cstddef>
+#include <cstdint>
 #include <cstring>
 #include <functional>
 #include <limits>
 #include <map>
 #include <set>
+#include <string>
+#include <variant>
+#include <vector>
 
 using namespace veltrix_simulator;
 

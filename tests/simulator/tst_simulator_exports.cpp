@@ -4,7 +4,6 @@
 #include "contents.h"
 #include "testclass.h"
 
-#include <QProcess>
 #include <QRegularExpression>
 #include <QtTest>
 

@@ -12,7 +12,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <string>
+#include <vector>
 
 using namespace veltrix_sdk;
 using veltrix_simulator::Fault;

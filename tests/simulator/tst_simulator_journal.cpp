@@ -10,6 +10,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <string>
+#include <vector>
 
 using namespace veltrix_sdk;
 using veltrix_simulator::Call;

@@ -6,7 +6,11 @@
 
 #include <QtTest>
 
+#include <chrono>
+#include <cstdint>
 #include <limits>
+#include <stdexcept>
+#include <vector>
 
 using namespace veltrix_simulator;
 using namespace std::chrono_literals;

@@ -8,8 +8,12 @@
 #include <QElapsedTimer>
 #include <QtTest>
 
+#include <chrono>
+#include <cstddef>
+#include <cstdint>
 #include <limits>
 #include <set>
+#include <vector>
 
 using namespace veltrix_simulator;
 using namespace std::chrono_literals;

@@ -13,6 +13,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <cstddef>
 #include <cstdint>
 #include <limits>
 #include <map>

@@ -8,8 +8,14 @@
 #include <QtTest>
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
 #include <functional>
+#include <initializer_list>
 #include <limits>
+#include <string>
+#include <string_view>
+#include <vector>
 
 using namespace veltrix_simulator;
 

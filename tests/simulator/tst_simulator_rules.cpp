@@ -6,7 +6,12 @@
 
 #include <QtTest>
 
+#include <cstddef>
+#include <cstdint>
 #include <functional>
+#include <stdexcept>
+#include <string>
+#include <vector>
 
 using namespace veltrix_simulator;
 

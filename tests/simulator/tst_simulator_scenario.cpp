@@ -11,6 +11,11 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <chrono>
+#include <cstdint>
+#include <stdexcept>
+#include <string>
+
 using namespace veltrix_simulator;
 
 namespace

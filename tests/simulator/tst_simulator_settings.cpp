@@ -9,8 +9,10 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 using namespace veltrix_sdk;
 

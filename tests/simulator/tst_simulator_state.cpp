@@ -9,11 +9,15 @@
 #include <QtTest>
 
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <limits>
 #include <map>
 #include <string>
+#include <type_traits>
+#include <variant>
+#include <vector>
 
 using namespace veltrix_sdk;
 using veltrix_simulator::Value;

@@ -4,6 +4,8 @@
 // before.
 #include "simulation.h"
 
+#include <string>
+
 int main(int count, char ** /*arguments*/)
 {
     using namespace veltrix_simulator;
