@@ -3,13 +3,18 @@
 // What the operator does with modal boxes, and what was shown.
 #include "boxwatcher.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QEvent>
+#include <QLatin1Char>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QString>
 #include <QTest>
 #include <QTimer>
+
+#include <utility>
 
 namespace
 {

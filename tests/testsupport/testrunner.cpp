@@ -12,8 +12,10 @@
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QLatin1Char>
 #include <QMap>
 #include <QMetaMethod>
+#include <QString>
 #include <QStringList>
 #include <QTest>
 

@@ -4,10 +4,13 @@
 #include "testwindow.h"
 
 #include <QComboBox>
+#include <QLatin1Char>
 #include <QPlainTextEdit>
 #include <QSerialPortInfo>
+#include <QString>
 #include <QTabWidget>
 #include <QTest>
+#include <QWidget>
 
 #include <iterator>
 #include <stdexcept>

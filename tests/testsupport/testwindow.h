@@ -9,6 +9,7 @@
 #include "warningwatcher.h"
 
 #include <QAbstractButton>
+#include <QString>
 #include <QStringList>
 
 #include <functional>

@@ -3,6 +3,8 @@
 // Fails a test on a Qt warning that nobody announced.
 #include "warningwatcher.h"
 
+#include <QLatin1String>
+#include <QString>
 #include <QTest>
 
 namespace
