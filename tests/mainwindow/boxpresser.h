@@ -6,7 +6,9 @@
 #include "boxwatcher.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QEvent>
+#include <QObject>
 
 /// While it lives, every box is expected and gets its OK; the watcher notes what was shown.
 class BoxPresser : public QObject

@@ -5,7 +5,11 @@
 
 #include "testwindow.h"
 
+#include <QAbstractButton>
+#include <QString>
+#include <QStringList>
 #include <QTest>
+#include <QWidget>
 
 /// Connects, turns to the camera and shows one of its pages; the journal and the log of that are forgotten.
 inline void openCameraPage(TestWindow &window, const QString &page)

@@ -8,6 +8,7 @@
 
 #include <QAbstractSpinBox>
 #include <QSlider>
+#include <QString>
 #include <QTest>
 
 #include <cstddef>

@@ -4,8 +4,10 @@
 #include "filledblendunit.h"
 
 #include <QPlainTextEdit>
+#include <QString>
 #include <QTest>
 
+#include <cstdint>
 #include <string>
 #include <utility>
 

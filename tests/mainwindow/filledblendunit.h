@@ -5,6 +5,8 @@
 
 #include "testwindow.h"
 
+#include <QString>
+
 /// Gives the Blend Unit values of which no two are alike. Zoom method and starting mode stay as they are at
 /// power-on, so that a connected window which reads them sends nothing back.
 void fillBlendUnit(veltrix_simulator::Simulator &simulator);

@@ -6,6 +6,7 @@
 #include "testwindow.h"
 
 #include <QSpinBox>
+#include <QString>
 #include <QTest>
 
 /// Types 33 into a spin box of the Visible page and leaves the edit unfinished; the journal and the log of

@@ -5,7 +5,9 @@
 
 #include "testwindow.h"
 
+#include <QString>
 #include <QTest>
+#include <QWidget>
 #include <QWindow>
 
 /// Presses and releases the mouse in the middle of a widget, by way of the window system: a widget that is

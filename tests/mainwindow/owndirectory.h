@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QDir>
+#include <QString>
 #include <QTemporaryDir>
 #include <QTest>
 

@@ -7,7 +7,10 @@
 
 #include <QComboBox>
 #include <QHash>
+#include <QLatin1Char>
+#include <QLatin1String>
 #include <QMetaProperty>
+#include <QString>
 
 #include <algorithm>
 #include <cmath>

@@ -4,9 +4,12 @@
 #pragma once
 
 #include <QMap>
+#include <QString>
 #include <QStringList>
 #include <QVariant>
 #include <QWidget>
+
+#include <utility>
 
 /// Every named widget's state, property by property: `gammaSlider.value`, `paramSection.enabled`. A widget is
 /// enabled here when nobody disabled the widget itself. The log view's text is left out.

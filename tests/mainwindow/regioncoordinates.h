@@ -6,8 +6,10 @@
 #include "camerapage.h"
 #include "controls.h"
 
+#include <QByteArray>
 #include <QCoreApplication>
 #include <QSpinBox>
+#include <QString>
 #include <QTest>
 
 #include <array>

@@ -3,6 +3,9 @@
 // What the window and the SDK say to each other, as one table of steps.
 #include "transcript.h"
 
+#include <QLatin1Char>
+#include <QString>
+
 #include <algorithm>
 #include <iterator>
 

@@ -4,11 +4,16 @@
 #include "camerapage.h"
 #include "testclass.h"
 
+#include <QByteArray>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QObject>
 #include <QSpinBox>
+#include <QString>
+#include <QStringList>
 #include <QTest>
 
+#include <cstdint>
 #include <map>
 #include <string>
 

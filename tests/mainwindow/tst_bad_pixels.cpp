@@ -5,11 +5,18 @@
 #include "owndirectory.h"
 #include "testclass.h"
 
+#include <QDialog>
 #include <QDir>
+#include <QObject>
 #include <QSpinBox>
+#include <QString>
+#include <QStringList>
 #include <QTest>
+#include <QVector>
+#include <QWidget>
 
 #include <array>
+#include <cstddef>
 #include <functional>
 #include <optional>
 

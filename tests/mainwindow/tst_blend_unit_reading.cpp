@@ -4,10 +4,17 @@
 #include "filledblendunit.h"
 #include "testclass.h"
 
+#include <QAbstractButton>
+#include <QByteArray>
 #include <QComboBox>
 #include <QDoubleSpinBox>
-#include <QPlainTextEdit>
+#include <QObject>
+#include <QSpinBox>
+#include <QString>
+#include <QStringList>
 #include <QTest>
+
+#include <cstdint>
 
 namespace
 {

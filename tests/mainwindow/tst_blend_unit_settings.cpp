@@ -6,6 +6,9 @@
 #include "trigger.h"
 
 #include <QAbstractButton>
+#include <QObject>
+#include <QString>
+#include <QStringList>
 #include <QTest>
 
 namespace

@@ -5,9 +5,15 @@
 #include "filledblendunit.h"
 #include "testclass.h"
 
-#include <QPlainTextEdit>
+#include <QAbstractButton>
+#include <QObject>
+#include <QString>
+#include <QStringList>
 #include <QTabWidget>
 #include <QTest>
+
+#include <string>
+#include <vector>
 
 using veltrix_simulator::Simulator;
 using veltrix_simulator::Value;

@@ -6,9 +6,16 @@
 
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QObject>
+#include <QSpinBox>
+#include <QString>
+#include <QStringList>
 #include <QTest>
 
+#include <cstdint>
 #include <limits>
+#include <string>
+#include <utility>
 
 using veltrix_simulator::Value;
 

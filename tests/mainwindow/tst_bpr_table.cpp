@@ -5,11 +5,20 @@
 #include "owndirectory.h"
 #include "testclass.h"
 
+#include <QAbstractButton>
+#include <QByteArray>
+#include <QDialog>
 #include <QDir>
 #include <QFileInfo>
+#include <QObject>
+#include <QString>
+#include <QStringList>
 #include <QTest>
+#include <QWidget>
 
 #include <array>
+#include <cstddef>
+#include <cstdint>
 #include <optional>
 
 namespace

@@ -5,8 +5,15 @@
 #include "changedcamera.h"
 #include "testclass.h"
 
+#include <QAbstractButton>
+#include <QByteArray>
+#include <QObject>
 #include <QPlainTextEdit>
+#include <QString>
+#include <QStringList>
 #include <QTest>
+#include <QVariant>
+#include <QWidget>
 
 namespace
 {

@@ -6,9 +6,14 @@
 
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QObject>
 #include <QSignalSpy>
 #include <QSlider>
+#include <QSpinBox>
+#include <QString>
+#include <QStringList>
 #include <QTest>
+#include <QVector>
 
 #include <vector>
 

@@ -4,7 +4,12 @@
 #include "camerapage.h"
 #include "testclass.h"
 
+#include <QAbstractButton>
+#include <QByteArray>
 #include <QComboBox>
+#include <QObject>
+#include <QString>
+#include <QStringList>
 #include <QTest>
 
 #include <string>

@@ -5,7 +5,13 @@
 #include "changedcamera.h"
 #include "testclass.h"
 
+#include <QByteArray>
+#include <QObject>
+#include <QString>
+#include <QStringList>
 #include <QTest>
+#include <QVariant>
+#include <QWidget>
 
 class CameraReadingTest : public QObject
 {

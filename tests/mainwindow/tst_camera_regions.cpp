@@ -5,7 +5,10 @@
 #include "testclass.h"
 
 #include <QCheckBox>
+#include <QObject>
 #include <QSpinBox>
+#include <QString>
+#include <QStringList>
 #include <QTest>
 
 #include <array>

@@ -5,11 +5,16 @@
 #include "sliderhandle.h"
 #include "testclass.h"
 
-#include <QApplication>
-#include <QMouseEvent>
+#include <QEvent>
+#include <QObject>
 #include <QPlainTextEdit>
-#include <QStyle>
+#include <QPoint>
+#include <QString>
+#include <QStringList>
 #include <QTest>
+#include <QWidget>
+
+#include <cstddef>
 
 namespace
 {

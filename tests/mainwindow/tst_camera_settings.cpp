@@ -8,7 +8,11 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QObject>
+#include <QRect>
 #include <QSlider>
+#include <QString>
+#include <QStringList>
 #include <QTest>
 
 namespace

@@ -5,9 +5,13 @@
 #include "controls.h"
 #include "testclass.h"
 
+#include <QObject>
 #include <QPushButton>
+#include <QString>
+#include <QStringList>
 #include <QTest>
 
+#include <cstddef>
 #include <string>
 
 namespace

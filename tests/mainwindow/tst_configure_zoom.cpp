@@ -5,8 +5,13 @@
 #include "trigger.h"
 #include "zoomcontrols.h"
 
+#include <QAbstractButton>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QObject>
+#include <QSpinBox>
+#include <QString>
+#include <QStringList>
 #include <QTest>
 
 using veltrix_simulator::Value;

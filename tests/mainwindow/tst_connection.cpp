@@ -6,6 +6,9 @@
 #include "testclass.h"
 #include "testwindow.h"
 
+#include <QObject>
+#include <QString>
+#include <QStringList>
 #include <QTabWidget>
 #include <QTest>
 

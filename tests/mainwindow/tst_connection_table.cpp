@@ -8,9 +8,23 @@
 #include "testclass.h"
 #include "testwindow.h"
 
+#include <QAbstractButton>
+#include <QByteArray>
+#include <QLatin1Char>
+#include <QMap>
 #include <QMetaMethod>
+#include <QMetaType>
+#include <QObject>
 #include <QPlainTextEdit>
+#include <QString>
+#include <QStringList>
 #include <QTest>
+#include <QVariant>
+#include <QWidget>
+
+#include <cstddef>
+#include <functional>
+#include <vector>
 
 using veltrix_simulator::Simulator;
 

@@ -6,10 +6,17 @@
 #include "testclass.h"
 #include "testwindow.h"
 
+#include <QByteArray>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QObject>
+#include <QString>
+#include <QStringList>
 #include <QTabWidget>
 #include <QTest>
+#include <QWidget>
+
+#include <memory>
 
 using veltrix_simulator::Simulator;
 

@@ -5,12 +5,17 @@
 #include "sliderhandle.h"
 #include "testclass.h"
 
-#include <QApplication>
-#include <QMouseEvent>
+#include <QByteArray>
+#include <QEvent>
+#include <QObject>
 #include <QSignalSpy>
-#include <QStyle>
+#include <QSlider>
+#include <QString>
+#include <QStringList>
 #include <QTest>
 #include <QVector>
+
+#include <cstddef>
 
 namespace
 {

@@ -4,8 +4,14 @@
 #include "coupledpairs.h"
 #include "testclass.h"
 
+#include <QByteArray>
+#include <QObject>
+#include <QString>
+#include <QStringList>
 #include <QTest>
+#include <QVariant>
 
+#include <cstddef>
 #include <limits>
 
 class CouplingLimitsTest : public QObject

@@ -9,6 +9,9 @@
 #include "testwindow.h"
 
 #include <QComboBox>
+#include <QObject>
+#include <QString>
+#include <QStringList>
 #include <QTabWidget>
 #include <QTest>
 

@@ -6,8 +6,15 @@
 #include "testwindow.h"
 
 #include <QComboBox>
+#include <QDialog>
 #include <QMessageBox>
+#include <QObject>
+#include <QString>
+#include <QStringList>
 #include <QTest>
+
+#include <string>
+#include <vector>
 
 namespace
 {

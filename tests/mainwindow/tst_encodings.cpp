@@ -6,10 +6,14 @@
 #include "notanumber.h"
 #include "testclass.h"
 
+#include <QObject>
+#include <QString>
 #include <QTest>
 
 #include <cmath>
+#include <cstdint>
 #include <limits>
+#include <string>
 
 namespace
 {

@@ -5,12 +5,17 @@
 #include "controls.h"
 #include "testclass.h"
 
+#include <QByteArray>
 #include <QCheckBox>
 #include <QDoubleSpinBox>
+#include <QObject>
 #include <QSlider>
+#include <QString>
+#include <QStringList>
 #include <QTest>
 
 #include <algorithm>
+#include <cstddef>
 #include <iterator>
 #include <string>
 #include <vector>

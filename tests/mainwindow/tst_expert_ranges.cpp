@@ -4,11 +4,18 @@
 #include "testclass.h"
 #include "testwindow.h"
 
+#include <QByteArray>
 #include <QDoubleSpinBox>
+#include <QObject>
 #include <QSlider>
+#include <QString>
+#include <QStringList>
 #include <QTest>
 
+#include <algorithm>
+#include <cstdint>
 #include <limits>
+#include <string>
 
 using veltrix_simulator::Simulator;
 

@@ -4,12 +4,21 @@
 #include "camerapage.h"
 #include "testclass.h"
 
+#include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialog>
 #include <QDoubleSpinBox>
+#include <QObject>
 #include <QPushButton>
 #include <QSlider>
+#include <QString>
+#include <QStringList>
 #include <QTest>
+#include <QVector>
+
+#include <cstdint>
+#include <string>
 
 using veltrix_simulator::Simulator;
 

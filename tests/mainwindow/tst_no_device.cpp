@@ -6,10 +6,16 @@
 #include "testwindow.h"
 
 #include <QAbstractButton>
+#include <QByteArray>
 #include <QComboBox>
+#include <QLatin1String>
+#include <QObject>
 #include <QSlider>
+#include <QString>
+#include <QStringList>
 #include <QTabWidget>
 #include <QTest>
+#include <QWidget>
 
 namespace
 {

@@ -7,7 +7,12 @@
 #include "testwindow.h"
 
 #include <QComboBox>
+#include <QDialog>
+#include <QObject>
+#include <QString>
+#include <QStringList>
 #include <QTest>
+#include <QWidget>
 
 namespace
 {

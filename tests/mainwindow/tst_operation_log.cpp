@@ -4,12 +4,19 @@
 #include "testclass.h"
 #include "testwindow.h"
 
+#include <QObject>
 #include <QPlainTextEdit>
 #include <QScrollBar>
+#include <QString>
+#include <QStringList>
 #include <QTest>
+#include <QTextCursor>
 
 #include <cmath>
 #include <limits>
+#include <optional>
+#include <string>
+#include <vector>
 
 using Answer = std::optional<std::vector<veltrix_simulator::Value>>;
 Q_DECLARE_METATYPE(Answer)

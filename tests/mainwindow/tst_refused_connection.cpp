@@ -6,7 +6,15 @@
 #include "testclass.h"
 #include "testwindow.h"
 
+#include <QByteArray>
+#include <QDialog>
+#include <QObject>
+#include <QString>
+#include <QStringList>
 #include <QTest>
+
+#include <cstddef>
+#include <string>
 
 using veltrix_simulator::Fault;
 using veltrix_simulator::Simulator;

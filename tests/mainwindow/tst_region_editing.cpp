@@ -4,8 +4,16 @@
 #include "regioncoordinates.h"
 #include "testclass.h"
 
+#include <QByteArray>
+#include <QObject>
 #include <QSpinBox>
+#include <QString>
+#include <QStringList>
 #include <QTest>
+#include <QWidget>
+
+#include <cstddef>
+#include <string>
 
 class RegionEditingTest : public QObject
 {

@@ -6,9 +6,16 @@
 #include "regioncoordinates.h"
 #include "testclass.h"
 
+#include <QByteArray>
 #include <QCoreApplication>
+#include <QDialog>
+#include <QObject>
 #include <QSpinBox>
+#include <QString>
+#include <QStringList>
 #include <QTest>
+
+#include <cstddef>
 
 class RegionOrderTest : public QObject
 {

@@ -5,9 +5,15 @@
 #include "controls.h"
 #include "testclass.h"
 
+#include <QByteArray>
 #include <QCheckBox>
+#include <QObject>
 #include <QSpinBox>
+#include <QString>
+#include <QStringList>
 #include <QTest>
+#include <QVector>
+#include <QWidget>
 
 namespace
 {

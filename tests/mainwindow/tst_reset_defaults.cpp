@@ -5,15 +5,23 @@
 #include "notanumber.h"
 #include "testclass.h"
 
+#include <QAbstractButton>
+#include <QByteArray>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QMetaType>
+#include <QObject>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSlider>
+#include <QString>
+#include <QStringList>
 #include <QTest>
 #include <QVariant>
+#include <QWidget>
 
 #include <array>
+#include <cstdint>
 #include <limits>
 #include <string>
 #include <utility>

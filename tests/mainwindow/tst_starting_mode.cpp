@@ -5,7 +5,12 @@
 #include "testwindow.h"
 
 #include <QComboBox>
+#include <QObject>
+#include <QString>
+#include <QStringList>
 #include <QTest>
+
+#include <vector>
 
 using veltrix_simulator::Simulator;
 using veltrix_simulator::Value;

@@ -5,10 +5,17 @@
 #include "testwindow.h"
 
 #include <QComboBox>
+#include <QCoreApplication>
+#include <QLatin1Char>
+#include <QObject>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QString>
+#include <QStringList>
 #include <QTest>
 #include <QTranslator>
+
+#include <cstdint>
 
 namespace
 {

@@ -5,8 +5,13 @@
 #include "testclass.h"
 #include "testwindow.h"
 
+#include <QObject>
 #include <QPlainTextEdit>
+#include <QString>
+#include <QStringList>
 #include <QTest>
+
+#include <cstdint>
 
 using veltrix_simulator::Value;
 

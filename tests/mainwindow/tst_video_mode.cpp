@@ -5,7 +5,13 @@
 #include "testclass.h"
 #include "testwindow.h"
 
+#include <QAbstractButton>
+#include <QObject>
+#include <QString>
+#include <QStringList>
 #include <QTest>
+
+#include <vector>
 
 using veltrix_simulator::Simulator;
 using veltrix_simulator::Value;

@@ -4,11 +4,18 @@
 #include "filledblendunit.h"
 #include "testclass.h"
 
+#include <QList>
+#include <QObject>
 #include <QSpinBox>
+#include <QString>
+#include <QStringList>
 #include <QTest>
 
 #include <array>
+#include <cstddef>
+#include <cstdint>
 #include <utility>
+#include <vector>
 
 using veltrix_simulator::Value;
 

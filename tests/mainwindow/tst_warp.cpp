@@ -4,11 +4,18 @@
 #include "testclass.h"
 #include "testwindow.h"
 
+#include <QAbstractButton>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QObject>
+#include <QString>
+#include <QStringList>
 #include <QTest>
 
 #include <array>
+#include <cstddef>
+#include <string>
+#include <vector>
 
 using veltrix_simulator::Value;
 

@@ -7,10 +7,15 @@
 #include "testwindow.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QLabel>
+#include <QObject>
 #include <QPlainTextEdit>
 #include <QPointer>
+#include <QString>
+#include <QStringList>
 #include <QTest>
+#include <QWidget>
 
 namespace
 {

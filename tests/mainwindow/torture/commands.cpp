@@ -4,8 +4,12 @@
 #include "oracle.h"
 #include "tables.h"
 
+#include <QString>
+
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
+#include <initializer_list>
 #include <iterator>
 
 namespace

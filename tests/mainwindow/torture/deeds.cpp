@@ -3,10 +3,12 @@
 // What an operator does with one control, and what changes behind the operator's back.
 #include "deeds.h"
 
+#include <QAbstractButton>
 #include <QComboBox>
 #include <QSlider>
 #include <QTabWidget>
 #include <QTest>
+#include <QWidget>
 
 #include <utility>
 

@@ -7,7 +7,12 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
 #include <iterator>
+#include <string>
+#include <utility>
+#include <variant>
 
 using veltrix_simulator::Call;
 using veltrix_simulator::Fault;

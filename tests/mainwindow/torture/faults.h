@@ -7,6 +7,7 @@
 
 #include <QString>
 
+#include <cstddef>
 #include <vector>
 
 /// One thing that goes wrong in the course of a path.

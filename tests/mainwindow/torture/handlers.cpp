@@ -4,6 +4,10 @@
 #include "oracle.h"
 #include "tables.h"
 
+#include <QLatin1Char>
+#include <QString>
+#include <QStringList>
+
 #include <charconv>
 #include <iterator>
 

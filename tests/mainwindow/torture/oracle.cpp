@@ -3,7 +3,14 @@
 // How the oracle follows the journal, and what has to happen when the window connects and disconnects.
 #include "oracle.h"
 
+#include <QLatin1Char>
+#include <QLatin1String>
 #include <QRegularExpression>
+#include <QString>
+
+#include <cstdint>
+#include <string>
+#include <utility>
 
 using veltrix_simulator::Call;
 using veltrix_simulator::Interface;

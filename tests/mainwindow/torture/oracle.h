@@ -6,9 +6,12 @@
 #include "panel.h"
 #include "veltrix_simulator/simulator.h"
 
+#include <QLatin1String>
 #include <QMap>
+#include <QString>
 #include <QStringList>
 
+#include <cstddef>
 #include <vector>
 
 /// What a call answered, as the journal has it.

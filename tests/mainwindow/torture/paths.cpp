@@ -6,7 +6,9 @@
 #include "deeds.h"
 #include "tables.h"
 
+#include <QLatin1Char>
 #include <QTest>
+#include <QWidget>
 
 #include <utility>
 

@@ -4,7 +4,11 @@
 #include "oracle.h"
 #include "tables.h"
 
+#include <QLatin1Char>
+#include <QString>
+
 #include <cmath>
+#include <cstddef>
 
 namespace
 {

@@ -7,16 +7,25 @@
 #include "paths.h"
 #include "testclass.h"
 
+#include <QAbstractButton>
 #include <QComboBox>
+#include <QDir>
 #include <QElapsedTimer>
+#include <QLatin1Char>
 #include <QMetaMethod>
+#include <QObject>
 #include <QPlainTextEdit>
+#include <QString>
+#include <QStringList>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QWidget>
 
 #include <algorithm>
 #include <cstddef>
+#include <functional>
 #include <optional>
+#include <vector>
 
 using veltrix_simulator::Call;
 using veltrix_simulator::Simulator;
