@@ -31,16 +31,8 @@ function(pilotel_add_tests program)
     if(NOT MSVC AND NOT TEST_OPTIMISED)
         target_compile_options(${program} PRIVATE $<$<CONFIG:Release>:-O1> $<$<CONFIG:RelWithDebInfo>:-O0>)
     endif()
-    set(compiled ${sources} ${TEST_SOURCES})
-    list(FILTER compiled INCLUDE REGEX "\\.cpp$")
-    list(LENGTH compiled count)
-    if(count GREATER 12)
-        # Qt's headers are half of what a test compiles. To compile them once pays for a dozen files.
-        target_precompile_headers(${program} PRIVATE <QtTest> <algorithm> <functional> <memory> <string> <vector>)
-        if(TEST_WINDOW)
-            target_precompile_headers(${program} PRIVATE <QtWidgets>)
-        endif()
-    endif()
+    # Qt's headers are half of what a test compiles; six tests together read them once.
+    set_target_properties(${program} PROPERTIES UNITY_BUILD ${PILOTEL_UNITY_TESTS} UNITY_BUILD_BATCH_SIZE 6)
 
     foreach(entry IN LISTS TEST_ENTRIES)
         string(REPLACE "." ";" class_and_function ${entry})

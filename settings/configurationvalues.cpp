@@ -23,7 +23,7 @@ namespace
 using Configuration = ISdkConfiguration;
 using ConfigurationRows = std::vector<ConfigurationValue>;
 
-const char *const prefix{"configuration."};
+const char *const keyPrefix{"configuration."};
 
 /// The default of the edge correction's gain counts the steps of the window's slider, so many for each step
 /// of the device.
@@ -36,7 +36,7 @@ template <typename Number>
 ConfigurationValue value(const std::string &key, Operation<Number (Configuration::*)()> get, Allowed allowed,
                          const std::string &meaning, const char *quantity = "")
 {
-    return {prefix + key,
+    return {keyPrefix + key,
             kindOf<Number>(),
             std::move(allowed),
             meaning,
@@ -57,7 +57,7 @@ ConfigurationValue flag(const char *key, Operation<bool (Configuration::*)()> ge
 ConfigurationValue wordValue(const std::string &name, std::int32_t ConfigurationWords::*member,
                              Allowed allowed, const std::string &meaning)
 {
-    return {prefix + name,
+    return {keyPrefix + name,
             Kind::Signed32,
             std::move(allowed),
             meaning,

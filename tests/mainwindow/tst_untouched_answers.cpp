@@ -54,8 +54,9 @@ void UntouchedAnswersTest::readsShowZeros()
     QFETCH(const QStringList, lines);
     TestWindow test;
     test.beConnected();
-    const Value acknowledged{byteResult ? Value{std::int64_t{1}} : Value{true}};
-    test.simulator.addFault({operation.toStdString(), 1, 0, {{acknowledged}}, true});
+    std::vector<Value> answer;
+    byteResult ? answer.emplace_back(std::int64_t{1}) : answer.emplace_back(true);
+    test.simulator.addFault({operation.toStdString(), 1, 0, answer, true});
 
     test.click("readParamButtonUser");
 

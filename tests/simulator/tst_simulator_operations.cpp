@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // The operations as a scenario names them, and what rules cannot be applied to them.
 #include "faults/applicability.h"
+#include "scenariocamera.h"
 #include "testclass.h"
 #include "values/numberlist.h"
 
