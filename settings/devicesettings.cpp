@@ -5,6 +5,7 @@
 #include "devicesettings.h"
 
 #include "tables.h"
+#include "veltrix_sdk/kinds.h"
 
 #include <algorithm>
 
@@ -88,7 +89,7 @@ Written writeField(Device &device, const Setting &setting, std::size_t field, do
     if (!setting.write || written.derived) {
         return Written::NotSent;
     }
-    const bool needsWhole{written.sentWhole || (written.kind != Kind::Float && written.kind != Kind::Double)};
+    const bool needsWhole{written.sentWhole || !veltrix_sdk::hasFractions(written.kind)};
     if (!allows(written.allowed, number) || (needsWhole && !isWhole(number))) {
         return Written::NotAllowed;
     }

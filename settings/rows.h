@@ -6,6 +6,7 @@
 #include "devicesettings.h"
 #include "values.h"
 #include "veltrix_sdk/device_control.h"
+#include "veltrix_sdk/kinds.h"
 
 #include <cmath>
 #include <cstddef>
@@ -33,27 +34,7 @@ Operation(const char *, Call) -> Operation<Call>;
 /// Name and call of an operation of the device.
 #define DEVICE_OPERATION(operation) (Operation{#operation, &veltrix_sdk::IDeviceControl::operation})
 
-/// The kind of a type of the contract.
-template <typename Number>
-constexpr Kind kindOf()
-{
-    if constexpr (std::is_same_v<Number, bool>) {
-        return Kind::Boolean;
-    } else if constexpr (std::is_same_v<Number, std::uint8_t>) {
-        return Kind::Unsigned8;
-    } else if constexpr (std::is_same_v<Number, std::uint16_t>) {
-        return Kind::Unsigned16;
-    } else if constexpr (std::is_same_v<Number, std::uint32_t>) {
-        return Kind::Unsigned32;
-    } else if constexpr (std::is_same_v<Number, std::int32_t>) {
-        return Kind::Signed32;
-    } else if constexpr (std::is_same_v<Number, float>) {
-        return Kind::Float;
-    } else {
-        static_assert(std::is_same_v<Number, double>);
-        return Kind::Double;
-    }
-}
+using veltrix_sdk::kindOf;
 
 /// The number as a type of the contract; what the type cannot hold becomes its nearest limit, a NaN 0.
 template <typename Number>
@@ -139,8 +120,8 @@ Setting written(Setting setting, Operation<Set> set)
     for (std::size_t place{0}; place < setting.fields.size(); ++place) {
         Field &field = setting.fields[place];
         field.derived = place >= Setter<Set>::count;
-        field.sentWhole = !field.derived && Setter<Set>::whole[place] &&
-                          (field.kind == Kind::Float || field.kind == Kind::Double);
+        field.sentWhole =
+            !field.derived && Setter<Set>::whole[place] && veltrix_sdk::hasFractions(field.kind);
     }
     setting.set = set.name;
     setting.write = [call = set.call](Device &device, const Values &sent, RegionFlags /*flags*/) {

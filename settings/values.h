@@ -3,6 +3,7 @@
 // The numbers of the device: their kinds, what they may be, and how they are said.
 #pragma once
 
+#include "veltrix_sdk/kinds.h"
 #include "veltrix_sdk/numbers.h"
 
 #include <array>
@@ -19,16 +20,7 @@ namespace device_settings
 using Values = std::vector<double>;
 
 /// The type that a number has in the contract.
-enum class Kind
-{
-    Boolean,
-    Unsigned8,
-    Unsigned16,
-    Unsigned32,
-    Signed32,
-    Float,
-    Double,
-};
+using veltrix_sdk::Kind;
 
 /// What one number may be; never a NaN.
 struct Allowed

@@ -29,7 +29,7 @@ double otherInRange(double actual, Kind kind, const Allowed &allowed, const Word
     if (!(minimum < maximum)) {
         return actual;
     }
-    if (isFloating(kind)) {
+    if (hasFractions(kind)) {
         return fitted(minimum + random.share() * (maximum - minimum), kind);
     }
     const auto span = static_cast<std::uint64_t>(maximum - minimum);

@@ -16,6 +16,26 @@
 namespace veltrix_simulator
 {
 
+namespace detail
+{
+
+template <typename T, typename... Types>
+constexpr std::size_t placeIn(const std::tuple<Types...> * /*list*/)
+{
+    constexpr bool isSame[]{std::is_same_v<T, Types>...};
+    std::size_t place{0};
+    while (place < sizeof...(Types) && !isSame[place]) {
+        ++place;
+    }
+    return place;
+}
+
+} // namespace detail
+
+/// Where a type stands among those of a tuple; their count when it is not among them.
+template <typename T, typename Tuple>
+inline constexpr std::size_t placeAmong = detail::placeIn<T>(static_cast<const Tuple *>(nullptr));
+
 /// The records that the contract exchanges.
 using Records =
     std::tuple<veltrix_sdk::FirmwareVersions, veltrix_sdk::Temperatures, veltrix_sdk::OperatingInfo,

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// The kinds of value that cross the contract, and how a Value becomes one of them.
+// How a Value becomes one of the kinds that cross the contract.
 #include "values/value.h"
 
 #include <algorithm>
@@ -59,7 +59,7 @@ std::optional<Value> fromInteger(std::int64_t integer, Kind kind)
     if (isBoolean(kind)) {
         return integer != 0;
     }
-    if (isFloating(kind)) {
+    if (hasFractions(kind)) {
         return static_cast<double>(integer);
     }
     return integer;
@@ -79,15 +79,10 @@ std::optional<Value> fromDouble(double number, Kind kind)
 
 } // namespace
 
-bool isFloating(Kind kind)
-{
-    return kind == Kind::Float || kind == Kind::Double;
-}
-
 bool holdsAnyFrom(double minimum, double maximum, Kind kind)
 {
-    return isFloating(kind) || (minimum <= static_cast<double>(rowOf(kind).maximum) &&
-                                maximum >= static_cast<double>(rowOf(kind).minimum));
+    return hasFractions(kind) || (minimum <= static_cast<double>(rowOf(kind).maximum) &&
+                                  maximum >= static_cast<double>(rowOf(kind).minimum));
 }
 
 std::string_view describe(Kind kind)
@@ -132,7 +127,7 @@ Value toValue(double number, Kind kind)
     if (isBoolean(kind)) {
         return number != 0.0;
     }
-    if (isFloating(kind)) {
+    if (hasFractions(kind)) {
         return number;
     }
     return static_cast<std::int64_t>(number);
