@@ -9,7 +9,6 @@
 #include "units/recordmembers.h"
 #include "values/value.h"
 
-#include <array>
 #include <cmath>
 #include <cstddef>
 #include <nlohmann/json.hpp>
@@ -19,8 +18,22 @@ namespace veltrix_simulator
 namespace
 {
 
-// In the order of Interface.
-constexpr std::array<const char *, 5> interfaceNames{"root", "configuration", "manager", "device", "log"};
+const char *nameOf(Interface interface)
+{
+    switch (interface) {
+    case Interface::Root:
+        return "root";
+    case Interface::Configuration:
+        return "configuration";
+    case Interface::Manager:
+        return "manager";
+    case Interface::Device:
+        return "device";
+    case Interface::Log:
+        break;
+    }
+    return "log";
+}
 
 /// The form of the trace.
 class TraceForm
@@ -116,7 +129,7 @@ void writeTraceLine(std::string &line, const CallTime &begun, const CallOrigin &
     const auto took = duration_cast<microseconds>(steady_clock::now() - begun.steady);
     line.assign(R"({"time":")").append(formatTime(begun.timeOfDay, Precision::Microseconds));
     line.append(R"(","microseconds":)").append(std::to_string(took.count()));
-    line.append(R"(,"interface":")").append(interfaceNames[static_cast<std::size_t>(origin.interface)]);
+    line.append(R"(,"interface":")").append(nameOf(origin.interface));
     line.append(R"(","target":)").append(std::to_string(origin.target));
     line.append(R"(,"operation":")").append(origin.operation);
     line.append(origin.isOpen ? R"(","arguments":[)" : R"(","notOpen":true,"arguments":[)");

@@ -28,19 +28,19 @@ public:
     }
     std::uint32_t getRoiX1(std::uint32_t region) override
     {
-        return getRoi(OperationId::getRoiX1, RoiCoordinate::x1, region);
+        return getRoi(OperationId::getRoiX1, Field::roi0X1, region);
     }
     std::uint32_t getRoiX2(std::uint32_t region) override
     {
-        return getRoi(OperationId::getRoiX2, RoiCoordinate::x2, region);
+        return getRoi(OperationId::getRoiX2, Field::roi0X2, region);
     }
     std::uint32_t getRoiY1(std::uint32_t region) override
     {
-        return getRoi(OperationId::getRoiY1, RoiCoordinate::y1, region);
+        return getRoi(OperationId::getRoiY1, Field::roi0Y1, region);
     }
     std::uint32_t getRoiY2(std::uint32_t region) override
     {
-        return getRoi(OperationId::getRoiY2, RoiCoordinate::y2, region);
+        return getRoi(OperationId::getRoiY2, Field::roi0Y2, region);
     }
     std::uint32_t getSerialNumber() override
     {
@@ -267,25 +267,25 @@ public:
     bool setRoiX1(std::uint32_t x1, std::int32_t region, bool roi1IncEnabled, bool roi0ExcEnabled,
                   bool roi1ExcEnabled) override
     {
-        return setRoi(OperationId::setRoiX1, RoiCoordinate::x1, region,
+        return setRoi(OperationId::setRoiX1, Field::roi0X1, region,
                       {x1, region, roi1IncEnabled, roi0ExcEnabled, roi1ExcEnabled});
     }
     bool setRoiX2(std::uint32_t x2, std::int32_t region, bool roi1IncEnabled, bool roi0ExcEnabled,
                   bool roi1ExcEnabled) override
     {
-        return setRoi(OperationId::setRoiX2, RoiCoordinate::x2, region,
+        return setRoi(OperationId::setRoiX2, Field::roi0X2, region,
                       {x2, region, roi1IncEnabled, roi0ExcEnabled, roi1ExcEnabled});
     }
     bool setRoiY1(std::uint32_t y1, std::int32_t region, bool roi1IncEnabled, bool roi0ExcEnabled,
                   bool roi1ExcEnabled) override
     {
-        return setRoi(OperationId::setRoiY1, RoiCoordinate::y1, region,
+        return setRoi(OperationId::setRoiY1, Field::roi0Y1, region,
                       {y1, region, roi1IncEnabled, roi0ExcEnabled, roi1ExcEnabled});
     }
     bool setRoiY2(std::uint32_t y2, std::int32_t region, bool roi1IncEnabled, bool roi0ExcEnabled,
                   bool roi1ExcEnabled) override
     {
-        return setRoi(OperationId::setRoiY2, RoiCoordinate::y2, region,
+        return setRoi(OperationId::setRoiY2, Field::roi0Y2, region,
                       {y2, region, roi1IncEnabled, roi0ExcEnabled, roi1ExcEnabled});
     }
     bool processNucRequest() override

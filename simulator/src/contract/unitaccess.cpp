@@ -7,14 +7,33 @@
 #include "values/numberlist.h"
 #include "veltrix_sdk/numbers.h"
 
+#include <string_view>
+
 namespace veltrix_simulator
 {
 namespace
 {
 
 constexpr std::size_t fieldsOfRegion{Field::roi1X1 - Field::roi0X1};
-static_assert(Field::roi2X1 - Field::roi1X1 == fieldsOfRegion &&
-              Field::roi3X1 - Field::roi2X1 == fieldsOfRegion);
+
+/// Whether each coordinate of a region is found from that of the first one: their keys differ in the region's
+/// digit, "roi0.x1" and "roi1.x1".
+constexpr bool regionsAreAlike()
+{
+    constexpr std::string_view name{"roi"};
+    for (std::size_t place{0}; place < veltrix_sdk::regionCount * fieldsOfRegion; ++place) {
+        const std::string_view key = rowOf(Field::roi0X1 + place).key;
+        const std::string_view first = rowOf(Field::roi0X1 + place % fieldsOfRegion).key;
+        const auto digit = static_cast<char>('0' + place / fieldsOfRegion);
+        if (key.substr(0, name.size()) != name || key[name.size()] != digit ||
+            key.substr(name.size() + 1) != first.substr(name.size() + 1)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+static_assert(regionsAreAlike());
 
 constexpr std::size_t fieldsOfWarp{membersOf<veltrix_sdk::Warp>().count};
 
@@ -69,25 +88,22 @@ veltrix_sdk::EdgeCorrection UnitAccess::getEdge(OperationId operation)
     });
 }
 
-std::uint32_t UnitAccess::getRoi(OperationId operation, RoiCoordinate coordinate, std::uint32_t region)
+std::uint32_t UnitAccess::getRoi(OperationId operation, Field coordinate, std::uint32_t region)
 {
     return call(operation, {region}, [&] {
-        const Field first{Field::roi0X1 + static_cast<std::size_t>(coordinate)};
         return region < veltrix_sdk::regionCount
-                   ? static_cast<std::uint32_t>(unit()[first + region * fieldsOfRegion])
+                   ? static_cast<std::uint32_t>(unit()[coordinate + region * fieldsOfRegion])
                    : 0;
     });
 }
 
-bool UnitAccess::setRoi(OperationId operation, RoiCoordinate coordinate, std::int32_t region,
-                        Parameters parameters)
+bool UnitAccess::setRoi(OperationId operation, Field coordinate, std::int32_t region, Parameters parameters)
 {
     return call(operation, parameters, [&] {
         const auto number = static_cast<std::uint32_t>(region);
         const NumberList numbers = numbersOf(parameters);
-        const Field first{Field::roi0X1 + static_cast<std::size_t>(coordinate)};
         return number < veltrix_sdk::regionCount &&
-               state.store(first + number * fieldsOfRegion, numbers.begin(), numbers.begin() + 1) &&
+               state.store(coordinate + number * fieldsOfRegion, numbers.begin(), numbers.begin() + 1) &&
                state.store(Field::roi1IncEnabled, numbers.begin() + 2, numbers.end());
     });
 }

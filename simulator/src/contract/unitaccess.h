@@ -34,15 +34,6 @@ public:
 protected:
     ~UnitAccess() = default;
 
-    /// In the order of the fields of a region.
-    enum class RoiCoordinate : std::size_t
-    {
-        x1,
-        x2,
-        y1,
-        y2,
-    };
-
     template <typename Function>
     std::invoke_result_t<const Function &> call(OperationId operation, Parameters parameters,
                                                 const Function &work)
@@ -86,11 +77,12 @@ protected:
     bool configureEdge(OperationId operation, Parameters parameters);
     veltrix_sdk::EdgeCorrection getEdge(OperationId operation);
 
-    std::uint32_t getRoi(OperationId operation, RoiCoordinate coordinate, std::uint32_t region);
+    /// A coordinate of a region; the field is that of the first region.
+    std::uint32_t getRoi(OperationId operation, Field coordinate, std::uint32_t region);
     /// The parameters are the pixels, the number of the region and the enables. A region is stored under its
     /// number. The getters give two numbers to other regions than the setters do; nothing translates between
     /// them.
-    bool setRoi(OperationId operation, RoiCoordinate coordinate, std::int32_t region, Parameters parameters);
+    bool setRoi(OperationId operation, Field coordinate, std::int32_t region, Parameters parameters);
 
     /// The parameters are the stream and its coefficients.
     bool setWarpOf(OperationId operation, std::int32_t stream, Parameters parameters);

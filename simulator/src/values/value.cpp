@@ -3,9 +3,13 @@
 // How a Value becomes one of the kinds that cross the contract.
 #include "values/value.h"
 
+#include "values/inorder.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstddef>
+#include <cstdint>
 #include <limits>
 #include <string>
 #include <variant>
@@ -17,29 +21,33 @@ namespace
 
 struct KindRow
 {
+    Kind id;
     std::string_view description;
     std::int64_t minimum;
     std::int64_t maximum;
 };
 
-template <typename T>
+template <Kind kind>
 constexpr KindRow integerRow(std::string_view description)
 {
-    return {description, std::numeric_limits<T>::min(), std::numeric_limits<T>::max()};
+    using Limits = std::numeric_limits<TypeOf<kind>>;
+    return {kind, description, Limits::min(), Limits::max()};
 }
 
 // For Float and Double the limits are the largest integers that they hold exactly.
-constexpr std::array<KindRow, 9> kinds{{
-    integerRow<bool>("true or false"),
-    integerRow<std::uint8_t>("an integer from 0 to 255"),
-    integerRow<std::uint16_t>("an integer from 0 to 65535"),
-    integerRow<std::uint32_t>("an integer from 0 to 4294967295"),
-    integerRow<std::int32_t>("an integer from -2147483648 to 2147483647"),
-    {"a number in single precision", -(1LL << 24), 1LL << 24},
-    {"a number", -(1LL << 53), 1LL << 53},
-    {"a text", 0, -1},
-    {"true for the object or false for null", 0, 1},
+constexpr std::array<KindRow, veltrix_sdk::kindCount> kinds{{
+    integerRow<Kind::Boolean>("true or false"),
+    integerRow<Kind::Unsigned8>("an integer from 0 to 255"),
+    integerRow<Kind::Unsigned16>("an integer from 0 to 65535"),
+    integerRow<Kind::Unsigned32>("an integer from 0 to 4294967295"),
+    integerRow<Kind::Signed32>("an integer from -2147483648 to 2147483647"),
+    {Kind::Float, "a number in single precision", -(1LL << 24), 1LL << 24},
+    {Kind::Double, "a number", -(1LL << 53), 1LL << 53},
+    {Kind::Text, "a text", 0, -1},
+    {Kind::Object, "true for the object or false for null", 0, 1},
 }};
+
+static_assert(inOrder(kinds));
 
 constexpr const KindRow &rowOf(Kind kind)
 {
