@@ -10,6 +10,7 @@
 #include "scenarios/scenariolibrary.h"
 #include "time/life.h"
 #include "units/port.h"
+#include "units/unitnames.h"
 #include "veltrix_simulator/simulator.h"
 
 #include <cstdint>
@@ -100,8 +101,8 @@ void Simulation::powerOn(const Scenario &scenario)
 
 BadPixelMemory &Simulation::badPixelsOf(int target)
 {
-    if (target != 0 && target != 1) {
-        throw std::invalid_argument{"there is no unit " + std::to_string(target) + ", only 0 and 1"};
+    if (!isUnit(target)) {
+        throw std::invalid_argument{noSuchUnit(target)};
     }
     return state.units[static_cast<std::size_t>(target)].badPixels;
 }

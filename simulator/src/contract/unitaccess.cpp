@@ -4,6 +4,7 @@
 #include "contract/unitaccess.h"
 
 #include "units/recordmembers.h"
+#include "units/unitnames.h"
 #include "values/numberlist.h"
 #include "veltrix_sdk/numbers.h"
 
@@ -130,7 +131,7 @@ bool UnitAccess::getWarpOf(OperationId operation, veltrix_sdk::Warp *warp)
 bool UnitAccess::select(OperationId operation, std::int32_t target)
 {
     return call(operation, {target}, [&] {
-        const bool known{target == veltrix_sdk::targetBlendUnit || target == veltrix_sdk::targetCamera};
+        const bool known{isUnit(target)};
         state.target = known ? target : state.target;
         return known;
     });

@@ -4,6 +4,7 @@
 #include "faults/applicability.h"
 
 #include "faults/effects.h"
+#include "units/unitnames.h"
 #include "values/value.h"
 #include "veltrix_simulator/simulator.h"
 
@@ -76,8 +77,8 @@ std::string reasonInTrigger(const FaultRule &rule, const Operation &operation)
     if (rule.target && operation.interface != Interface::Device) {
         return quotedName(operation) + " is no operation of the device, and only those address a unit";
     }
-    if (rule.target && *rule.target != 0 && *rule.target != 1) {
-        return "there is no unit " + std::to_string(*rule.target) + ", only 0 and 1";
+    if (rule.target && !isUnit(*rule.target)) {
+        return noSuchUnit(*rule.target);
     }
     if (!(rule.probability >= 0 && rule.probability <= 1)) {
         return "a probability goes from 0 to 1";

@@ -10,6 +10,7 @@
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -83,6 +84,18 @@ private:
     std::string path;
     const std::string *file;
 };
+
+/// The id of the row whose name the text is.
+template <typename Rows>
+auto chosen(const Entry &entry, const Rows &rows)
+{
+    std::vector<std::string> names;
+    names.reserve(std::size(rows));
+    for (const auto &row : rows) {
+        names.emplace_back(row.name);
+    }
+    return rows[entry.choice(names)].id;
+}
 
 /// One key of a table and what it does to the target.
 template <typename Target>

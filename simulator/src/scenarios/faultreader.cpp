@@ -7,6 +7,7 @@
 #include "faults/effects.h"
 #include "operations/operations.h"
 #include "output/wording.h"
+#include "units/unitnames.h"
 #include "veltrix_simulator/simulator.h"
 
 #include <algorithm>
@@ -113,7 +114,7 @@ constexpr Setting<FaultRule> faultSettings[]{
      }},
     {"target",
      [](const Entry &entry, FaultRule &rule) {
-         rule.target = static_cast<int>(entry.choice({"blendUnit", "camera"}));
+         rule.target = chosen(entry, unitNames);
      }},
     {"argument",
      [](const Entry &entry, FaultRule &rule) {

@@ -12,7 +12,9 @@
 #include "time/life.h"
 #include "time/link.h"
 #include "units/port.h"
+#include "units/unitnames.h"
 #include "values/value.h"
+#include "veltrix_sdk/numbers.h"
 #include "veltrix_simulator/simulator.h"
 
 #include <algorithm>
@@ -230,15 +232,21 @@ constexpr Setting<std::string> memorySettings[]{
      }},
 };
 
+template <std::int32_t target>
+void readUnitOf(const Entry &entry, Scenario &scenario)
+{
+    readUnit(entry, target, scenario);
+}
+
 constexpr Setting<Scenario> scenarioSettings[]{
     {"seed",
      [](const Entry &entry, Scenario &scenario) {
          scenario.seed =
              static_cast<std::uint64_t>(entry.integer(0, std::numeric_limits<std::int64_t>::max()));
      }},
-    {"configuration", readConfiguration},
-    {"camera", readUnit},
-    {"blendUnit", readUnit},
+    {configurationName, readConfiguration},
+    {unitName(veltrix_sdk::targetCamera), readUnitOf<veltrix_sdk::targetCamera>},
+    {unitName(veltrix_sdk::targetBlendUnit), readUnitOf<veltrix_sdk::targetBlendUnit>},
     {"port",
      [](const Entry &entry, Scenario &scenario) {
          readPorts(entry, scenario.ports);
@@ -338,7 +346,9 @@ std::vector<std::string> scenarioKeys()
     append("life.", keysOf(lifeSettings));
     append("life.drift.", keysOf(driftSettings));
     append("life.counter.", keysOf(counterSettings));
-    keys.insert(keys.end(), {"camera.badPixels", "blendUnit.badPixels"});
+    for (const std::int32_t target : {veltrix_sdk::targetCamera, veltrix_sdk::targetBlendUnit}) {
+        append(std::string{unitName(target)} + '.', {std::string{badPixelsKey}});
+    }
     return keys;
 }
 

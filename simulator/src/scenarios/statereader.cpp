@@ -5,13 +5,12 @@
 
 #include "output/wording.h"
 #include "units/state.h"
+#include "units/unitnames.h"
 #include "veltrix_sdk/numbers.h"
 #include "veltrix_simulator/simulator.h"
 
-#include <cstdint>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -19,8 +18,6 @@ namespace veltrix_simulator
 {
 namespace
 {
-
-constexpr std::string_view badPixelsKey{"badPixels"};
 
 /// The keys that can follow a path, each up to its next dot; empty when the path leads nowhere.
 std::vector<std::string> keysBehind(const std::string &path)
@@ -65,7 +62,7 @@ void readValues(const Entry &table, const std::vector<std::string> &known, Scena
     }
 }
 
-void readPixel(const Entry &entry, int target, Scenario &scenario)
+void readPixel(const Entry &entry, std::int32_t target, Scenario &scenario)
 {
     const std::vector<Entry> numbers = entry.elements();
     if (numbers.size() != 2) {
@@ -84,13 +81,12 @@ void readConfiguration(const Entry &table, Scenario &scenario)
     readValues(table, keysBehind(table.keyPath()), scenario);
 }
 
-void readUnit(const Entry &table, Scenario &scenario)
+void readUnit(const Entry &table, std::int32_t target, Scenario &scenario)
 {
     std::vector<std::string> known = keysBehind(table.keyPath());
     known.emplace_back(badPixelsKey);
     readValues(table, known, scenario);
     if (const std::optional<Entry> pixels = table.find(badPixelsKey)) {
-        const int target{table.keyPath() == "camera" ? 1 : 0};
         scenario.unitsWithPixels.push_back(target);
         for (const Entry &pixel : pixels->elements()) {
             readPixel(pixel, target, scenario);
@@ -101,10 +97,11 @@ void readUnit(const Entry &table, Scenario &scenario)
 Kind kindOfNumber(const Entry &entry)
 {
     const std::string key = entry.text();
+    const std::string ofConfiguration = std::string{configurationName} + '.';
     std::vector<std::string> known;
     for (std::string &each : State::keys()) {
         const std::optional<Kind> kind = State::kindAt(each);
-        if (each.compare(0, 14, "configuration.") != 0 && kind != Kind::Boolean) {
+        if (each.compare(0, ofConfiguration.size(), ofConfiguration) != 0 && kind != Kind::Boolean) {
             known.push_back(std::move(each));
         }
     }

@@ -5,6 +5,7 @@
 
 #include "output/wording.h"
 #include "units/allowed.h"
+#include "units/unitnames.h"
 #include "values/value.h"
 #include "veltrix_simulator/simulator.h"
 
@@ -25,7 +26,6 @@ using SavedValues = std::array<std::optional<double>, unitFields.size()>;
 
 constexpr int memoryFormat{1};
 constexpr std::string_view formatKey{"format"};
-constexpr std::array<std::string_view, 2> unitKeys{"blendUnit", "camera"};
 constexpr std::array<std::pair<std::string_view, Saved>, 2> setKeys{
     {{"user", Saved::User}, {"expert", Saved::Expert}}};
 // Objects inside each other: the file, a unit, a set.
@@ -140,10 +140,8 @@ MemoryImage parseFile(const json &file)
     }
     MemoryImage image;
     for (const auto &item : file.items()) {
-        const auto unit = std::find(unitKeys.begin(), unitKeys.end(), item.key());
-        if (unit != unitKeys.end()) {
-            const auto target = static_cast<std::size_t>(unit - unitKeys.begin());
-            parseUnit(item.value(), item.key(), image.units[target]);
+        if (const UnitName *const unit = findUnit(item.key())) {
+            parseUnit(item.value(), item.key(), image.units[static_cast<std::size_t>(unit->id)]);
         } else if (item.key() != formatKey) {
             refuse("it has no place for " + inQuotes(item.key()));
         }
@@ -171,11 +169,11 @@ bool canBeKept(const UnitField &row, double number)
 std::string formatMemory(const MemoryImage &image)
 {
     ordered_json file{{formatKey, memoryFormat}};
-    for (std::size_t unit{0}; unit < unitKeys.size(); ++unit) {
+    for (const UnitName &unit : unitNames) {
         for (const auto &[key, set] : setKeys) {
-            ordered_json values = formatSet(image.units[unit], set);
+            ordered_json values = formatSet(image.units[static_cast<std::size_t>(unit.id)], set);
             if (!values.empty()) {
-                file[std::string{unitKeys[unit]}][std::string{key}] = std::move(values);
+                file[std::string{unit.name}][std::string{key}] = std::move(values);
             }
         }
     }

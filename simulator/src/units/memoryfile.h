@@ -4,6 +4,7 @@
 #pragma once
 
 #include "units/unitfields.h"
+#include "units/unitnames.h"
 
 #include <array>
 #include <cstddef>
@@ -19,7 +20,7 @@ namespace veltrix_simulator
 /// set with all its values or with none.
 struct MemoryImage
 {
-    std::array<std::array<std::optional<double>, unitFields.size()>, 2> units{};
+    std::array<std::array<std::optional<double>, unitFields.size()>, unitCount> units{};
 };
 
 /// A larger file is refused.

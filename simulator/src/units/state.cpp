@@ -4,6 +4,7 @@
 #include "units/state.h"
 
 #include "units/allowed.h"
+#include "units/unitnames.h"
 #include "veltrix_sdk/numbers.h"
 
 #include <algorithm>
@@ -17,8 +18,6 @@ namespace veltrix_simulator
 namespace
 {
 
-constexpr std::array<std::string_view, 2> unitPrefixes{"blendUnit.", "camera."};
-constexpr std::string_view configurationPrefix{"configuration."};
 constexpr std::string_view communicationTypeKey{"communicationType"};
 
 /// Where a key leads.
@@ -35,21 +34,23 @@ auto findRow(const Table &table, std::string_view key) -> decltype(&*std::begin(
     return row == std::end(table) ? nullptr : &*row;
 }
 
-/// The rest of the key when it begins with the prefix.
-std::optional<std::string_view> without(std::string_view prefix, std::string_view key)
+/// The rest of the key when it begins with the name and a dot.
+std::optional<std::string_view> without(std::string_view name, std::string_view key)
 {
-    return key.substr(0, prefix.size()) == prefix ? std::optional{key.substr(prefix.size())} : std::nullopt;
+    const bool begins{key.size() > name.size() && key.substr(0, name.size()) == name &&
+                      key[name.size()] == '.'};
+    return begins ? std::optional{key.substr(name.size() + 1)} : std::nullopt;
 }
 
 std::optional<Place> findPlace(std::string_view key)
 {
-    for (std::size_t target{0}; target < unitPrefixes.size(); ++target) {
-        const auto name = without(unitPrefixes[target], key);
+    for (const UnitName &unit : unitNames) {
+        const auto name = without(unit.name, key);
         if (const auto *const row = name ? findRow(unitFields, *name) : nullptr) {
-            return UnitPlace{target, row->id};
+            return UnitPlace{static_cast<std::size_t>(unit.id), row->id};
         }
     }
-    if (const auto name = without(configurationPrefix, key)) {
+    if (const auto name = without(configurationName, key)) {
         if (const auto *const row = findRow(configurationFields, *name)) {
             return row->id;
         }
@@ -87,7 +88,7 @@ Kind kindOf(const Place &place)
 
 void State::reset()
 {
-    target = 0;
+    target = veltrix_sdk::targetBlendUnit;
     deviceOpen = false;
     silent = false;
     cableOut = false;
@@ -100,7 +101,7 @@ void State::reset()
                        [&](const UnitField &row) { return row.defaults[unit]; });
         units[unit].badPixels = BadPixelMemory{};
     }
-    units[1].badPixels.declareFactoryPixels();
+    units[veltrix_sdk::targetCamera].badPixels.declareFactoryPixels();
     std::transform(configurationFields.begin(), configurationFields.end(), configuration.begin(),
                    [](const ConfigurationFieldRow &row) { return row.defaultValue; });
     communicationType = veltrix_sdk::uartCommunication;
@@ -170,17 +171,20 @@ Value State::get(std::string_view key) const
 std::vector<std::string> State::keys()
 {
     std::vector<std::string> keys;
-    const auto append = [&](std::string_view prefix, const auto &table) {
+    const auto append = [&](std::string_view name, std::string_view key) {
+        keys.emplace_back(name).append(1, '.').append(key);
+    };
+    const auto appendAll = [&](std::string_view name, const auto &table) {
         for (const auto &row : table) {
-            keys.emplace_back(prefix).append(row.key);
+            append(name, row.key);
         }
     };
-    for (const std::string_view prefix : unitPrefixes) {
-        append(prefix, unitFields);
+    for (const UnitName &unit : unitNames) {
+        appendAll(unit.name, unitFields);
     }
-    append(configurationPrefix, configurationFields);
-    append(configurationPrefix, configurationWords);
-    keys.emplace_back(configurationPrefix).append(communicationTypeKey);
+    appendAll(configurationName, configurationFields);
+    appendAll(configurationName, configurationWords);
+    append(configurationName, communicationTypeKey);
     return keys;
 }
 
@@ -196,7 +200,7 @@ UnitPlace State::placeOfNumber(std::string_view key)
 
 void State::open(bool isSilent)
 {
-    target = 0;
+    target = veltrix_sdk::targetBlendUnit;
     deviceOpen = true;
     silent = isSilent;
     cableOut = false;

@@ -7,7 +7,9 @@
 #include "units/configurationfields.h"
 #include "units/port.h"
 #include "units/unitfields.h"
+#include "units/unitnames.h"
 #include "values/value.h"
+#include "veltrix_sdk/numbers.h"
 #include "veltrix_sdk/records.h"
 #include "veltrix_simulator/simulator.h"
 
@@ -78,12 +80,12 @@ public:
     std::int32_t linkBaudRate() const;
     void setBaudRate(std::int32_t baudRate);
 
-    int target{0}; ///< 0 the Blend Unit, 1 the camera.
+    int target{veltrix_sdk::targetBlendUnit};
     bool deviceOpen{false};
     bool silent{false};        ///< The device that is open never answers.
     bool cableOut{false};      ///< Nothing reaches the device until it is opened again.
     bool storesAreLost{false}; ///< What is stored now lasts until the device is opened again.
-    std::array<Unit, 2> units{};
+    std::array<Unit, unitCount> units{};
     std::array<double, configurationFields.size()> configuration{};
     std::vector<Port> ports;
     std::string communicationType;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "units/allowed.h"
+#include "units/unitnames.h"
 #include "values/value.h"
 #include "veltrix_sdk/numbers.h"
 #include "veltrix_sdk/records.h"
@@ -38,7 +39,7 @@ struct UnitField
     std::string_view key;
     Kind kind;
     Allowed allowed;
-    double defaults[2]; ///< By target.
+    double defaults[unitCount]; ///< By target.
     Saved saved;
 };
 
