@@ -76,7 +76,7 @@ void loseStores(Alterations &alterations, const PlannedEffect & /*planned*/)
 
 constexpr EffectRows rows{{
     {Effect::Refuse, "refuse", answersSomething, "answers nothing, so it cannot refuse"},
-    {Effect::Answer, "answer", nullptr, "", answerAsWritten, nullptr, nullptr, "answer"},
+    {Effect::Answer, "answer", nullptr, "", answerAsWritten, nullptr, nullptr, "answer", "leavesOutputs"},
     {Effect::Stuck, "stuck", isCommand, "changes nothing of a unit, so nothing can be stuck", acknowledge},
     {Effect::Wrong, "wrong", readsNumbers, "reads no number, so nothing that it reads can be wrong", nullptr,
      makeValuesWrong},

@@ -38,7 +38,9 @@ struct EffectRow
     void (*alter)(Alterations &alterations, const PlannedEffect &planned){nullptr};
     /// Changes the state as soon as the call is hit, before its time passes; null: nothing.
     void (*strike)(State &state){nullptr};
-    std::string_view neededKey{}; ///< Key that such a fault must have; empty: none.
+    // The keys of a scenario's fault that belong to this effect alone; empty: none.
+    std::string_view neededKey{};   ///< Such a fault must have it.
+    std::string_view possibleKey{}; ///< It may have it.
 
     constexpr bool works() const { return alter != nullptr; }
 };

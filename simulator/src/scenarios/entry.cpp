@@ -199,9 +199,9 @@ void Entry::failUnknown(std::string_view key, const std::vector<std::string> &kn
     under(member).failAt(member.keyPosition, "is unknown here" + suggestion(key, known));
 }
 
-void Entry::refuseStrangers(std::string_view chooser, std::string_view chosen,
-                            const std::vector<Belonging> &belongings) const
+void Entry::refuseStrangers(std::string_view chooser, const std::vector<Belonging> &belongings) const
 {
+    const std::string value = find(chooser)->text();
     for (const Belonging &belonging : belongings) {
         std::vector<std::string> choices;
         for (const Belonging &other : belongings) {
@@ -210,9 +210,9 @@ void Entry::refuseStrangers(std::string_view chooser, std::string_view chosen,
             }
         }
         const std::optional<Entry> entry = find(belonging.key);
-        if (entry && !isOneOf(chosen, choices)) {
+        if (entry && !isOneOf(value, choices)) {
             entry->fail("belongs to " + std::string{chooser} + ' ' + alternatives(choices) + ", not to " +
-                        inQuotes(chosen));
+                        inQuotes(value));
         }
     }
 }

@@ -20,8 +20,8 @@
 namespace veltrix_simulator
 {
 
-/// A key that may stand only where another key has a certain value: `answer` belongs to the effect "answer".
-/// It may be listed with several values.
+/// A key that may stand only where another key, the chooser, has a certain value: `answer` belongs to the
+/// effect "answer". It may be listed with several values.
 struct Belonging
 {
     std::string_view key;
@@ -59,11 +59,10 @@ public:
     std::vector<Entry> entries() const;
     std::optional<Entry> find(std::string_view key) const;
 
-    /// Refuse what a table may not have: keys that are not known, keys that stand without the value that they
-    /// belong to, and two keys of which only one can stand.
+    /// Refuse what a table may not have: keys that are not known, keys that stand without the value of the
+    /// chooser that they belong to, and two keys of which only one can stand. The chooser stands there.
     void refuseUnknown(const std::vector<std::string> &known) const;
-    void refuseStrangers(std::string_view chooser, std::string_view chosen,
-                         const std::vector<Belonging> &belongings) const;
+    void refuseStrangers(std::string_view chooser, const std::vector<Belonging> &belongings) const;
     void refuseTwoOf(const std::vector<std::string> &keys) const;
     /// Refuses a table that has none of the keys.
     void demandOneOf(const std::vector<std::string> &keys) const;
@@ -83,6 +82,14 @@ private:
     const TomlNode *node;
     std::string path;
     const std::string *file;
+};
+
+/// A name that a text may be, and what it stands for.
+template <typename Id>
+struct Choice
+{
+    Id id;
+    std::string_view name;
 };
 
 /// The id of the row whose name the text is.

@@ -27,23 +27,20 @@ constexpr std::int64_t lastCall{1'000'000'000};
 constexpr double longestDelay{10'000};
 constexpr double largestNumber{1e300};
 
-/// In the order of Effect.
-const std::vector<std::string> &effectNames()
-{
-    static const std::vector<std::string> names = [] {
-        std::vector<std::string> list;
-        for (const EffectRow &row : effectRows()) {
-            list.emplace_back(row.name);
-        }
-        return list;
-    }();
-    return names;
-}
-
+/// The keys of an effect belong to no other one.
 const std::vector<Belonging> &belongings()
 {
-    static const std::vector<Belonging> list{
-        {"answer", "answer"}, {"leavesOutputs", "answer"}, {"delayMilliseconds", "late"}};
+    static const std::vector<Belonging> list = [] {
+        std::vector<Belonging> keys;
+        for (const EffectRow &row : effectRows()) {
+            for (const std::string_view key : {row.neededKey, row.possibleKey}) {
+                if (!key.empty()) {
+                    keys.push_back({key, row.name});
+                }
+            }
+        }
+        return keys;
+    }();
     return list;
 }
 
@@ -165,7 +162,7 @@ constexpr Setting<FaultRule> faultSettings[]{
      }},
     {"effect",
      [](const Entry &entry, FaultRule &rule) {
-         rule.effect = static_cast<Effect>(entry.choice(effectNames()));
+         rule.effect = chosen(entry, effectRows());
      }},
     {"answer",
      [](const Entry &entry, FaultRule &rule) {
@@ -248,7 +245,7 @@ FaultRule readFault(const Entry &fault)
     fault.refuseTwoOf({"once", "onCall", "fromCall", "everyCall"});
     fault.refuseTwoOf({"once", "onCall", "everyCall", "times"});
     const EffectRow &effect = rowOf(rule.effect);
-    fault.refuseStrangers("effect", effect.name, belongings());
+    fault.refuseStrangers("effect", belongings());
     if (!effect.neededKey.empty()) {
         fault.demandOneOf({std::string{effect.neededKey}});
     }

@@ -39,26 +39,27 @@ constexpr double longestOpening{60'000};
 constexpr double oneDay{86'400'000};
 constexpr double tenYears{315'360'000};
 
-/// In the order of Link::Kind.
-const std::vector<std::string> &linkKinds()
-{
-    static const std::vector<std::string> names{"none", "fixed", "serial"};
-    return names;
-}
+constexpr std::string_view fixedLink{"fixed"};
+constexpr std::string_view serialLink{"serial"};
+constexpr Choice<Link::Kind> linkKinds[]{
+    {Link::Kind::None, "none"},
+    {Link::Kind::Fixed, fixedLink},
+    {Link::Kind::Serial, serialLink},
+};
 
 const std::vector<Belonging> &linkBelongings()
 {
     static const std::vector<Belonging> list{
-        {"millisecondsPerCall", "fixed"}, {"bytesPerCommand", "serial"},
-        {"baudRate", "serial"},           {"thinkTimeMilliseconds", "serial"},
-        {"jitterMilliseconds", "fixed"},  {"jitterMilliseconds", "serial"}};
+        {"millisecondsPerCall", fixedLink}, {"bytesPerCommand", serialLink},
+        {"baudRate", serialLink},           {"thinkTimeMilliseconds", serialLink},
+        {"jitterMilliseconds", fixedLink},  {"jitterMilliseconds", serialLink}};
     return list;
 }
 
 constexpr Setting<Link> linkSettings[]{
     {"kind",
      [](const Entry &entry, Link &link) {
-         link.kind = static_cast<Link::Kind>(entry.choice(linkKinds()));
+         link.kind = chosen(entry, linkKinds);
      }},
     {"millisecondsPerCall",
      [](const Entry &entry, Link &link) {
@@ -87,12 +88,18 @@ Link readLink(const Entry &entry)
     Link link;
     readTable(entry, linkSettings, link);
     entry.demandOneOf({"kind"});
-    entry.refuseStrangers("kind", linkKinds()[static_cast<std::size_t>(link.kind)], linkBelongings());
+    entry.refuseStrangers("kind", linkBelongings());
     if (link.kind == Link::Kind::Fixed) {
         entry.demandOneOf({"millisecondsPerCall"});
     }
     return link;
 }
+
+constexpr Choice<Port::Opening> portOpenings[]{
+    {Port::Opening::Opens, "opens"},
+    {Port::Opening::Refused, "refused"},
+    {Port::Opening::Silent, "silent"},
+};
 
 constexpr Setting<Port> portSettings[]{
     {"name",
@@ -101,7 +108,7 @@ constexpr Setting<Port> portSettings[]{
      }},
     {"opening",
      [](const Entry &entry, Port &port) {
-         port.opening = static_cast<Port::Opening>(entry.choice({"opens", "refused", "silent"}));
+         port.opening = chosen(entry, portOpenings);
      }},
     {"delayMilliseconds",
      [](const Entry &entry, Port &port) {
