@@ -25,6 +25,23 @@ constexpr double tenStepsAUnit{10.0};
 constexpr double fromZero{0.0};
 constexpr double lowestGamma{static_cast<double>(gammaRange.minimum) / fixedPointOne};
 
+/// An expert value by its operations, with what the log says before the number that was read and when it was
+/// set.
+template <auto get, auto set, auto getDefault>
+CameraNumber expertNumber(const char *readLabel, const char *action)
+{
+    return {
+        SequencePlace::Expert,
+        [](IDeviceControl &device) -> double { return (device.*get)(); },
+        [](IDeviceControl &device, double value) { return (device.*set)(truncateToUint32(value)); },
+        [](ISdkConfiguration &defaults) -> double { return (defaults.*getDefault)(); },
+        ShownIn::Both,
+        readLabel,
+        LoggedAs::Whole,
+        action,
+    };
+}
+
 } // namespace
 
 const std::vector<SliderPair> &sliderPairs()
@@ -135,16 +152,8 @@ const std::vector<SliderPair> &sliderPairs()
             SLOT(GSKExpertSliderChanged(int)),
             SLOT(GSKExpertValueChanged(double)),
             SLOT(gskSendCommand()),
-            {
-                SequencePlace::Expert,
-                [](IDeviceControl &device) -> double { return device.getGsk(); },
-                [](IDeviceControl &device, double value) { return device.setGsk(truncateToUint32(value)); },
-                [](ISdkConfiguration &defaults) -> double { return defaults.getDefaultGsk(); },
-                ShownIn::Both,
-                "GSK value = ",
-                LoggedAs::Whole,
-                "Set GSK value",
-            },
+            expertNumber<&IDeviceControl::getGsk, &IDeviceControl::setGsk, &ISdkConfiguration::getDefaultGsk>(
+                "GSK value = ", "Set GSK value"),
             {&ConfigurationWords::gskMinimum, &ConfigurationWords::gskMaximum,
              &ConfigurationWords::gskDefault},
         },
@@ -156,16 +165,8 @@ const std::vector<SliderPair> &sliderPairs()
             SLOT(GFIDExpertSliderChanged(int)),
             SLOT(GFIDExpertValueChanged(double)),
             SLOT(gfiSendCommand()),
-            {
-                SequencePlace::Expert,
-                [](IDeviceControl &device) -> double { return device.getGfid(); },
-                [](IDeviceControl &device, double value) { return device.setGfid(truncateToUint32(value)); },
-                [](ISdkConfiguration &defaults) -> double { return defaults.getDefaultGfid(); },
-                ShownIn::Both,
-                "GFID value = ",
-                LoggedAs::Whole,
-                "Set GFID value",
-            },
+            expertNumber<&IDeviceControl::getGfid, &IDeviceControl::setGfid,
+                         &ISdkConfiguration::getDefaultGfid>("GFID value = ", "Set GFID value"),
             {&ConfigurationWords::gfidMinimum, &ConfigurationWords::gfidMaximum,
              &ConfigurationWords::gfidDefault},
         },
@@ -177,16 +178,8 @@ const std::vector<SliderPair> &sliderPairs()
             SLOT(GMSExpertSliderChanged(int)),
             SLOT(GMSExpertValueChanged(double)),
             SLOT(gmsSendCommand()),
-            {
-                SequencePlace::Expert,
-                [](IDeviceControl &device) -> double { return device.getGms(); },
-                [](IDeviceControl &device, double value) { return device.setGms(truncateToUint32(value)); },
-                [](ISdkConfiguration &defaults) -> double { return defaults.getDefaultGms(); },
-                ShownIn::Both,
-                "GMS value = ",
-                LoggedAs::Whole,
-                "Set GMS value",
-            },
+            expertNumber<&IDeviceControl::getGms, &IDeviceControl::setGms, &ISdkConfiguration::getDefaultGms>(
+                "GMS value = ", "Set GMS value"),
             // The number has 32 bits, whatever part of them the slider covers.
             {&ConfigurationWords::gmsMinimum, &ConfigurationWords::gmsMaximum,
              &ConfigurationWords::gmsDefault, true},
@@ -199,16 +192,8 @@ const std::vector<SliderPair> &sliderPairs()
             SLOT(TINTExpertSliderChanged(int)),
             SLOT(TINTExpertValueChanged(double)),
             SLOT(tintSendCommand()),
-            {
-                SequencePlace::Expert,
-                [](IDeviceControl &device) -> double { return device.getTint(); },
-                [](IDeviceControl &device, double value) { return device.setTint(truncateToUint32(value)); },
-                [](ISdkConfiguration &defaults) -> double { return defaults.getDefaultTint(); },
-                ShownIn::Both,
-                "TINT value = ",
-                LoggedAs::Whole,
-                "Set TINT value",
-            },
+            expertNumber<&IDeviceControl::getTint, &IDeviceControl::setTint,
+                         &ISdkConfiguration::getDefaultTint>("TINT value = ", "Set TINT value"),
             {&ConfigurationWords::tintMinimum, &ConfigurationWords::tintMaximum,
              &ConfigurationWords::tintDefault},
         },
