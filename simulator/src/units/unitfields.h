@@ -11,6 +11,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 
 namespace veltrix_simulator
@@ -42,6 +43,10 @@ struct UnitField
     double defaults[unitCount]; ///< By target.
     Saved saved;
 };
+
+/// What the edge correction's thresholds are at power-on: the first, and what a camera makes of it.
+inline constexpr std::int32_t firstEdgeThreshold{20};
+inline constexpr std::int32_t secondEdgeThreshold{firstEdgeThreshold + veltrix_sdk::edgeThresholdDistance};
 
 inline constexpr std::array frameRates{asDoubles(veltrix_sdk::frameRatesHz)};
 inline constexpr std::array mavlinkBaudRates{asDoubles(veltrix_sdk::mavlinkBaudRates)};
