@@ -3,7 +3,6 @@
 // The simulated SDK as a whole: its root object and everything behind it.
 #include "simulation.h"
 
-#include "calls/trace.h"
 #include "faults/activefaults.h"
 #include "faults/faultrule.h"
 #include "operations/operations.h"
@@ -79,7 +78,7 @@ void Simulation::reset()
 void Simulation::powerOn(const Scenario &scenario)
 {
     state.reset();
-    path.start(scenario);
+    path.start(scenario.link, scenario.life, scenario.faults, scenario.seed);
     state.ports = scenario.ports;
     for (const auto &[key, value] : scenario.values) {
         state.set(key, value);
@@ -96,7 +95,7 @@ void Simulation::powerOn(const Scenario &scenario)
     if (const std::optional<std::string> damage = memory.restore(state, scenario.memoryFile)) {
         throw std::invalid_argument{*damage};
     }
-    path.trace.start(scenario.name, scenario.seed);
+    path.startTrace(scenario.name, scenario.seed);
 }
 
 BadPixelMemory &Simulation::badPixelsOf(int target)
@@ -109,7 +108,7 @@ BadPixelMemory &Simulation::badPixelsOf(int target)
 
 void Simulation::reportUnfired()
 {
-    for (const std::string &origin : path.faults.unfired()) {
+    for (const std::string &origin : path.activeFaults().unfired()) {
         const std::string report = origin + ": this fault never happened";
         log.write(veltrix_sdk::severity_warning, report);
         std::cerr << "veltrix.sdk: " << report << '\n' << std::flush;

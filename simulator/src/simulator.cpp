@@ -54,22 +54,22 @@ void Simulator::loadScenario(const std::string &nameOrPath)
 
 const std::vector<Call> &Simulator::journal() const
 {
-    return impl->simulation.path.journal;
+    return impl->simulation.path.journal();
 }
 
 void Simulator::clearJournal()
 {
-    impl->simulation.path.journal.clear();
+    impl->simulation.path.clearJournal();
 }
 
 void Simulator::setJournalEnabled(bool enabled)
 {
-    impl->simulation.path.journalEnabled = enabled;
+    impl->simulation.path.setJournalEnabled(enabled);
 }
 
 std::size_t Simulator::callsWhileNotOpen() const
 {
-    return impl->simulation.path.callsWhileNotOpen;
+    return impl->simulation.path.callsWhileNotOpen();
 }
 
 bool Simulator::isDeviceOpen() const
@@ -102,17 +102,17 @@ void Simulator::setPorts(std::vector<std::string> ports)
 
 void Simulator::addFault(Fault fault)
 {
-    impl->simulation.path.faults.add(ruleOf(std::move(fault)));
+    impl->simulation.path.activeFaults().add(ruleOf(std::move(fault)));
 }
 
 void Simulator::clearFaults()
 {
-    impl->simulation.path.faults.clear();
+    impl->simulation.path.activeFaults().clear();
 }
 
 std::vector<std::string> Simulator::unfiredFaults() const
 {
-    return impl->simulation.path.faults.unfired();
+    return impl->simulation.path.activeFaults().unfired();
 }
 
 } // namespace veltrix_simulator

@@ -36,5 +36,5 @@ Scenario scenarioWith(OperationId operation, Effect effect)
 
 QString lastCall(const ScenarioCamera &camera)
 {
-    return QString::fromStdString(camera.simulation.path.journal.back().text);
+    return QString::fromStdString(camera.simulation.path.journal().back().text);
 }

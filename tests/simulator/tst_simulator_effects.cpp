@@ -151,7 +151,7 @@ void SimulatorEffectsTest::stuck()
     QVERIFY(calls.at(operation)());
     QCOMPARE(wholeState(c), before);
     QCOMPARE(c.device.getSerialNumber(), 10417U);
-    c.simulation.path.faults.clear();
+    c.simulation.path.activeFaults().clear();
     QVERIFY(calls.at(operation)());
     QVERIFY(wholeState(c) != before || c.device.getSerialNumber() == 2063U);
 }
@@ -430,7 +430,7 @@ void SimulatorEffectsTest::cableOut()
     QVERIFY(!c.device.setClhe(1));
     QVERIFY(c.configuration.isExpertMode());
     QVERIFY(c.simulation.state.deviceOpen);
-    QCOMPARE(c.simulation.path.callsWhileNotOpen, std::size_t{0});
+    QCOMPARE(c.simulation.path.callsWhileNotOpen(), std::size_t{0});
     c.reopen();
     QCOMPARE(gammaOf(c), 65536U);
     QCOMPARE(c.device.getClhe(), 2000U);

@@ -192,7 +192,7 @@ void SimulatorRulesTest::hitsAnArgumentInARange()
     c.device.getWarp(&warp);
     c.device.configureZoom(nullptr);
     c.device.getWarp(nullptr);
-    QCOMPARE(c.simulation.path.faults.unfired().empty(), hits);
+    QCOMPARE(c.simulation.path.activeFaults().unfired().empty(), hits);
 }
 
 void SimulatorRulesTest::waitsForAnotherOperation()
@@ -337,7 +337,7 @@ void SimulatorRulesTest::rulesThatAreOverruledNeverHit()
     scenario.faults.back().origin = "test.toml:9";
     const ScenarioCamera c{scenario};
     c.device.setGamma(65536);
-    QCOMPARE(c.simulation.path.faults.unfired(), std::vector<std::string>{"test.toml:1"});
+    QCOMPARE(c.simulation.path.activeFaults().unfired(), std::vector<std::string>{"test.toml:1"});
 }
 
 void SimulatorRulesTest::wrongRuleIsNamed()
@@ -354,7 +354,7 @@ void SimulatorRulesTest::wrongRuleIsNamed()
              QStringLiteral("test.toml:1: \"getGamma\" changes nothing of a unit, so nothing can be stuck"));
     QCOMPARE(refusal(refusing(OperationId::getGamma, [](FaultRule &rule) { rule.operations.clear(); })),
              QStringLiteral("test.toml:1: a fault needs an operation"));
-    QVERIFY(simulation().path.faults.isEmpty());
+    QVERIFY(simulation().path.activeFaults().isEmpty());
 }
 
 PILOTEL_TEST_CLASS(SimulatorRulesTest)

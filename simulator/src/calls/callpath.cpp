@@ -8,7 +8,6 @@
 #include "calls/traceline.h"
 #include "faults/alteredstate.h"
 #include "faults/effects.h"
-#include "faults/faultrule.h"
 #include "units/recordmembers.h"
 #include "values/value.h"
 
@@ -44,16 +43,17 @@ private:
 
 } // namespace
 
-void CallPath::start(const Scenario &scenario)
+void CallPath::start(const Link &itsLink, const Life &life, const std::vector<FaultRule> &rules,
+                     std::uint64_t seed)
 {
-    journal.clear();
+    calls.clear();
     journalEnabled = true;
-    callsWhileNotOpen = 0;
-    link = LinkTime{scenario.link, scenario.seed};
-    unitTime = UnitTime{scenario.life};
-    faults.start(scenario.seed);
-    for (const FaultRule &fault : scenario.faults) {
-        faults.add(fault);
+    callsNotOpen = 0;
+    link = LinkTime{itsLink, seed};
+    unitTime = UnitTime{life};
+    faults.start(seed);
+    for (const FaultRule &rule : rules) {
+        faults.add(rule);
     }
 }
 
@@ -64,7 +64,7 @@ void CallPath::pass(OperationId operation, Parameters parameters, const ResultPl
     const bool isOfDevice{nameOf(operation).interface == Interface::Device};
     const bool isOpen{!isOfDevice || state.deviceOpen};
     const bool isAnswered{isOpen && (!isOfDevice || deviceAnswers())};
-    callsWhileNotOpen += isOpen ? 0 : 1;
+    callsNotOpen += isOpen ? 0 : 1;
 
     std::optional<PlannedEffect> planned;
     if (isAnswered && !faults.isEmpty()) {
@@ -144,12 +144,12 @@ void CallPath::keepInJournal(OperationId operation, int target, bool isOpen, Par
                              const ResultPlace &result)
 {
     // A program that runs for days never takes its journal.
-    if (static_cast<std::ptrdiff_t>(journal.size()) >= journalCapacity) {
-        journal.erase(journal.begin(), journal.begin() + journalCapacity / 2);
+    if (static_cast<std::ptrdiff_t>(calls.size()) >= journalCapacity) {
+        calls.erase(calls.begin(), calls.begin() + journalCapacity / 2);
     }
     const OperationName &name = nameOf(operation);
     writeJournalText(line, name.name, isOpen, objects, parameters, result);
-    journal.push_back({name.interface, std::string{name.name}, target, line});
+    calls.push_back({name.interface, std::string{name.name}, target, line});
 }
 
 void CallPath::writeToTrace(OperationId operation, int target, bool isOpen, Parameters parameters,

@@ -8,17 +8,19 @@
 #include "calls/trace.h"
 #include "calls/traceline.h"
 #include "faults/activefaults.h"
+#include "faults/faultrule.h"
 #include "faults/plannedeffect.h"
 #include "operations/operations.h"
-#include "scenarios/scenario.h"
 #include "time/life.h"
 #include "time/link.h"
 #include "units/state.h"
 #include "veltrix_simulator/simulator.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <type_traits>
 #include <vector>
 
@@ -50,9 +52,12 @@ class CallPath
 public:
     CallPath(State &itsState, const Objects &itsObjects) : state{itsState}, objects{itsObjects} {}
 
-    /// Power-on: an empty journal, switched on, and the scenario's link, life and faults. Throws
-    /// std::invalid_argument when one of them cannot be played.
-    void start(const Scenario &scenario);
+    /// Power-on: an empty journal, switched on, and this link, this life and these faults; the seed settles
+    /// what is drawn. Throws std::invalid_argument when one of them cannot be played.
+    void start(const Link &itsLink, const Life &life, const std::vector<FaultRule> &rules,
+               std::uint64_t seed);
+    /// Begins the trace of a power-on.
+    void startTrace(std::string_view scenario, std::uint64_t seed) { trace.start(scenario, seed); }
 
     /// Runs one operation, whose parameters are given in its own order. The work runs only when the call
     /// reaches what it was made on, nothing that it reads or fills in is missing, and no fault is in the way.
@@ -63,8 +68,8 @@ public:
     {
         using Result = std::invoke_result_t<const Function &>;
         // The short way of a call that nothing can happen to, so that a program measured on the simulator is
-        // measured alone.
-        if (goesTheShortWay() && prepare(parameters, false)) {
+        // measured alone. Reads mostly have no parameters to prepare.
+        if (goesTheShortWay() && (parameters.size() == 0 || prepare(parameters, false))) {
             return work();
         }
         if constexpr (std::is_void_v<Result>) {
@@ -82,11 +87,14 @@ public:
     /// Whether calls of the device wait or make the units' values go on.
     bool takesTime() const { return link.passes() || unitTime.passes(); }
 
-    std::vector<Call> journal;
-    bool journalEnabled{true};
-    std::size_t callsWhileNotOpen{0};
-    ActiveFaults faults;
-    Trace trace;
+    /// The calls since the journal was cleared; of very many the latest.
+    const std::vector<Call> &journal() const { return calls; }
+    void clearJournal() { calls.clear(); }
+    void setJournalEnabled(bool enabled) { journalEnabled = enabled; }
+    /// How many calls came for a device that was not open, since power-on.
+    std::size_t callsWhileNotOpen() const { return callsNotOpen; }
+    /// The faults that the next calls meet.
+    ActiveFaults &activeFaults() { return faults; }
 
 private:
     void pass(OperationId operation, Parameters parameters, const ResultPlace &result, const Work &work);
@@ -135,6 +143,11 @@ private:
         }
     }
 
+    std::vector<Call> calls;
+    bool journalEnabled{true};
+    std::size_t callsNotOpen{0};
+    ActiveFaults faults;
+    Trace trace;
     State &state;
     const Objects objects;
     LinkTime link{{}, 0};

@@ -7,7 +7,6 @@
 #include "values/value.h"
 
 #include <cstdint>
-#include <tuple>
 #include <type_traits>
 
 namespace veltrix_simulator
@@ -15,7 +14,7 @@ namespace veltrix_simulator
 
 /// A number that is no member of a record.
 template <Kind kind>
-inline constexpr Member plainNumber{{}, kind, 0, sizeof(TypeOf<kind>), std::tuple_size_v<Records>, Field{}};
+inline constexpr Member plainNumber{{}, kind, 0, sizeof(TypeOf<kind>), noRecord, {}};
 
 /// A number or the members of a record in memory, which may be missing, to be read. Every number of the
 /// contract is exact in a double.
@@ -37,7 +36,7 @@ public:
     bool isThere() const { return bytes != nullptr; }
     /// The members of the record, or the one plain number.
     const Members &members() const { return list; }
-    bool isPlainNumber() const { return list.first->name.empty(); }
+    bool isPlainNumber() const { return list.first->record == noRecord; }
 
     double at(const Member &member) const
     {

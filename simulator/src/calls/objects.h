@@ -5,8 +5,6 @@
 
 #include "veltrix_sdk/sdk.h"
 
-#include <array>
-#include <cstddef>
 #include <type_traits>
 
 namespace veltrix_simulator
@@ -40,25 +38,30 @@ struct Objects
 class ObjectPointer
 {
 public:
-    ObjectPointer(const veltrix_sdk::IVeltrixSdk *object) : kind{0}, address{object} {}
-    ObjectPointer(const veltrix_sdk::ISdkConfiguration *object) : kind{1}, address{object} {}
-    ObjectPointer(const veltrix_sdk::IDeviceManager *object) : kind{2}, address{object} {}
-    ObjectPointer(const veltrix_sdk::IDeviceControl *object) : kind{3}, address{object} {}
+    ObjectPointer(const veltrix_sdk::IVeltrixSdk *object) : ObjectPointer{"sdk", object} {}
+    ObjectPointer(const veltrix_sdk::ISdkConfiguration *object) : ObjectPointer{"configuration", object} {}
+    ObjectPointer(const veltrix_sdk::IDeviceManager *object) : ObjectPointer{"manager", object} {}
+    ObjectPointer(const veltrix_sdk::IDeviceControl *object) : ObjectPointer{"device", object} {}
 
     bool isNull() const { return address == nullptr; }
 
     /// Name of the object: "unknown" when it is not the one of its class.
     const char *nameAmong(const Objects &objects) const
     {
-        constexpr std::array<const char *, 4> names{"sdk", "configuration", "manager", "device"};
-        const std::array<const void *, 4> known{objects.sdk, objects.configuration, objects.manager,
-                                                objects.device};
-        return known[kind] == address ? names[kind] : "unknown";
+        return objectOfClass(objects) == address ? name : "unknown";
     }
 
 private:
-    std::size_t kind;
+    template <typename T>
+    ObjectPointer(const char *itsName, const T *object)
+        : name{itsName}, address{object}, objectOfClass{[](const Objects &objects) -> const void * {
+              return objects.get<T>();
+          }}
+    {}
+
+    const char *name;
     const void *address;
+    const void *(*objectOfClass)(const Objects &objects);
 };
 
 } // namespace veltrix_simulator

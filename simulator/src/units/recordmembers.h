@@ -43,9 +43,12 @@ using Records =
                veltrix_sdk::ZoomResolution, veltrix_sdk::VisibleAgc, veltrix_sdk::VisibleClhe,
                veltrix_sdk::Warp>;
 
+/// In the place of a record: none.
+inline constexpr std::size_t noRecord{std::tuple_size_v<Records>};
+
 /// Whether the contract exchanges this type as a record.
 template <typename T>
-inline constexpr bool isRecord = placeAmong<T, Records> < std::tuple_size_v<Records>;
+inline constexpr bool isRecord = placeAmong<T, Records> != noRecord;
 
 /// The member of a record that the caller fills in before the call fills in the others; null where there is
 /// none.
@@ -64,14 +67,14 @@ constexpr Kind broughtKind()
     return kindOf<std::decay_t<decltype(std::declval<Record>().*broughtMember<Record>)>>();
 }
 
-/// One member of a record.
+/// One member of a record; or a number that belongs to none, which has no name and no field.
 struct Member
 {
-    std::string_view name; ///< As the journal shows it; empty for a number that is no member.
+    std::string_view name; ///< As the journal shows it.
     Kind kind;
     std::size_t offset; ///< Bytes.
     std::size_t size;   ///< Bytes.
-    std::size_t record; ///< Place of its record among Records.
+    std::size_t record; ///< Place of its record among Records, or noRecord.
     Field field;        ///< What holds it.
 };
 
