@@ -143,6 +143,9 @@ inline bool prepare(Parameters parameters, bool leavesOutputs)
 {
     bool isAllThere{true};
     for (const Parameter &parameter : parameters) {
+        if (std::holds_alternative<Number>(parameter.content())) {
+            continue;
+        }
         const ReadNumbers *const memory = parameter.memory();
         const NumbersAt *const filled = parameter.filledMemory();
         if (memory != nullptr && !memory->isThere()) {
