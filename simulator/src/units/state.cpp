@@ -72,7 +72,7 @@ Place placeOf(std::string_view key)
     throw std::invalid_argument{"no value of the simulator has the key \"" + std::string{key} + '"'};
 }
 
-Kind kindOf(const Place &place)
+Kind kindIn(const Place &place)
 {
     struct
     {
@@ -114,10 +114,10 @@ void State::reset()
 void State::set(std::string_view key, const Value &value)
 {
     const Place place = placeOf(key);
-    const std::optional<Value> converted = convert(value, kindOf(place));
+    const std::optional<Value> converted = convert(value, kindIn(place));
     if (!converted) {
         throw std::invalid_argument{'"' + std::string{key} + "\" takes " +
-                                    std::string{describe(kindOf(place))}};
+                                    std::string{describe(kindIn(place))}};
     }
     struct
     {
@@ -164,7 +164,7 @@ Value State::get(std::string_view key) const
         }
         Value operator()(Word word) const { return std::int64_t{state.words.*word}; }
         Value operator()(CommunicationTypePlace /*place*/) const { return state.communicationType; }
-    } const read{*this, kindOf(place)};
+    } const read{*this, kindIn(place)};
     return std::visit(read, place);
 }
 
@@ -259,7 +259,7 @@ std::vector<State::Lost>::iterator State::findLost(const UnitPlace &place)
 std::optional<Kind> State::kindAt(std::string_view key)
 {
     const std::optional<Place> place = findPlace(key);
-    return place ? std::optional{kindOf(*place)} : std::nullopt;
+    return place ? std::optional{kindIn(place)} : std::nullopt;
 }
 
 } // namespace veltrix_simulator
