@@ -167,9 +167,7 @@ QString nameOf(const QWidget &control)
 
 bool isControl(const QWidget &widget)
 {
-    const auto *const parent = qobject_cast<const QAbstractButton *>(widget.parentWidget());
     return !widget.objectName().isEmpty() && !widget.objectName().startsWith(QStringLiteral("qt_")) &&
-           parent == nullptr &&
            (qobject_cast<const QAbstractButton *>(&widget) != nullptr ||
             qobject_cast<const QComboBox *>(&widget) != nullptr ||
             qobject_cast<const QAbstractSpinBox *>(&widget) != nullptr ||
