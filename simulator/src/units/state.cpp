@@ -259,7 +259,7 @@ std::vector<State::Lost>::iterator State::findLost(const UnitPlace &place)
 std::optional<Kind> State::kindAt(std::string_view key)
 {
     const std::optional<Place> place = findPlace(key);
-    return place ? std::optional{kindIn(place)} : std::nullopt;
+    return place ? std::optional{kindIn(*place)} : std::nullopt;
 }
 
 } // namespace veltrix_simulator
