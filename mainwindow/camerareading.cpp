@@ -123,30 +123,32 @@ void MainWindow::readFlipAndPolarity()
 
 void MainWindow::readRegions()
 {
-    // In the order in which the device's readers number the regions.
+    // The number is the one that the device's readers give the region.
     const struct
     {
         Region region;
+        std::uint32_t number;
         const char *name;
     } regions[]{
-        {Region::Roi0Inclusive, "ROI0 inclusive"},
-        {Region::Roi0Exclusive, "ROI0 exclusive"},
-        {Region::Roi1Inclusive, "ROI1 inclusive"},
-        {Region::Roi1Exclusive, "ROI1 exclusive"},
+        {Region::Roi0Inclusive, getter_region::roi0Inclusive, "ROI0 inclusive"},
+        {Region::Roi0Exclusive, getter_region::roi0Exclusive, "ROI0 exclusive"},
+        {Region::Roi1Inclusive, getter_region::roi1Inclusive, "ROI1 inclusive"},
+        {Region::Roi1Exclusive, getter_region::roi1Exclusive, "ROI1 exclusive"},
     };
 
     static_assert(std::size(regions) == regionCount);
 
     // All are read before any widget changes: an enable box that changes sends its region back.
     std::array<std::array<std::uint32_t, 4>, std::size(regions)> pixels{};
-    for (std::uint32_t number{0}; number < pixels.size(); ++number) {
-        pixels[number] = {device->getRoiX1(number), device->getRoiY1(number), device->getRoiX2(number),
-                          device->getRoiY2(number)};
+    for (std::size_t place{0}; place < pixels.size(); ++place) {
+        const std::uint32_t number{regions[place].number};
+        pixels[place] = {device->getRoiX1(number), device->getRoiY1(number), device->getRoiX2(number),
+                         device->getRoiY2(number)};
     }
 
-    for (std::size_t number{0}; number < pixels.size(); ++number) {
-        const RegionWidgets widgets{regionWidgets(*ui, regions[number].region)};
-        const auto &[x1, y1, x2, y2] = pixels[number];
+    for (std::size_t place{0}; place < pixels.size(); ++place) {
+        const RegionWidgets widgets{regionWidgets(*ui, regions[place].region)};
+        const auto &[x1, y1, x2, y2] = pixels[place];
         if (widgets.enable != nullptr) {
             widgets.enable->setChecked(x1 != 0);
         }
@@ -163,7 +165,7 @@ void MainWindow::readRegions()
         };
         for (const auto &coordinate : coordinates) {
             showNumber(*coordinate.spinBox, coordinate.value);
-            appendLog(joinText(regions[number].name, ' ', coordinate.name, " value = ", coordinate.value));
+            appendLog(joinText(regions[place].name, ' ', coordinate.name, " value = ", coordinate.value));
         }
     }
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "ui_mainwindow.h"
+#include "veltrix_sdk/numbers.h"
 
 #include <QCheckBox>
 #include <QSpinBox>
@@ -12,10 +13,10 @@
 /// optional regions in another order, and neither side translates.
 enum class Region
 {
-    Roi0Inclusive = 0,
-    Roi1Inclusive = 1,
-    Roi0Exclusive = 2,
-    Roi1Exclusive = 3,
+    Roi0Inclusive = veltrix_sdk::setter_region::roi0Inclusive,
+    Roi1Inclusive = veltrix_sdk::setter_region::roi1Inclusive,
+    Roi0Exclusive = veltrix_sdk::setter_region::roi0Exclusive,
+    Roi1Exclusive = veltrix_sdk::setter_region::roi1Exclusive,
 };
 
 /// The widgets of one region; coordinates in pixels.
