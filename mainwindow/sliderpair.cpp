@@ -90,7 +90,7 @@ const std::vector<SliderPair> &sliderPairs()
         {
             &Ui_MainWindow::sharpeningGainSlider,
             &Ui_MainWindow::sharpeningGainEdit,
-            tenStepsAUnit,
+            sharpeningGainSteps,
             fromZero,
             SLOT(SharpeningUserSliderChanged(int)),
             SLOT(SharpeningUserValueChanged(double)),

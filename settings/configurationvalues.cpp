@@ -25,10 +25,6 @@ using ConfigurationRows = std::vector<ConfigurationValue>;
 
 const char *const keyPrefix{"configuration."};
 
-/// The default of the edge correction's gain counts the steps of the window's slider, so many for each step
-/// of the device.
-constexpr std::int32_t stepsOfGain{10};
-
 /// Name and call of an operation of the configuration.
 #define CONFIGURATION_OPERATION(operation) (Operation{#operation, &Configuration::operation})
 
@@ -73,7 +69,8 @@ ConfigurationRows image()
 {
     const Allowed gamma{
         between(double{gammaRange.minimum} / fixedPointOne, double{gammaRange.maximum} / fixedPointOne)};
-    const Allowed gain{between(edgeGainRange.minimum * stepsOfGain, edgeGainRange.maximum * stepsOfGain)};
+    const Allowed gainSteps{
+        between(edgeGainRange.minimum * sharpeningGainSteps, edgeGainRange.maximum * sharpeningGainSteps)};
     const Allowed percent{within(ahcGainLimitRange)};
     return {
         value("defaultBaudRate", CONFIGURATION_OPERATION(getDefaultBaudRate), oneOf(linkBaudRates),
@@ -83,7 +80,7 @@ ConfigurationRows image()
               "Default of the gamma correction"),
         value("defaultClhe", CONFIGURATION_OPERATION(getDefaultClhe), within(clheDefaultRange),
               "Default of CLHE"),
-        value("defaultSharpeningGain", CONFIGURATION_OPERATION(getDefaultSharpeningGain), gain,
+        value("defaultSharpeningGain", CONFIGURATION_OPERATION(getDefaultSharpeningGain), gainSteps,
               "Default of the edge correction's gain, in steps of its slider: tenths"),
         value("defaultContrastType", CONFIGURATION_OPERATION(getDefaultContrastType),
               within(contrastTypeRange), "Default of how contrast is found: 0 CLHE, 1 CLAHE"),

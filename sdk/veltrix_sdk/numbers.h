@@ -91,6 +91,8 @@ inline constexpr Range lutTemporalFilterRange{0, 8};
 inline constexpr Range ahcGainLimitRange{0, 100};
 
 inline constexpr Range edgeGainRange{0, 1024};
+/// Steps of the slider for 1 of the gain; getDefaultSharpeningGain counts in them.
+inline constexpr std::int32_t sharpeningGainSteps{10};
 inline constexpr Range edgeThresholdRange{0, 255};
 /// The second threshold is what the camera makes of the one that is set: so much more.
 inline constexpr std::int32_t edgeThresholdDistance{40};

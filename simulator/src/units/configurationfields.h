@@ -6,6 +6,7 @@
 #include "units/allowed.h"
 #include "values/value.h"
 #include "veltrix_sdk/configuration.h"
+#include "veltrix_sdk/numbers.h"
 
 #include <array>
 #include <cstddef>
