@@ -36,6 +36,12 @@ constexpr bool regionsAreAlike()
 
 static_assert(regionsAreAlike());
 
+// A call stores the numbers that it brings in fields that follow each other.
+static_assert(Field::mavlinkPermanent - Field::mavlinkBaudRate == 1, "setMavlinkBaudRate brings both");
+static_assert(Field::roi0ExcEnabled - Field::roi1IncEnabled == 1 &&
+                  Field::roi1ExcEnabled - Field::roi1IncEnabled == 2,
+              "a coordinate of a region is set with all three enables");
+
 constexpr std::size_t fieldsOfWarp{membersOf<veltrix_sdk::Warp>().count};
 
 bool isWarpStream(std::int32_t stream)
