@@ -9,6 +9,7 @@
 #include <QPushButton>
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 /// A stream that the Blend Unit can deliver: the device's number of it, its button and what is told.
@@ -34,23 +35,36 @@ constexpr std::array<VideoMode, 3> videoModes{{
     {veltrix_sdk::videoModeFusion, &Ui_MainWindow::BU_FUSION_MODE_PB, "Fusion mode activated",
      "Could not configure fusion mode"},
 }};
-static_assert(videoModes.size() == veltrix_sdk::videoModeRange.maximum + 1);
+
+/// Whether each mode stands at the place of its number.
+constexpr bool areInOrder()
+{
+    std::size_t place{0};
+    for (const VideoMode &mode : videoModes) {
+        if (mode.number != place++) {
+            return false;
+        }
+    }
+    return place == veltrix_sdk::videoModeRange.maximum + 1;
+}
+
+static_assert(areInOrder());
 
 } // namespace
 
 void MainWindow::irModeClicked()
 {
-    switchVideoMode(videoModes[0]);
+    switchVideoMode(videoModes[veltrix_sdk::videoModeInfrared]);
 }
 
 void MainWindow::visibleModeClicked()
 {
-    switchVideoMode(videoModes[1]);
+    switchVideoMode(videoModes[veltrix_sdk::videoModeVisible]);
 }
 
 void MainWindow::fusionModeClicked()
 {
-    switchVideoMode(videoModes[2]);
+    switchVideoMode(videoModes[veltrix_sdk::videoModeFusion]);
 }
 
 void MainWindow::switchVideoMode(const VideoMode &mode)
