@@ -110,7 +110,7 @@ void MainWindow::readOutputs()
 
     // A rate that the camera does not have is shown as 9 Hz, while a reset ends on 25 Hz: operators know
     // both.
-    ui->frameRateCB->setCurrentIndex(frameRateIndex(device->getFrameRate(), 0));
+    ui->frameRateCB->setCurrentIndex(frameRateIndex(device->getFrameRate(), indexOf9Hz));
     appendLog("Frame rate = " + ui->frameRateCB->currentText().toStdString());
 }
 

@@ -25,7 +25,7 @@ void MainWindow::ResetParamsUser()
 
     // A rate that the camera does not have is reset to 25 Hz, while a read shows it as 9 Hz: operators know
     // both.
-    ui->frameRateCB->setCurrentIndex(frameRateIndex(defaults.getDefaultFrameRate(), 1));
+    ui->frameRateCB->setCurrentIndex(frameRateIndex(defaults.getDefaultFrameRate(), indexOf25Hz));
     resetNumbers(SequencePlace::Gamma, defaults);
     resetNumbers(SequencePlace::Clhe, defaults);
     ui->sharpeningGainSlider->setValue(roundToInt(defaults.getDefaultSharpeningGain()));

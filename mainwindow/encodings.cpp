@@ -13,6 +13,8 @@
 using veltrix_sdk::fixedPointOne;
 using veltrix_sdk::frameRatesHz;
 
+static_assert(frameRatesHz[indexOf9Hz] == 9 && frameRatesHz[indexOf25Hz] == 25);
+
 namespace
 {
 

@@ -30,7 +30,11 @@ int nearestInt(std::uint64_t value);
 /// Degrees Celsius of a temperature in millikelvin, in single precision.
 float toCelsius(float millikelvin);
 
-/// Frames per second of an index of the frame rate box: 9, 25, 30, 50, 60; any other index gives 0.
+/// Indices of the frame rate box, which lists the camera's rates.
+inline constexpr int indexOf9Hz{0};
+inline constexpr int indexOf25Hz{1};
+
+/// Frames per second of an index of the frame rate box; one that it does not have gives 0.
 std::uint8_t frameRateHz(int index);
 
 /// Index of a frame rate in the frame rate box; another rate gives the index in otherwise.
