@@ -17,7 +17,8 @@ namespace
 {
 
 /// Name of the random numbers of a fault. It says what the fault is for and not where it stands, so that
-/// another fault or one more line in the scenario does not change the numbers.
+/// another fault or one more line in the scenario does not change the numbers. Every part of the name, "rule"
+/// and the places in enumerations included, stays as it is: another name would change what scenarios play.
 std::string streamName(const FaultRule &rule)
 {
     std::string name{"rule"};

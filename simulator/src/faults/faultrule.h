@@ -15,7 +15,9 @@
 namespace veltrix_simulator
 {
 
-/// What happens to a call that a fault hits. Each has a row in effects.cpp.
+/// What happens to a call that a fault hits. Each has a row in effects.cpp. A new one stands last, before
+/// count: the random numbers of a fault are named after the place of its effect, and another place would
+/// change what scenarios play.
 enum class Effect
 {
     Refuse,           ///< It does nothing; its result and out-parameters are zero.
