@@ -4,6 +4,7 @@
 #include "operations/operations.h"
 
 #include "units/recordmembers.h"
+#include "values/numberlist.h"
 #include "veltrix_sdk/records.h"
 #include "veltrix_sdk/sdk.h"
 
@@ -16,8 +17,8 @@ namespace veltrix_simulator
 namespace
 {
 
-template <typename T>
-void appendKinds(std::vector<Kind> &kinds)
+template <typename T, typename Kinds>
+constexpr void appendKinds(Kinds &kinds)
 {
     if constexpr (isRecord<T>) {
         for (const Member &member : membersOf<T>()) {
@@ -40,8 +41,8 @@ void appendFilledKinds(std::vector<Kind> &kinds)
 }
 
 /// What a parameter brings into the call.
-template <typename Parameter>
-void appendArgumentKinds(std::vector<Kind> &kinds)
+template <typename Parameter, typename Kinds>
+constexpr void appendArgumentKinds(Kinds &kinds)
 {
     using Target = std::remove_const_t<std::remove_pointer_t<Parameter>>;
     if constexpr (std::is_same_v<Parameter, Target *> && bringsMember<Target>) {
@@ -68,6 +69,45 @@ Operation describeCall(OperationId id, Role role, Result (Object::* /*operation*
 {
     return describeCall<Result, Parameters...>(id, role);
 }
+
+/// Counts kinds in the place of keeping them.
+struct KindCount
+{
+    std::size_t count{0};
+
+    constexpr void push_back(Kind /*kind*/) { ++count; }
+};
+
+template <typename Result, typename... Parameters>
+constexpr std::size_t countArguments()
+{
+    KindCount kinds;
+    (appendArgumentKinds<Parameters>(kinds), ...);
+    return kinds.count;
+}
+
+template <typename Result, typename Object, typename... Parameters>
+constexpr std::size_t countArguments(Result (Object::* /*operation*/)(Parameters...))
+{
+    return countArguments<Result, Parameters...>();
+}
+
+constexpr std::size_t argumentCounts[]{
+#define FUNCTION(name, interface, ...) countArguments<__VA_ARGS__>(),
+#define OPERATION(object, name, role) countArguments(&veltrix_sdk::object::name),
+#include "operations/operations.inc"
+};
+
+constexpr std::size_t mostArguments()
+{
+    std::size_t most{0};
+    for (const std::size_t count : argumentCounts) {
+        most = count > most ? count : most;
+    }
+    return most;
+}
+
+static_assert(NumberList::capacity == mostArguments());
 
 /// Whether the pattern, in which a `*` stands for any characters, covers the whole name.
 bool fits(std::string_view pattern, std::string_view name)
