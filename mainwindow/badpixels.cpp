@@ -91,7 +91,7 @@ void MainWindow::transferBprTable(const BprTransfer &transfer)
         }
     }
     // After a failure, this line follows the box all the same.
-    appendLog(joinText(transfer.beforeFileName, "bpr_SN", device->getSerialNumber(), ".bin",
+    appendLog(joinText(transfer.beforeFileName, bprFileNameBegin, device->getSerialNumber(), bprFileNameEnd,
                        transfer.afterFileName));
 }
 

@@ -121,6 +121,10 @@ inline constexpr std::uint32_t bprSecondNumber{16384};
 inline constexpr std::uint8_t bprReadCode{9};
 inline constexpr std::uint8_t bprWriteCode{8};
 
+/// The file of a table of bad pixels has the unit's serial number between these in its name.
+inline constexpr const char *bprFileNameBegin{"bpr_SN"};
+inline constexpr const char *bprFileNameEnd{".bin"};
+
 /// What saveBlendUnitParameters saves.
 inline constexpr std::uint8_t saveUserParameters{0};
 inline constexpr std::uint8_t saveExpertParameters{1};

@@ -75,7 +75,7 @@ std::uint32_t checksum(std::string_view header, std::string_view table)
 
 std::string bprFileName(std::uint32_t serialNumber)
 {
-    return "bpr_SN" + std::to_string(serialNumber) + ".bin";
+    return veltrix_sdk::bprFileNameBegin + std::to_string(serialNumber) + veltrix_sdk::bprFileNameEnd;
 }
 
 std::string formatBprFile(const BprFile &file)
