@@ -26,7 +26,7 @@ microseconds step(microseconds duration)
     return std::clamp(duration, microseconds{0}, longestStep);
 }
 
-Kind kindOf(const UnitPlace &place)
+Kind kindHeldBy(const UnitPlace &place)
 {
     return rowOf(place.field).kind;
 }
@@ -73,14 +73,14 @@ void UnitTime::Drifting::pass(microseconds time, double &number)
     }
     const double left{std::exp2(-static_cast<double>(time.count()) / halfTime)};
     exact = end + (exact - end) * left;
-    shown = fitted(exact, kindOf(place));
+    shown = fitted(exact, kindHeldBy(place));
     number = shown;
 }
 
 void UnitTime::Counting::pass(microseconds time, double &number)
 {
     sinceLast += time;
-    number = fitted(number + static_cast<double>(sinceLast / interval), kindOf(place));
+    number = fitted(number + static_cast<double>(sinceLast / interval), kindHeldBy(place));
     sinceLast %= interval;
 }
 

@@ -35,7 +35,7 @@ constexpr KindRow integerRow(std::string_view description)
 }
 
 // For Float and Double the limits are the largest integers that they hold exactly.
-constexpr std::array<KindRow, veltrix_sdk::kindCount> kinds{{
+constexpr std::array<KindRow, veltrix_sdk::kindCount> kindRows{{
     integerRow<Kind::Boolean>("true or false"),
     integerRow<Kind::Unsigned8>("an integer from 0 to 255"),
     integerRow<Kind::Unsigned16>("an integer from 0 to 65535"),
@@ -47,11 +47,11 @@ constexpr std::array<KindRow, veltrix_sdk::kindCount> kinds{{
     {Kind::Object, "true for the object or false for null", 0, 1},
 }};
 
-static_assert(inOrder(kinds));
+static_assert(inOrder(kindRows));
 
 constexpr const KindRow &rowOf(Kind kind)
 {
-    return kinds[static_cast<std::size_t>(kind)];
+    return kindRows[static_cast<std::size_t>(kind)];
 }
 
 bool isBoolean(Kind kind)
