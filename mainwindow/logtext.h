@@ -4,15 +4,18 @@
 #pragma once
 
 #include <cstdint>
+#include <locale>
 #include <sstream>
 #include <string>
 
 /// The pieces one after the other, in the default format of a text stream: doubles with six significant
-/// digits and no trailing zeros. A byte would come out as a character: give it as `+value`.
+/// digits and no trailing zeros. A byte would come out as a character: give it as `+value`. Numbers have a
+/// decimal point and no grouping, whatever locale the process or the SDK library has set.
 template <typename... Pieces>
 std::string joinText(const Pieces &...pieces)
 {
     std::ostringstream stream;
+    stream.imbue(std::locale::classic());
     (stream << ... << pieces);
     return stream.str();
 }
@@ -21,6 +24,7 @@ std::string joinText(const Pieces &...pieces)
 inline std::string hexText(std::uint32_t value)
 {
     std::ostringstream stream;
+    stream.imbue(std::locale::classic());
     stream << std::hex << value;
     return stream.str();
 }

@@ -67,6 +67,7 @@ class OperationLogTest : public QObject
 private slots:
     void appendsLinesToTheViewAndTheSdkLog_data();
     void appendsLinesToTheViewAndTheSdkLog();
+    void recordsTheWholeOfALine();
     void appendsInOrder();
     void appendsAtTheEndWhereverTheCursorIs();
     void keepsTextThatTheOperatorSelected();
@@ -121,6 +122,19 @@ void OperationLogTest::appendsLinesToTheViewAndTheSdkLog()
 
     QCOMPARE(logView(test).toPlainText(), view);
     QCOMPARE(test.takeCallsAndRecords(), QStringList{record});
+}
+
+void OperationLogTest::recordsTheWholeOfALine()
+{
+    // A record takes the line as a text object: one that is taken up to its first zero would lose the rest.
+    TestWindow test;
+    test.takeCalls();
+
+    QVERIFY(QMetaObject::invokeMethod(&test.window(), "appendLog", Qt::DirectConnection,
+                                      Q_ARG(std::string, std::string("before\0after", 12))));
+
+    QCOMPARE(test.takeCallsAndRecords(),
+             QStringList{QStringLiteral("log(2, \"before") + QChar::Null + QStringLiteral("after\")")});
 }
 
 void OperationLogTest::appendsInOrder()
