@@ -73,6 +73,10 @@ void MainWindow::scanDevice()
     for (const QString &name : names) {
         ui->selectDeviceComboBox->addItem(QIcon{}, name, QVariant{});
     }
+    // Whoever runs a library with ports of its own wants one of those, which stand behind the host's.
+    if (names.size() > serialPorts.size()) {
+        ui->selectDeviceComboBox->setCurrentIndex(serialPorts.size());
+    }
     ui->connectDeviceButton->setEnabled(true);
     ui->selectDeviceComboBox->setEnabled(true);
 }

@@ -33,6 +33,9 @@ private slots:
     void offersThePortsOfTheSdkAlone();
     void warnsAtEveryScan();
     void offersTheHostsPortsBeforeThoseOfTheSdk();
+    void selectsTheFirstPortOfTheSdk_data();
+    void selectsTheFirstPortOfTheSdk();
+    void connectsToThePortThatTheScanSelected();
 };
 
 void NoPortsTest::offersTheHostsPortsBeforeThoseOfTheSdk()
@@ -50,6 +53,57 @@ void NoPortsTest::offersTheHostsPortsBeforeThoseOfTheSdk()
     }
     const QStringList expected{QString{}, QString{}, "SIM1"};
     QCOMPARE(names, expected);
+}
+
+void NoPortsTest::selectsTheFirstPortOfTheSdk_data()
+{
+    QTest::addColumn<int>("hostPorts");
+    QTest::addColumn<QStringList>("sdkPorts");
+    QTest::addColumn<int>("selected");
+    QTest::newRow("none of the host") << 0 << QStringList{"SIM1", "SIM2"} << 0;
+    QTest::newRow("behind one of the host") << 1 << QStringList{"SIM1"} << 1;
+    QTest::newRow("the first of two behind three") << 3 << QStringList{"SIM1", "SIM2"} << 3;
+    QTest::newRow("none of the SDK: the first of the host") << 2 << QStringList{} << 0;
+}
+
+void NoPortsTest::selectsTheFirstPortOfTheSdk()
+{
+    QFETCH(const int, hostPorts);
+    QFETCH(const QStringList, sdkPorts);
+    QFETCH(const int, selected);
+    TestWindow test;
+    std::vector<std::string> names;
+    for (const QString &port : sdkPorts) {
+        names.push_back(port.toStdString());
+    }
+    test.simulator.setPorts(names);
+    auto &ports = test.child<QComboBox>("selectDeviceComboBox");
+
+    // A second scan begins anew, wherever the operator has gone.
+    setHostPorts(hostPorts);
+    test.click("scanDeviceButton");
+    const int afterTheFirstScan{ports.currentIndex()};
+    ports.setCurrentIndex(ports.count() - 1);
+    test.click("scanDeviceButton");
+    setHostPorts(0);
+
+    QCOMPARE(afterTheFirstScan, selected);
+    QCOMPARE(ports.currentIndex(), selected);
+    QCOMPARE(ports.count(), hostPorts + sdkPorts.size());
+}
+
+void NoPortsTest::connectsToThePortThatTheScanSelected()
+{
+    TestWindow test;
+    setHostPorts(2);
+    test.click("scanDeviceButton");
+    setHostPorts(0);
+    test.takeCalls();
+
+    test.click("connectDeviceButton");
+
+    QCOMPARE(test.takeCalls().filter("openDevice"), QStringList{"openDevice(\"SIM1\") -> device"});
+    QVERIFY(test.simulator.isDeviceOpen());
 }
 
 void NoPortsTest::warnsWhenThereIsNoPort()
