@@ -19,6 +19,7 @@ void ScenarioCamera::reopen()
 
 void ScenarioCamera::open()
 {
+    simulation.state.managerHeld = true;
     manager.openDevice(simulation.state.ports.front().name.c_str());
     simulation.state.target = 1;
 }

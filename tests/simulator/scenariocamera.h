@@ -11,8 +11,8 @@
 
 #include <functional>
 
-/// Starts the simulation of this process on the scenario and opens its first port. Selects the camera
-/// without a call, so that the first call of the device is the test's.
+/// Starts the simulation of this process on the scenario and opens its first port. Holds the manager and
+/// selects the camera without a call, so that the first call of the device is the test's.
 struct ScenarioCamera
 {
     explicit ScenarioCamera(const veltrix_simulator::Scenario &scenario);

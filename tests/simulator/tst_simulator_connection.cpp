@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// Ports, opening and closing, the target, and operations on a device that is not open.
+// Ports, opening and closing, the target, and operations on a device that is not open or a manager that is
+// not held.
 #include "everyoperation.h"
 #include "simulatedcamera.h"
 #include "testclass.h"
@@ -60,6 +61,14 @@ private slots:
     void unknownTargetIsRefused();
     void cameraIdentifiesItself();
     void managerIsHandedOutAndBack();
+    void releasedManagerDoesNothing_data();
+    void releasedManagerDoesNothing();
+    void managerHasToBeFetched();
+    void releaseClosesTheDevice();
+    void releaseOfAnotherPointerReleasesNothing();
+    void refusedReleaseReleasesNothing();
+    void managerOfAnAnsweredFaultIsHeld();
+    void callsOfAReleasedManagerCountForNoFault();
     void closedDeviceDoesNothing_data();
     void closedDeviceDoesNothing();
     void everythingElseWorksWhileClosed();
@@ -176,6 +185,111 @@ void SimulatorConnectionTest::managerIsHandedOutAndBack()
     QCOMPARE(c.sdk.getConfiguration(), &c.configuration);
 }
 
+void SimulatorConnectionTest::releasedManagerDoesNothing_data()
+{
+    QTest::addColumn<Action>("misuse");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char *text, Action misuse) {
+        QTest::addRow("%s", text) << misuse << QString{text};
+    };
+    row(R"(NOT HELD: openDevice("SIM1") -> null)", [](SimulatedCamera &c) { c.manager->openDevice("SIM1"); });
+    row("NOT HELD: closeDevice(device)", [](SimulatedCamera &c) { c.manager->closeDevice(c.device); });
+    row("NOT HELD: releaseDeviceManager(manager)",
+        [](SimulatedCamera &c) { c.sdk.releaseDeviceManager(&c.manager); });
+    row("NOT HELD: releaseDeviceManager(null)",
+        [](SimulatedCamera &c) { c.sdk.releaseDeviceManager(nullptr); });
+}
+
+void SimulatorConnectionTest::releasedManagerDoesNothing()
+{
+    QFETCH(const Action, misuse);
+    QFETCH(const QString, text);
+    SimulatedCamera c;
+    c.manager->closeDevice(c.device);
+    c.sdk.releaseDeviceManager(&c.manager);
+    QCOMPARE(c.lastCall(), QStringLiteral("releaseDeviceManager(manager)"));
+    QCOMPARE(c.simulator.callsWhileNotOpen(), std::size_t{0});
+    const QStringList before = stateOf(c);
+
+    misuse(c);
+
+    QCOMPARE(c.lastCall(), text);
+    QCOMPARE(c.simulator.callsWhileNotOpen(), std::size_t{1});
+    QVERIFY(!c.simulator.isDeviceOpen());
+    QCOMPARE(stateOf(c), before);
+    QCOMPARE(c.sdk.getDeviceManager()->openDevice("SIM1"), c.device);
+    QCOMPARE(c.simulator.callsWhileNotOpen(), std::size_t{1});
+}
+
+void SimulatorConnectionTest::managerHasToBeFetched()
+{
+    const SimulatedCamera c;
+    c.simulator.reset();
+    QCOMPARE(c.manager->openDevice("SIM1"), nullptr);
+    QCOMPARE(c.lastCall(), QStringLiteral(R"(NOT HELD: openDevice("SIM1") -> null)"));
+    QCOMPARE(c.simulator.callsWhileNotOpen(), std::size_t{1});
+}
+
+void SimulatorConnectionTest::releaseClosesTheDevice()
+{
+    SimulatedCamera c;
+    c.sdk.releaseDeviceManager(&c.manager);
+    QVERIFY(!c.simulator.isDeviceOpen());
+    QCOMPARE(c.simulator.callsWhileNotOpen(), std::size_t{0});
+    QCOMPARE(c.device->getGamma(), 0U);
+    QCOMPARE(c.lastCall(), QStringLiteral("NOT OPEN: getGamma() -> 0"));
+}
+
+void SimulatorConnectionTest::releaseOfAnotherPointerReleasesNothing()
+{
+    SimulatedCamera c;
+    IDeviceManager *none{nullptr};
+    c.sdk.releaseDeviceManager(&none);
+    c.sdk.releaseDeviceManager(nullptr);
+    QVERIFY(c.simulator.isDeviceOpen());
+    c.manager->closeDevice(c.device);
+    QCOMPARE(c.manager->openDevice("SIM1"), c.device);
+    QCOMPARE(c.simulator.callsWhileNotOpen(), std::size_t{0});
+}
+
+void SimulatorConnectionTest::refusedReleaseReleasesNothing()
+{
+    SimulatedCamera c;
+    c.simulator.addFault({"releaseDeviceManager", 1, 1});
+    c.sdk.releaseDeviceManager(&c.manager);
+    QVERIFY(c.simulator.isDeviceOpen());
+    c.manager->closeDevice(c.device);
+    QCOMPARE(c.simulator.callsWhileNotOpen(), std::size_t{0});
+}
+
+void SimulatorConnectionTest::managerOfAnAnsweredFaultIsHeld()
+{
+    SimulatedCamera c;
+    c.sdk.releaseDeviceManager(&c.manager);
+    c.simulator.addFault({"getDeviceManager", 1, 1, {{true}}});
+    QCOMPARE(c.sdk.getDeviceManager(), c.manager);
+    QCOMPARE(c.manager->openDevice("SIM1"), c.device);
+    QCOMPARE(c.simulator.callsWhileNotOpen(), std::size_t{0});
+
+    c.sdk.releaseDeviceManager(&c.manager);
+    c.simulator.addFault({"getDeviceManager", 1, 1});
+    QCOMPARE(c.sdk.getDeviceManager(), nullptr);
+    QCOMPARE(c.manager->openDevice("SIM1"), nullptr);
+    QCOMPARE(c.simulator.callsWhileNotOpen(), std::size_t{1});
+}
+
+void SimulatorConnectionTest::callsOfAReleasedManagerCountForNoFault()
+{
+    SimulatedCamera c;
+    c.sdk.releaseDeviceManager(&c.manager);
+    c.simulator.addFault({"openDevice", 1, 1});
+    c.manager->openDevice("SIM1");
+    c.sdk.getDeviceManager();
+    QCOMPARE(c.manager->openDevice("SIM1"), nullptr);
+    QCOMPARE(c.lastCall(), QStringLiteral(R"(openDevice("SIM1") -> null)"));
+    QCOMPARE(c.manager->openDevice("SIM1"), c.device);
+}
+
 void SimulatorConnectionTest::closedDeviceDoesNothing_data()
 {
     QTest::addColumn<std::size_t>("place");
@@ -209,8 +323,9 @@ void SimulatorConnectionTest::everythingElseWorksWhileClosed()
     c.manager->closeDevice(c.device);
     for (const OperationCall &operation : everyOperation()) {
         if (operation.interface != Interface::Device) {
+            c.sdk.getDeviceManager();
             operation.call(c);
-            QVERIFY2(!c.lastCall().startsWith(QStringLiteral("NOT OPEN")), operation.name);
+            QVERIFY2(!c.lastCall().startsWith(QStringLiteral("NOT ")), operation.name);
         }
     }
     QCOMPARE(c.simulator.callsWhileNotOpen(), std::size_t{0});

@@ -137,6 +137,10 @@ void SimulatorJournalTest::callReads_data()
         c.manager->closeDevice(c.device);
         c.device->setGamma(65536);
     });
+    row(R"(NOT HELD: openDevice("SIM1") -> null)", [](C &c) {
+        c.sdk.releaseDeviceManager(&c.manager);
+        c.manager->openDevice("SIM1");
+    });
     row(R"(log(2, ""))", [](C &) { log(""); });
     row(R"(log(2, "two\nlines"))", [](C &) { log("two\nlines"); });
     row(R"(log(0, "a text, a \"text\""))",

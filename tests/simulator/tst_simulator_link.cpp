@@ -163,7 +163,7 @@ void SimulatorLinkTest::callsWait()
     const auto slow = timeOf([&] { c.device.getGamma(); });
     QVERIFY2(slow >= 100, qPrintable(QString::number(slow)));
     c.simulation.start(over(fixed(20ms)));
-    c.manager.openDevice("SIM1");
+    c.simulation.sdk.getDeviceManager()->openDevice("SIM1");
     const auto several = timeOf([&] {
         QVERIFY(c.device.setGamma(65536));
         QCOMPARE(c.device.getGamma(), 65536U);
@@ -202,7 +202,7 @@ void SimulatorLinkTest::openingWaits()
     scenario.ports = {{"SLOW", static_cast<Port::Opening>(opening), 40ms}};
     simulation().start(scenario);
     veltrix_sdk::IDeviceControl *device{nullptr};
-    const auto time = timeOf([&] { device = simulation().manager.openDevice("SLOW"); });
+    const auto time = timeOf([&] { device = simulation().sdk.getDeviceManager()->openDevice("SLOW"); });
     QCOMPARE(device != nullptr, opens);
     QVERIFY2(time >= 40, qPrintable(QString::number(time)));
 }

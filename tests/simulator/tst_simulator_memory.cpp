@@ -40,7 +40,7 @@ struct PoweredOn
         simulation.reset();
         complaint = QString::fromStdString(
             simulation.memory.restore(simulation.state, memoryFile.toStdString()).value_or(std::string{}));
-        device = simulation.manager.openDevice("SIM1");
+        device = simulation.sdk.getDeviceManager()->openDevice("SIM1");
     }
 
     Value get(const char *key) const { return simulation.state.get(key); }

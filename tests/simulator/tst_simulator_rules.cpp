@@ -257,7 +257,7 @@ void SimulatorRulesTest::chanceIsThatOfTheSeed()
     const ScenarioCamera c{byChance(probability, seed)};
     QCOMPARE(polarities(c, 20), results);
     c.simulation.start(byChance(probability, seed));
-    c.manager.openDevice("SIM1");
+    c.simulation.sdk.getDeviceManager()->openDevice("SIM1");
     QCOMPARE(polarities(c, 20), results);
 }
 

@@ -78,7 +78,7 @@ void SimulatorScenarioTest::resetIsTheDefaultScenario()
     scenario.life.counters.push_back({"camera.gamma", std::chrono::seconds{1}});
     const ScenarioCamera c{scenario};
     c.simulation.reset();
-    QVERIFY(c.manager.openDevice("SIM1") != nullptr);
+    QVERIFY(c.simulation.sdk.getDeviceManager()->openDevice("SIM1") != nullptr);
     QVERIFY(c.device.setTarget(1));
     QCOMPARE(c.device.getGamma(), 65536U);
     QCOMPARE(c.device.getClhe(), 2000U);
@@ -104,7 +104,7 @@ void SimulatorScenarioTest::portsOpenAsTheyAreSaid()
     Scenario scenario;
     scenario.ports = {{"A"}, {"B", Port::Opening::Refused}};
     simulation().start(scenario);
-    veltrix_sdk::IDeviceManager &manager = simulation().manager;
+    veltrix_sdk::IDeviceManager &manager = *simulation().sdk.getDeviceManager();
     QVERIFY(manager.openDevice("SIM1") == nullptr);
     QVERIFY(manager.openDevice("B") == nullptr);
     QVERIFY(!simulation().state.deviceOpen);
@@ -135,8 +135,8 @@ void SimulatorScenarioTest::portsThatTestsNameOpen()
 {
     simulation().reset();
     Simulator::instance().setPorts({"X", "Y"});
-    QVERIFY(simulation().manager.openDevice("SIM1") == nullptr);
-    QVERIFY(simulation().manager.openDevice("Y") != nullptr);
+    QVERIFY(simulation().sdk.getDeviceManager()->openDevice("SIM1") == nullptr);
+    QVERIFY(simulation().sdk.getDeviceManager()->openDevice("Y") != nullptr);
 }
 
 void SimulatorScenarioTest::badPixelsAreThoseThatAreListed()
@@ -204,7 +204,7 @@ void SimulatorScenarioTest::wrongScenarioLeavesTheDefault()
     scenario.ports = {{"OTHER"}};
     scenario.values = {{"camera.gamma", std::int64_t{1}}, {"camera.gama", std::int64_t{1}}};
     QVERIFY(!refusalOfStarting(scenario).isEmpty());
-    QVERIFY(simulation().manager.openDevice("SIM1") != nullptr);
+    QVERIFY(simulation().sdk.getDeviceManager()->openDevice("SIM1") != nullptr);
     QVERIFY(simulation().device.setTarget(1));
     QCOMPARE(simulation().device.getGamma(), 65536U);
 }

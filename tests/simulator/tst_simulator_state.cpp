@@ -232,9 +232,9 @@ void SimulatorStateTest::resetRestoresPowerOn()
     QCOMPARE(toText(c.simulator.get("camera.gamma")), QStringLiteral("65536"));
     QCOMPARE(toText(c.simulator.get("configuration.gskMaximum")), QStringLiteral("3"));
     QCOMPARE(toText(c.simulator.get("configuration.communicationType")), QStringLiteral("UART"));
-    QCOMPARE(c.manager->openDevice("SIM1"), c.device);
+    QCOMPARE(c.sdk.getDeviceManager()->openDevice("SIM1"), c.device);
     QCOMPARE(c.device->getGamma(), 65536U);
-    QCOMPARE(c.simulator.journal().size(), std::size_t{2});
+    QCOMPARE(c.simulator.journal().size(), std::size_t{3});
     QCOMPARE(c.simulator.journal().back().target, blendUnitTarget);
 }
 

@@ -208,6 +208,13 @@ void SimulatorTraceTest::callReads_data()
             c.manager->closeDevice(c.device);
             c.device->setGamma(65536);
         });
+    row("not held",
+        R"({"interface":"manager","target":1,"operation":"openDevice","notHeld":true,"arguments":["SIM1"],)"
+        R"("result":null})",
+        [](C &c) {
+            c.sdk.releaseDeviceManager(&c.manager);
+            c.manager->openDevice("SIM1");
+        });
 }
 
 void SimulatorTraceTest::callReads()

@@ -17,7 +17,7 @@ int main(int count, char ** /*arguments*/)
         scenario.faults.push_back(rule);
     }
     simulation().start(scenario);
-    simulation().manager.openDevice("SIM1");
+    simulation().sdk.getDeviceManager()->openDevice("SIM1");
     simulation().device.setClhe(1);
     if (count > 1) {
         simulation().reset();

@@ -37,7 +37,8 @@ struct Call
     int target;            ///< Unit that was addressed when the call came: 0 the Blend Unit, 1 the camera.
     /// The whole call as one line: `setGamma(144179) -> true`, `getVideoMode() -> true {mode=2}`,
     /// `closeDevice(device)`, `openDevice("SIM1") -> null`, a log record as `log(2, "text")`. A call of a
-    /// device that is not open begins with `NOT OPEN: `.
+    /// device that is not open begins with `NOT OPEN: `, one of a manager that is not held with
+    /// `NOT HELD: `.
     std::string text;
 };
 
@@ -78,7 +79,8 @@ public:
     void clearJournal();
     /// Turns the journal on (the state at start) or off.
     void setJournalEnabled(bool enabled);
-    /// How many device operations were called on a device that was not open, since reset().
+    /// How many operations were called on a device that was not open, or on a manager that was not fetched or
+    /// was released already, since reset().
     std::size_t callsWhileNotOpen() const;
     /// Whether a device is open.
     bool isDeviceOpen() const;

@@ -62,7 +62,8 @@ void CallPath::pass(OperationId operation, Parameters parameters, const ResultPl
     const int target{state.target};
     const CallTime begun{trace.isOn() ? CallTime::now() : CallTime{}};
     const bool isOfDevice{nameOf(operation).interface == Interface::Device};
-    const bool isOpen{!isOfDevice || state.deviceOpen};
+    const Missing missing{missingFor(operation)};
+    const bool isOpen{missing == Missing::Nothing};
     const bool isAnswered{isOpen && (!isOfDevice || deviceAnswers())};
     callsNotOpen += isOpen ? 0 : 1;
 
@@ -83,10 +84,23 @@ void CallPath::pass(OperationId operation, Parameters parameters, const ResultPl
     }
 
     if (journalEnabled) {
-        keepInJournal(operation, target, isOpen, parameters, result);
+        keepInJournal(operation, target, missing, parameters, result);
     }
     if (trace.isOn()) {
-        writeToTrace(operation, target, isOpen, parameters, result, begun);
+        writeToTrace(operation, target, missing, parameters, result, begun);
+    }
+}
+
+Missing CallPath::missingFor(OperationId operation) const
+{
+    switch (nameOf(operation).interface) {
+    case Interface::Device:
+        return state.deviceOpen ? Missing::Nothing : Missing::Device;
+    case Interface::Manager:
+        return state.managerHeld ? Missing::Nothing : Missing::Manager;
+    default:
+        return operation == OperationId::releaseDeviceManager && !state.managerHeld ? Missing::Manager
+                                                                                    : Missing::Nothing;
     }
 }
 
@@ -140,7 +154,7 @@ void CallPath::fillInAnswer(const PlannedEffect &planned, Parameters parameters,
     }
 }
 
-void CallPath::keepInJournal(OperationId operation, int target, bool isOpen, Parameters parameters,
+void CallPath::keepInJournal(OperationId operation, int target, Missing missing, Parameters parameters,
                              const ResultPlace &result)
 {
     // A program that runs for days never takes its journal.
@@ -148,15 +162,15 @@ void CallPath::keepInJournal(OperationId operation, int target, bool isOpen, Par
         calls.erase(calls.begin(), calls.begin() + journalCapacity / 2);
     }
     const OperationName &name = nameOf(operation);
-    writeJournalText(line, name.name, isOpen, objects, parameters, result);
+    writeJournalText(line, name.name, missing, objects, parameters, result);
     calls.push_back({name.interface, std::string{name.name}, target, line});
 }
 
-void CallPath::writeToTrace(OperationId operation, int target, bool isOpen, Parameters parameters,
+void CallPath::writeToTrace(OperationId operation, int target, Missing missing, Parameters parameters,
                             const ResultPlace &result, const CallTime &begun)
 {
     const OperationName &name = nameOf(operation);
-    writeTraceLine(line, begun, {name.interface, name.name, target, isOpen}, objects, parameters, result);
+    writeTraceLine(line, begun, {name.interface, name.name, target, missing}, objects, parameters, result);
     trace.write(line);
 }
 

@@ -3,6 +3,7 @@
 // The way that every call of the contract goes.
 #pragma once
 
+#include "calls/missing.h"
 #include "calls/objects.h"
 #include "calls/parameter.h"
 #include "calls/trace.h"
@@ -99,7 +100,11 @@ public:
 private:
     void pass(OperationId operation, Parameters parameters, const ResultPlace &result, const Work &work);
 
+    /// What the operation needs and there is not.
+    Missing missingFor(OperationId operation) const;
+
     /// Whether nothing is switched on (journal, trace, faults, time), and the device is open and answers.
+    /// Then the manager is held, too.
     bool goesTheShortWay() const
     {
         return !journalEnabled && !trace.isOn() && faults.isEmpty() && !takesTime() && state.deviceOpen &&
@@ -127,9 +132,9 @@ private:
     /// Puts the values of an effect's answer into the result and into what the call fills in.
     void fillInAnswer(const PlannedEffect &planned, Parameters parameters, const ResultPlace &result);
 
-    void keepInJournal(OperationId operation, int target, bool isOpen, Parameters parameters,
+    void keepInJournal(OperationId operation, int target, Missing missing, Parameters parameters,
                        const ResultPlace &result);
-    void writeToTrace(OperationId operation, int target, bool isOpen, Parameters parameters,
+    void writeToTrace(OperationId operation, int target, Missing missing, Parameters parameters,
                       const ResultPlace &result, const CallTime &begun);
 
     /// A refused text is empty, not null: its callers read it without asking.

@@ -3,6 +3,7 @@
 // One call as the journal's line.
 #pragma once
 
+#include "calls/missing.h"
 #include "calls/objects.h"
 #include "calls/parameter.h"
 
@@ -13,8 +14,8 @@ namespace veltrix_simulator
 {
 
 /// Makes the line of one call, such as `getVideoMode() -> true {mode=2}`; `NOT OPEN: ` stands before a call
-/// of a device that is not open.
-void writeJournalText(std::string &line, std::string_view operation, bool isOpen, const Objects &objects,
+/// of a device that is not open, `NOT HELD: ` before one of a manager that is not held.
+void writeJournalText(std::string &line, std::string_view operation, Missing missing, const Objects &objects,
                       Parameters parameters, const ResultPlace &result);
 
 } // namespace veltrix_simulator

@@ -35,6 +35,9 @@ const char *nameOf(Interface interface)
     return "log";
 }
 
+// In the order of Missing; after the name of the operation.
+constexpr std::array<const char *, 3> missingKeys{R"(")", R"(","notOpen":true)", R"(","notHeld":true)"};
+
 /// The form of the trace.
 class TraceForm
 {
@@ -132,7 +135,7 @@ void writeTraceLine(std::string &line, const CallTime &begun, const CallOrigin &
     line.append(R"(,"interface":")").append(nameOf(origin.interface));
     line.append(R"(","target":)").append(std::to_string(origin.target));
     line.append(R"(,"operation":")").append(origin.operation);
-    line.append(origin.isOpen ? R"(","arguments":[)" : R"(","notOpen":true,"arguments":[)");
+    line.append(missingKeys[static_cast<std::size_t>(origin.missing)]).append(R"(,"arguments":[)");
     TraceForm form{line};
     CallWriter{form, objects}.write(parameters, result);
     form.end();

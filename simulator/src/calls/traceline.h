@@ -3,6 +3,7 @@
 // One call as a line of the trace.
 #pragma once
 
+#include "calls/missing.h"
 #include "calls/objects.h"
 #include "calls/parameter.h"
 #include "veltrix_simulator/simulator.h"
@@ -28,8 +29,8 @@ struct CallOrigin
 {
     Interface interface;
     std::string_view operation;
-    int target;  ///< The unit that was addressed: 0 the Blend Unit, 1 the camera.
-    bool isOpen; ///< False for a call of a device that is not open.
+    int target; ///< The unit that was addressed: 0 the Blend Unit, 1 the camera.
+    Missing missing;
 };
 
 /// Appends a JSON string. What is no UTF-8 becomes the replacement character.

@@ -35,15 +35,28 @@ veltrix_sdk::IDeviceControl *SimulatedDeviceManager::openDevice(const char *port
 void SimulatedDeviceManager::closeDevice(veltrix_sdk::IDeviceControl *closed)
 {
     const auto close = [&] {
-        if (!state.deviceOpen || closed != &device) {
-            return;
-        }
-        state.deviceOpen = false;
-        for (Unit &unit : state.units) {
-            unit.badPixels.close(static_cast<std::uint32_t>(unit[Field::serialNumber]), log);
+        if (closed == &device) {
+            closeOpenDevice();
         }
     };
     path.call(OperationId::closeDevice, {ObjectPointer{closed}}, close);
+}
+
+void SimulatedDeviceManager::release()
+{
+    closeOpenDevice();
+    state.managerHeld = false;
+}
+
+void SimulatedDeviceManager::closeOpenDevice()
+{
+    if (!state.deviceOpen) {
+        return;
+    }
+    state.deviceOpen = false;
+    for (Unit &unit : state.units) {
+        unit.badPixels.close(static_cast<std::uint32_t>(unit[Field::serialNumber]), log);
+    }
 }
 
 const Port *SimulatedDeviceManager::findPort(const char *name) const

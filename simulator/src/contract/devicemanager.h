@@ -25,7 +25,13 @@ public:
     veltrix_sdk::IDeviceControl *openDevice(const char *portName) override;
     void closeDevice(veltrix_sdk::IDeviceControl *closed) override;
 
+    /// The caller has it from now on.
+    void hold() { state.managerHeld = true; }
+    /// The caller has it no more. A device that is still open is closed.
+    void release();
+
 private:
+    void closeOpenDevice();
     const Port *findPort(const char *name) const;
 
     CallPath &path;

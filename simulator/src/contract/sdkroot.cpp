@@ -26,14 +26,27 @@ veltrix_sdk::ISdkConfiguration *SimulatedSdk::getConfiguration()
 
 veltrix_sdk::IDeviceManager *SimulatedSdk::getDeviceManager()
 {
-    return path.call(OperationId::getDeviceManager, {}, [&] { return &manager; });
+    const auto hand = [&]() -> veltrix_sdk::IDeviceManager * {
+        return &manager;
+    };
+    veltrix_sdk::IDeviceManager *const handed{path.call(OperationId::getDeviceManager, {}, hand)};
+    // Whoever got it, by an answer of a fault as well, has it.
+    if (handed != nullptr) {
+        manager.hold();
+    }
+    return handed;
 }
 
 // The caller's pointer stays as it is: setting it to null is the caller's business.
 void SimulatedSdk::releaseDeviceManager(veltrix_sdk::IDeviceManager **released)
 {
     const ObjectPointer named{released != nullptr ? *released : nullptr};
-    path.call(OperationId::releaseDeviceManager, {named}, [] {});
+    const auto release = [&] {
+        if (released != nullptr && *released == &manager) {
+            manager.release();
+        }
+    };
+    path.call(OperationId::releaseDeviceManager, {named}, release);
 }
 
 } // namespace veltrix_simulator

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "calls/callpath.h"
+#include "contract/devicemanager.h"
 #include "output/logoutput.h"
 #include "veltrix_sdk/configuration.h"
 #include "veltrix_sdk/device_manager.h"
@@ -16,7 +17,7 @@ class SimulatedSdk final : public veltrix_sdk::IVeltrixSdk
 {
 public:
     SimulatedSdk(CallPath &itsPath, LogOutput &itsLog, veltrix_sdk::ISdkConfiguration &itsConfiguration,
-                 veltrix_sdk::IDeviceManager &itsManager)
+                 SimulatedDeviceManager &itsManager)
         : path{itsPath}, log{itsLog}, configuration{itsConfiguration}, manager{itsManager}
     {}
 
@@ -29,7 +30,7 @@ private:
     CallPath &path;
     LogOutput &log;
     veltrix_sdk::ISdkConfiguration &configuration;
-    veltrix_sdk::IDeviceManager &manager;
+    SimulatedDeviceManager &manager;
 };
 
 } // namespace veltrix_simulator

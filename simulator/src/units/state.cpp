@@ -89,6 +89,7 @@ Kind kindIn(const Place &place)
 void State::reset()
 {
     target = veltrix_sdk::targetBlendUnit;
+    managerHeld = false;
     deviceOpen = false;
     silent = false;
     cableOut = false;

@@ -81,6 +81,8 @@ public:
     void setBaudRate(std::int32_t baudRate);
 
     int target{veltrix_sdk::targetBlendUnit};
+    /// The manager was fetched and is not released. No device is open without it.
+    bool managerHeld{false};
     bool deviceOpen{false};
     bool silent{false};        ///< The device that is open never answers.
     bool cableOut{false};      ///< Nothing reaches the device until it is opened again.
