@@ -47,7 +47,7 @@ public:
     {
         writeLogRecord();
         const bool up{report.timed("initialize", noUnit, [&] { return sdk.initialize(); })};
-        say(up, "initialize", noUnit, up ? "true" : "answers false");
+        say(true, "initialize", noUnit, up ? "true" : std::string{"false"} + notExamined);
         ISdkConfiguration *const configuration{
             report.timed("getConfiguration", noUnit, [&] { return sdk.getConfiguration(); })};
         say(configuration != nullptr, "getConfiguration", noUnit,
@@ -123,7 +123,7 @@ private:
                                                        Rounds{device, rows, Unit::Camera, report}};
         for (int round{0}; round < options.rounds; ++round) {
             for (const Unit unit : units) {
-                if (!stopped() && device.select(unit)) {
+                if (!stopped()) {
                     roundsOfUnits[static_cast<std::size_t>(unit)].readOnce(interrupted);
                 }
             }

@@ -32,19 +32,19 @@ void append(std::string &list, const std::string &text)
 
 std::string faultOf(const Setting &row, const Answer &answer)
 {
-    if (answer.result == 0) {
+    if (row.resultCounts && answer.result == 0) {
         return "answers false";
     }
-    if (answer.result != 1) {
+    if (row.resultCounts && answer.result != 1) {
         return "answers " + std::to_string(answer.result) + "; only 1 is success";
     }
     std::string faults;
     for (std::size_t place{0}; place < row.fields.size(); ++place) {
         const Field &field = row.fields[place];
-        if (!allows(field.allowed, answer.values[place])) {
-            append(faults,
-                   named(row, field,
-                         "answers " + numberText(answer.values[place]) + "; " + describe(field.allowed)));
+        const Allowed allowed{allowedAnswer(row, field)};
+        if (!allows(allowed, answer.values[place])) {
+            append(faults, named(row, field,
+                                 "answers " + numberText(answer.values[place]) + "; " + describe(allowed)));
         }
     }
     return faults.empty() ? objectionTo(row, answer.values) : faults;
@@ -52,25 +52,28 @@ std::string faultOf(const Setting &row, const Answer &answer)
 
 std::string answerText(const Setting &row, const Answer &answer)
 {
-    if (row.fields.empty() || answer.result == 0) {
-        return numberText(answer.result, Kind::Boolean);
+    const bool refused{answer.result == 0};
+    std::string result{numberText(answer.result, Kind::Boolean) +
+                       (refused && !row.resultCounts ? notExamined : "")};
+    if (row.fields.empty() || (refused && row.resultCounts)) {
+        return result;
     }
     std::string text;
     for (std::size_t place{0}; place < row.fields.size(); ++place) {
         const Field &field = row.fields[place];
         append(text, named(row, field, numberText(answer.values[place], field.kind)));
     }
-    return text;
+    return refused ? result + "; " + text : text;
 }
 
-bool same(const Answer &left, const Answer &right)
+bool same(const Setting &row, const Answer &left, const Answer &right)
 {
     const auto sameNumber = [](double one, double other) {
         return same(one, other);
     };
     const bool sameNumbers{std::equal(left.values.begin(), left.values.end(), right.values.begin(),
                                       right.values.end(), sameNumber)};
-    return left.result == right.result && (left.result == 0 || sameNumbers);
+    return row.resultCounts ? left.result == right.result && (left.result == 0 || sameNumbers) : sameNumbers;
 }
 
 OpenedDevice::~OpenedDevice()

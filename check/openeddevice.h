@@ -18,16 +18,20 @@ namespace sdk_check
 /// What an operation answered: its result and its numbers.
 struct Answer
 {
-    std::uint8_t result; ///< Only 1 is success.
+    std::uint8_t result; ///< Only 1 is success, where it counts.
     Values values;
 };
+
+/// What a line adds to a result that is false where it does not count.
+inline constexpr const char *notExamined{", which is not examined"};
 
 /// What is wrong with an answer; empty when nothing is.
 std::string faultOf(const Setting &row, const Answer &answer);
 /// The numbers of an answer, with their names where there are several.
 std::string answerText(const Setting &row, const Answer &answer);
-/// Whether result and numbers are the same; the numbers of a refusal mean nothing.
-bool same(const Answer &left, const Answer &right);
+/// Whether result and numbers are the same; the numbers of a refusal mean nothing. A result that does not
+/// count is not compared.
+bool same(const Setting &row, const Answer &left, const Answer &right);
 
 /// A device manager and the device that it opened. Both are handed back at the end of its life.
 class OpenedDevice

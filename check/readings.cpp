@@ -25,9 +25,11 @@ auto findKey(const std::vector<Setting> &table, const char *key)
 /// An operation that answers no number, only whether the unit acknowledges.
 Setting startReading()
 {
-    return {{}, UsedOn::Both, {}, "startReading", {}, [](Device &device, Values & /*answer*/) {
-                return static_cast<std::uint8_t>(device.startReading());
-            }};
+    Setting setting{{}, UsedOn::Both, {}, "startReading", {}, [](Device &device, Values & /*answer*/) {
+                        return static_cast<std::uint8_t>(device.startReading());
+                    }};
+    setting.resultCounts = false;
+    return setting;
 }
 
 /// A number for which the ends of its range are not what is tried.
@@ -94,6 +96,11 @@ std::string nameOf(const Setting &setting, const Field &field)
     // The lines give temperatures without their unit.
     const std::size_t unit{field.name.find("Millikelvin")};
     return field.name.substr(0, unit);
+}
+
+Allowed allowedAnswer(const Setting &setting, const Field &field)
+{
+    return setting.key == "gms" ? device_settings::between(0, device_settings::highestWord) : field.allowed;
 }
 
 std::string objectionTo(const Setting &setting, const Values &answer)

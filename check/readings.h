@@ -12,6 +12,7 @@
 namespace sdk_check
 {
 
+using device_settings::Allowed;
 using device_settings::Field;
 using device_settings::Kind;
 using device_settings::RegionFlags;
@@ -30,6 +31,9 @@ const Setting &identityOf(const std::vector<Setting> &table);
 
 /// What a line calls a number of an answer; empty where the answer is this number alone.
 std::string nameOf(const Setting &setting, const Field &field);
+/// What a number of an answer may be. As a rule that is what may be set; GMS may be any word, because its
+/// spin box shows what its slider does not reach.
+Allowed allowedAnswer(const Setting &setting, const Field &field);
 /// What is wrong with numbers that are allowed one by one; empty when nothing is.
 std::string objectionTo(const Setting &setting, const Values &answer);
 

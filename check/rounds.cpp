@@ -15,13 +15,14 @@ namespace
 {
 
 /// Whether the answer proves that the unit is there: a missing one gives false or zeros.
-bool saysSomething(const Answer &answer)
+bool saysSomething(const Setting &row, const Answer &answer)
 {
     const auto isZero = [](double number) {
         return number == 0.0;
     };
     const bool onlyZeros{std::all_of(answer.values.begin(), answer.values.end(), isZero)};
-    return answer.result != 0 && (answer.values.empty() || !onlyZeros);
+    const bool acknowledged{answer.result != 0};
+    return answer.values.empty() ? acknowledged : (acknowledged || !row.resultCounts) && !onlyZeros;
 }
 
 } // namespace
@@ -29,6 +30,10 @@ bool saysSomething(const Answer &answer)
 void Rounds::readOnce(const Interrupted &interrupted)
 {
     ++round;
+    if (!device.select(unit)) {
+        hearNothingFrom("setTarget");
+        return;
+    }
     for (std::size_t place{0}; place < rows.size(); ++place) {
         if (interrupted()) {
             return;
@@ -80,20 +85,25 @@ void Rounds::take(const Setting &row, Seen &before, Answer answer)
 
 void Rounds::listen(const Setting &row, const Answer &answer, bool wrong)
 {
-    if (saysSomething(answer)) {
+    if (saysSomething(row, answer)) {
         silence = {};
     } else if (wrong) {
-        if (silence.faults == 0) {
-            silence.from = row.get + row.detail + " in round " + std::to_string(round);
-        }
-        ++silence.faults;
+        hearNothingFrom(row.get + row.detail);
     }
+}
+
+void Rounds::hearNothingFrom(const std::string &operation)
+{
+    if (silence.faults == 0) {
+        silence.from = operation + " in round " + std::to_string(round);
+    }
+    ++silence.faults;
 }
 
 std::string Rounds::deviation(const Setting &row, const Answer &first, const Answer &answer) const
 {
     const std::string inRound{" in round " + std::to_string(round)};
-    if (row.steady && !same(answer, first)) {
+    if (row.steady && !same(row, answer, first)) {
         return "answers " + answerText(row, answer) + inRound + "; the first answer was " +
                answerText(row, first);
     }

@@ -24,7 +24,7 @@ public:
         : device{itsDevice}, rows{itsRows}, unit{itsUnit}, report{itsReport}, seen(itsRows.size())
     {}
 
-    /// Reads everything once, as far as it is not interrupted.
+    /// Selects the unit and reads everything once, as far as it is not interrupted.
     void readOnce(const Interrupted &interrupted);
     /// Reports how many answers of the later rounds were as the first ones, and since when the unit is
     /// silent, if it is. What the program does not ask this unit for does not count.
@@ -48,6 +48,7 @@ private:
 
     void take(const Setting &row, Seen &before, Answer answer);
     void listen(const Setting &row, const Answer &answer, bool wrong);
+    void hearNothingFrom(const std::string &operation);
     /// How a later answer differs from the first one; empty when it is as good.
     std::string deviation(const Setting &row, const Answer &first, const Answer &answer) const;
     /// A fault counts only where the program would meet it.

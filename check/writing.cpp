@@ -56,13 +56,18 @@ public:
         if (!fault.empty()) {
             return finding(Outcome::Fails, "not tried, because " + row.get + ' ' + fault);
         }
+        const double foundNumber{found.values[place]};
+        if (!allows(field().allowed, foundNumber)) {
+            return finding(Outcome::Skipped,
+                           "could not put back " + text(foundNumber) + "; " + describe(field().allowed));
+        }
         if (const std::optional<std::size_t> changed{firstFieldSentChanged(row, found.values)}) {
             return finding(Outcome::Skipped, "takes whole numbers and could not put back " +
                                                  nameOf(row, row.fields[*changed]) + ' ' +
                                                  numberText(found.values[*changed]));
         }
-        const double value{otherValue(row, field(), found.values[place])};
-        if (same(value, found.values[place])) {
+        const double value{otherValue(row, field(), foundNumber)};
+        if (same(value, foundNumber)) {
             return finding(Outcome::Skipped, "no value but " + text(value) + " is allowed");
         }
         return tryValue(value, interrupted);
@@ -83,7 +88,7 @@ private:
         std::string fault{change(value, interrupted)};
         const Restored restored = restore();
         const std::string before{text(found.values[place])};
-        if (!same(restored.answer, found)) {
+        if (!same(row, restored.answer, found)) {
             return finding(Outcome::Fails, fault + (fault.empty() ? "" : "; ") + howItIsLeft(restored));
         }
         if (fault.empty() && !restored.acknowledged) {
@@ -128,7 +133,7 @@ private:
         for (int attempt{0}; attempt < attemptsToRestore; ++attempt) {
             restored.acknowledged = device.write(row, unit, found.values);
             restored.answer = device.read(row, unit);
-            if (restored.acknowledged && same(restored.answer, found)) {
+            if (restored.acknowledged && same(row, restored.answer, found)) {
                 break;
             }
         }

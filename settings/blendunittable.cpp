@@ -37,25 +37,27 @@ Rows identity()
 {
     return {
         number("identity", onBoth, DEVICE_OPERATION(connect), oneOf({krIdentity}), "Kind of the device"),
-        record("firmwareVersions", onBoth, DEVICE_OPERATION(getFirmwareVersions),
-               {field<&FirmwareVersions::processor>(
-                    "processor", versionWord, "Version of the processor's firmware, a digit each nibble"),
-                field<&FirmwareVersions::fpga>(
-                    "fpga", versionWord, "Version of the FPGA, with bits for the 9 Hz and MIPI builds")}),
+        notExamined(record(
+            "firmwareVersions", onBoth, DEVICE_OPERATION(getFirmwareVersions),
+            {field<&FirmwareVersions::processor>("processor", versionWord,
+                                                 "Version of the processor's firmware, a digit each nibble"),
+             field<&FirmwareVersions::fpga>("fpga", versionWord,
+                                            "Version of the FPGA, with bits for the 9 Hz and MIPI builds")})),
         number("serialNumber", onBoth, DEVICE_OPERATION(getSerialNumber), notZero,
                "Serial number of the unit"),
         number("sensorSerialNumber", onCamera, DEVICE_OPERATION(getSensorSerialNumber), notZero,
                "Serial number of the sensor"),
-        moving(record("operatingInfo", onCamera, DEVICE_OPERATION(getOperatingInfo),
-                      {field<&OperatingInfo::operatingMinutes>(
-                           "operatingMinutes", word, "How long the camera has run in its life", "minutes"),
-                       field<&OperatingInfo::startupCount>("startupCount", notZero,
-                                                           "How often the camera was started", "starts")})),
-        moving(record("temperatures", onBoth, DEVICE_OPERATION(getTemperatures),
-                      {field<&Temperatures::sensorMillikelvin>("sensorMillikelvin", temperature,
-                                                               "Temperature of the sensor", "mK"),
-                       field<&Temperatures::fpgaMillikelvin>("fpgaMillikelvin", temperature,
-                                                             "Temperature of the FPGA", "mK")})),
+        moving(notExamined(
+            record("operatingInfo", onCamera, DEVICE_OPERATION(getOperatingInfo),
+                   {field<&OperatingInfo::operatingMinutes>(
+                        "operatingMinutes", word, "How long the camera has run in its life", "minutes"),
+                    field<&OperatingInfo::startupCount>("startupCount", notZero,
+                                                        "How often the camera was started", "starts")}))),
+        moving(notExamined(record("temperatures", onBoth, DEVICE_OPERATION(getTemperatures),
+                                  {field<&Temperatures::sensorMillikelvin>("sensorMillikelvin", temperature,
+                                                                           "Temperature of the sensor", "mK"),
+                                   field<&Temperatures::fpgaMillikelvin>("fpgaMillikelvin", temperature,
+                                                                         "Temperature of the FPGA", "mK")}))),
         moving(number("bitStatus", onBlendUnit, DEVICE_OPERATION(getBitStatus), word,
                       "Result of the built-in test, one bit each")),
     };

@@ -104,10 +104,10 @@ Rows cameraRecords()
                 field<&EdgeCorrection::gain>("gain", within(edgeGainRange), "Edge correction: gain"),
                 field<&EdgeCorrection::firstThreshold>("firstThreshold", within(edgeThresholdRange),
                                                        "Edge correction: the threshold that is set"),
-                // The contract gives only its distance from the first one, so no upper end is held against
-                // the camera.
+                // The window logs it less its distance from the first one, as a signed number: nothing is
+                // held against the camera.
                 field<&EdgeCorrection::secondThreshold>(
-                    "secondThreshold", between(edgeThresholdDistance, highestWord),
+                    "secondThreshold", between(0, highestWord),
                     "Edge correction: the threshold that the camera makes of the first one")}),
     };
 }

@@ -103,7 +103,7 @@ ConfigurationRows image()
         value("defaultSharpeningGainValue", CONFIGURATION_OPERATION(getDefaultSharpeningGainValue),
               within(edgeGainRange), "Default of the edge correction's gain"),
         value("defaultSharpeningThreshold", CONFIGURATION_OPERATION(getDefaultSharpeningThreshold),
-              within(edgeThresholdRange), "Default of the edge correction's threshold"),
+              within(edgeThresholdDefaultRange), "Default of the edge correction's threshold"),
         value("defaultVideoOutput", CONFIGURATION_OPERATION(getDefaultVideoOutput), within(videoOutputRange),
               "Default of the stage of the processing that is put out"),
         flag("defaultSdiOutput", CONFIGURATION_OPERATION(getDefaultSdiOutput),
@@ -160,10 +160,10 @@ ConfigurationRows defaultRegions()
 {
     using Coordinate = Operation<double (Configuration::*)()>;
     const auto column = [](const char *key, Coordinate get, const char *meaning) {
-        return value(key, get, within(regionColumnRange), meaning, "pixels");
+        return value(key, get, within(regionDefaultColumnRange), meaning, "pixels");
     };
     const auto row = [](const char *key, Coordinate get, const char *meaning) {
-        return value(key, get, within(regionRowRange), meaning, "pixels");
+        return value(key, get, within(regionDefaultRowRange), meaning, "pixels");
     };
     return {
         column("defaultRoi0IncX1", CONFIGURATION_OPERATION(getDefaultRoi0IncX1),

@@ -70,7 +70,8 @@ RegionFlags readRegionFlags(Device &device)
 std::optional<Values> readAll(Device &device, const Setting &setting)
 {
     Values values(setting.fields.size());
-    return setting.read(device, values) == 1 ? std::optional{values} : std::nullopt;
+    const std::uint8_t result{setting.read(device, values)};
+    return result == 1 || !setting.resultCounts ? std::optional{values} : std::nullopt;
 }
 
 std::optional<std::size_t> firstFieldSentChanged(const Setting &setting, const Values &values)

@@ -72,7 +72,8 @@ struct Setting
     std::vector<Field> fields;
     std::string get;    ///< Name of the operation that reads.
     std::string detail; ///< What is asked for, such as "(2)" for the third region; empty where nothing is.
-    /// Reads into as many values as there are fields; the result is success only if it is 1.
+    /// Reads into as many values as there are fields; the result is success only if it is 1, or always where
+    /// it does not count.
     std::function<std::uint8_t(Device &, Values &)> read;
     std::string set{}; ///< Name of the operation that writes; empty where there is none.
     /// Sends one value for each field but the derived ones; what its type cannot hold becomes the nearest
@@ -80,6 +81,8 @@ struct Setting
     std::function<bool(Device &, const Values &, RegionFlags)> write{};
     bool sendsRegionFlags{false};
     bool steady{true}; ///< Answers the same as long as nothing is written.
+    /// False where the contract says that the result is not examined: only the numbers tell.
+    bool resultCounts{true};
 };
 
 /// Every setting and every other value that the device answers, in the order in which the program reads
@@ -109,7 +112,8 @@ std::optional<Place> findSetting(const std::vector<Setting> &&table, std::string
 /// The flags of an open device, from the first columns of the regions under the setters' numbers.
 RegionFlags readRegionFlags(Device &device);
 
-/// All numbers of a setting as the selected unit answers them; nothing when the unit does not acknowledge.
+/// All numbers of a setting as the selected unit answers them; nothing when the unit does not acknowledge and
+/// that counts.
 std::optional<Values> readAll(Device &device, const Setting &setting);
 
 /// The first field that the device would be sent another number of than this, because it is sent as a whole

@@ -263,6 +263,13 @@ Setting record(const char *key, UsedOn usedOn, Operation<Get> get, Operation<Set
     }
 }
 
+/// What is answered whatever the result says.
+inline Setting notExamined(Setting setting)
+{
+    setting.resultCounts = false;
+    return setting;
+}
+
 /// What changes by itself.
 inline Setting moving(Setting setting)
 {

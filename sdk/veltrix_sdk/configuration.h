@@ -74,7 +74,7 @@ public:
     virtual std::uint8_t getDefaultFrameRate() = 0;            ///< 39: One of frameRatesHz.
     virtual std::uint8_t getDefaultEdgeCorrectionType() = 0;   ///< 40: Index: none, sharpening, contouring.
     virtual std::uint32_t getDefaultSharpeningGainValue() = 0; ///< 41: edgeGainRange.
-    virtual std::uint32_t getDefaultSharpeningThreshold() = 0; ///< 42: edgeThresholdRange.
+    virtual std::uint32_t getDefaultSharpeningThreshold() = 0; ///< 42: edgeThresholdDefaultRange.
 
 private:
     virtual void kept43() {}

@@ -94,6 +94,9 @@ inline constexpr Range edgeGainRange{0, 1024};
 /// Steps of the slider for 1 of the gain; getDefaultSharpeningGain counts in them.
 inline constexpr std::int32_t sharpeningGainSteps{10};
 inline constexpr Range edgeThresholdRange{0, 255};
+/// The default of the threshold reaches less far than the threshold itself: as far as its slider, which pulls
+/// the spin box back.
+inline constexpr Range edgeThresholdDefaultRange{0, 200};
 /// The second threshold is what the camera makes of the one that is set: so much more.
 inline constexpr std::int32_t edgeThresholdDistance{40};
 
@@ -105,6 +108,9 @@ inline constexpr Range zoomYCenterRange{0, 1024};
 /// Pixels.
 inline constexpr Range regionColumnRange{0, sensorColumns - 1};
 inline constexpr Range regionRowRange{0, sensorRows - 1};
+/// The defaults of the regions keep away from the sensor's edges, as their spin boxes do.
+inline constexpr Range regionDefaultColumnRange{5, 635};
+inline constexpr Range regionDefaultRowRange{5, 475};
 
 /// Percent.
 inline constexpr Range visibleAgcRange{0, 100};

@@ -40,6 +40,8 @@ private slots:
     void namesWhatIsMissing();
     void namesTheAnswer_data();
     void namesTheAnswer();
+    void takesWhatTheContractAllows_data();
+    void takesWhatTheContractAllows();
     void namesTheConfiguration_data();
     void namesTheConfiguration();
     void namesTheSetter_data();
@@ -64,7 +66,6 @@ void SdkCheckFaultsTest::namesWhatIsMissing_data()
     const auto row = [](const Fault &fault, const QStringList &notOk) {
         QTest::addRow("%s", qPrintable(notOk.first())) << fault << notOk;
     };
-    row({"initialize"}, {"initialize: answers false"});
     row({"getConfiguration"}, {"getConfiguration: answers null"});
     row({"getCommunicationType"}, {R"(getCommunicationType: answers ""; "UART" is allowed)"});
     row({"getDeviceManager"}, {"getDeviceManager: answers null"});
@@ -103,7 +104,8 @@ void SdkCheckFaultsTest::namesTheAnswer_data()
     QTest::addColumn<Fault>("fault");
     QTest::addColumn<QString>("notOk");
     const auto row = [](const char *operation, const std::optional<Answer> &answer, const char *notOk) {
-        QTest::addRow("%s", notOk) << Fault{operation, 1, 0, answer} << QString{notOk};
+        QTest::addRow("%s%s", notOk, answer ? "" : ", refused")
+            << Fault{operation, 1, 0, answer} << QString{notOk};
     };
     constexpr double nan{std::numeric_limits<double>::quiet_NaN()};
     constexpr double infinite{std::numeric_limits<double>::infinity()};
@@ -130,8 +132,8 @@ void SdkCheckFaultsTest::namesTheAnswer_data()
         "getAhcGainLimitation (camera): answers 2; only 1 is success");
     row("getAhcGainLimitation", Answer{number(1), number(101), number(255)},
         "getAhcGainLimitation (camera): black answers 101; 0 to 100 is allowed, white answers 255; 0 to 100 is allowed");
-    row("getEdgeCorrection", Answer{number(3), number(64), number(20), number(39)},
-        "getEdgeCorrection (camera): type answers 3; 0 to 2 is allowed, secondThreshold answers 39; 40 or more is allowed");
+    row("getEdgeCorrection", Answer{number(3), number(1025), number(20), number(39)},
+        "getEdgeCorrection (camera): type answers 3; 0 to 2 is allowed, gain answers 1025; 0 to 1024 is allowed");
     row("getZoomResolution", Answer{true, number(0), number(576)},
         "getZoomResolution (Blend Unit): x answers 0; 1 to 10000 is allowed");
     row("getVisibleAgc", Answer{true, number(101), number(0), number(0)},
@@ -146,10 +148,14 @@ void SdkCheckFaultsTest::namesTheAnswer_data()
         "getZoomConfig (Blend Unit): xCenter answers 1281; 0 to 1280 is allowed, yCenter answers 1025; 0 to 1024 is allowed");
     row("getTemperatures", Answer{true, 296650.0, -infinite},
         "getTemperatures (Blend Unit): fpga answers -inf; 200000 to 400000 is allowed");
-    row("getTemperatures", std::nullopt, "getTemperatures (camera): answers false");
+    row("getTemperatures", std::nullopt,
+        "getTemperatures (camera): sensor answers 0; 200000 to 400000 is allowed, fpga answers 0; 200000 to 400000 is allowed");
     row("getFirmwareVersions", Answer{true, number(0), number(0)},
         "getFirmwareVersions (camera): both words are 0, which means no answer");
-    row("startReading", std::nullopt, "startReading (camera): answers false");
+    row("getFirmwareVersions", std::nullopt,
+        "getFirmwareVersions (camera): both words are 0, which means no answer");
+    row("getOperatingInfo", std::nullopt,
+        "getOperatingInfo (camera): startupCount answers 0; 1 or more is allowed");
     row("getSerialNumber", std::nullopt, "getSerialNumber (Blend Unit): answers 0; 1 or more is allowed");
     row("getRoiX1", Answer{number(640)}, "getRoiX1(2) (camera): answers 640; 0 to 639 is allowed");
     row("getRoiY2", Answer{number(480)}, "getRoiY2(3) (camera): answers 480; 0 to 479 is allowed");
@@ -170,6 +176,47 @@ void SdkCheckFaultsTest::namesTheAnswer()
     QVERIFY(!simulator.isDeviceOpen());
 }
 
+void SdkCheckFaultsTest::takesWhatTheContractAllows_data()
+{
+    QTest::addColumn<Fault>("fault");
+    QTest::addColumn<QString>("line");
+    const auto row = [](const Fault &fault, const char *line) {
+        QTest::addRow("%s", line) << fault << QString{line};
+    };
+    row({"initialize"}, "initialize: false, which is not examined");
+    row({"startReading"}, "startReading (camera): false, which is not examined");
+    row({"startReading"}, "startReading (Blend Unit): false, which is not examined");
+    row({"getFirmwareVersions", 1, 1, Answer{false, number(4866), number(8452)}},
+        "getFirmwareVersions (Blend Unit): false, which is not examined; processor 4866, fpga 8452");
+    row({"getFirmwareVersions", 2, 1, Answer{false, number(532), number(8966)}},
+        "getFirmwareVersions (camera): false, which is not examined; processor 532, fpga 8966");
+    row({"getFirmwareVersions", 4, 1, Answer{false, number(532), number(8966)}},
+        "repeated reads (camera): 47 of 47 answers as before");
+    row({"getOperatingInfo", 2, 0, Answer{false, number(73415), number(412)}},
+        "getOperatingInfo (camera): false, which is not examined; operatingMinutes 73415, startupCount 412");
+    row({"getTemperatures", 1, 0, Answer{false, 296650.0, 314250.0}},
+        "getTemperatures (camera): false, which is not examined; sensor 296650, fpga 314250");
+    row({"getZoomConfig", 1, 0, Answer{true, 1.0, number(1280), number(1024), number(0)}},
+        "getZoomConfig (Blend Unit): factor 1, xCenter 1280, yCenter 1024, method 0");
+    row({"getEdgeCorrection", 1, 0, Answer{number(0), number(64), number(20), number(10)}},
+        "getEdgeCorrection (camera): type 0, gain 64, firstThreshold 20, secondThreshold 10");
+    row({"getEdgeCorrection", 1, 0, Answer{number(0), number(64), number(20), number(0)}},
+        "getEdgeCorrection (camera): type 0, gain 64, firstThreshold 20, secondThreshold 0");
+    row({"getGms", 1, 0, Answer{number(4096)}}, "getGms (camera): 4096");
+    row({"getGms", 1, 0, Answer{number(4294967295)}}, "getGms (camera): 4294967295");
+}
+
+void SdkCheckFaultsTest::takesWhatTheContractAllows()
+{
+    QFETCH(const Fault, fault);
+    QFETCH(const QString, line);
+    veltrix_simulator::Simulator::instance().addFault(fault);
+    const CheckRun run = runCheck(reading);
+    QCOMPARE(run.notOk(), QStringList{});
+    QCOMPARE(run.status, sdk_check::allHold);
+    QVERIFY2(run.lines.contains("ok     " + line), qPrintable(run.output));
+}
+
 void SdkCheckFaultsTest::namesTheConfiguration_data()
 {
     QTest::addColumn<QString>("key");
@@ -185,7 +232,13 @@ void SdkCheckFaultsTest::namesTheConfiguration_data()
     row("defaultFrameRate", number(0), {"getDefaultFrameRate: answers 0; 9, 25, 30, 50 or 60 is allowed"});
     row("defaultEdgeCorrectionType", number(3),
         {"getDefaultEdgeCorrectionType: answers 3; 0 to 2 is allowed"});
-    row("defaultRoi1ExcY2", 479.5, {"getDefaultRoi1ExcY2: answers 479.5; 0 to 479 is allowed"});
+    row("defaultSharpeningThreshold", number(201),
+        {"getDefaultSharpeningThreshold: answers 201; 0 to 200 is allowed"});
+    row("defaultRoi0IncX1", 4.0, {"getDefaultRoi0IncX1: answers 4; 5 to 635 is allowed"});
+    row("defaultRoi0IncX2", 636.0, {"getDefaultRoi0IncX2: answers 636; 5 to 635 is allowed"});
+    row("defaultRoi0ExcY1", 0.0, {"getDefaultRoi0ExcY1: answers 0; 5 to 475 is allowed"});
+    row("defaultRoi1IncX2", 639.0, {"getDefaultRoi1IncX2: answers 639; 5 to 635 is allowed"});
+    row("defaultRoi1ExcY2", 475.5, {"getDefaultRoi1ExcY2: answers 475.5; 5 to 475 is allowed"});
     row("gskDefault", number(4),
         {"getDefaultGsk: answers 4; 1 to 3 is allowed", "gskDefault: answers 4; 1 to 3 is allowed"});
     row("tintMaximum", number(-1),
@@ -269,6 +322,7 @@ void SdkCheckFaultsTest::writesNothingThatItCannotPutBack()
     auto &simulator = veltrix_simulator::Simulator::instance();
     simulator.set("blendUnit.warp1.a12", 0.25);
     simulator.set("camera.colorLut", number(9));
+    simulator.set("camera.gms", number(5000));
     simulator.set("configuration.gfidMaximum", number(250));
     simulator.set("configuration.gfidMinimum", number(250));
     const auto before = wholeState();
@@ -284,8 +338,9 @@ void SdkCheckFaultsTest::writesNothingThatItCannotPutBack()
                 coefficient));
     }
     skipped.append("setGfid (camera): no value but 250 is allowed");
+    skipped.append("setGms (camera): could not put back 5000; 0 to 4095 is allowed");
     QCOMPARE(run.skipped(), skipped);
-    for (const char *const call : {"setWarp(1,", "setColorLut(", "setGfid("}) {
+    for (const char *const call : {"setWarp(1,", "setColorLut(", "setGfid(", "setGms("}) {
         QCOMPARE(journal().filter(call), QStringList{});
     }
     QCOMPARE(wholeState(), before);

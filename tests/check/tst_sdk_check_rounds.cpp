@@ -34,6 +34,7 @@ private slots:
     void saysSinceWhenAUnitIsSilent_data();
     void saysSinceWhenAUnitIsSilent();
     void takesRegionsThatAreOffForNoSilence();
+    void takesARefusedSelectionForSilence();
 };
 
 void SdkCheckRoundsTest::init()
@@ -113,20 +114,23 @@ void SdkCheckRoundsTest::saysSinceWhenAUnitIsSilent_data()
     QTest::addColumn<QStringList>("refused"); ///< Operations, by both units.
     QTest::addColumn<QStringList>("notOk");
     const QStringList end{
-        "getAhcGainLimitation", "getEdgeCorrection", "getRoiX1", "getRoiY1", "getRoiX2", "getRoiY2"};
-    const QStringList wrongAtTheEnd{
-        "getAhcGainLimitation (camera): answers false",
-        "getEdgeCorrection (camera): secondThreshold answers 0; 40 or more is allowed"};
+        "getGsk",   "getGfid",  "getGms",   "getTint", "getAhcGainLimitation", "getEdgeCorrection",
+        "getRoiX1", "getRoiY1", "getRoiX2", "getRoiY2"};
+    const QStringList wrongAtTheEnd{"getGsk (camera): answers 0; 1 to 3 is allowed",
+                                    "getAhcGainLimitation (camera): answers false"};
     QTest::addRow("three faults, then an answer")
         << QStringList{"getOperatingInfo", "getSensorSerialNumber", "getTemperatures"}
-        << QStringList{"getTemperatures (Blend Unit): answers false",
+        << QStringList{"getTemperatures (Blend Unit): sensor answers 0; 200000 to 400000 is allowed, "
+                       "fpga answers 0; 200000 to 400000 is allowed",
                        "getSensorSerialNumber (camera): answers 0; 1 or more is allowed",
-                       "getOperatingInfo (camera): answers false", "getTemperatures (camera): answers false"};
+                       "getOperatingInfo (camera): startupCount answers 0; 1 or more is allowed",
+                       "getTemperatures (camera): sensor answers 0; 200000 to 400000 is allowed, "
+                       "fpga answers 0; 200000 to 400000 is allowed"};
     QTest::addRow("two faults at the end") << end << wrongAtTheEnd;
     QTest::addRow("three faults up to the end")
-        << QStringList{"getGsk", "getGfid", "getGms", "getTint"} + end
-        << QStringList{"getGsk (camera): answers 0; 1 to 3 is allowed"} + wrongAtTheEnd +
-               QStringList{"presence (camera): every answer from getGsk in round 2 on is false or 0; "
+        << QStringList{"getGamma", "getClhe", "getColorLut", "getContrastType", "getLutTemporalFilter"} + end
+        << QStringList{"getGamma (camera): answers 0; 32768 to 163840 is allowed"} + wrongAtTheEnd +
+               QStringList{"presence (camera): every answer from getGamma in round 2 on is false or 0; "
                            "look at the power and the cable of the unit first"};
 }
 
@@ -151,6 +155,22 @@ void SdkCheckRoundsTest::takesRegionsThatAreOffForNoSilence()
     QCOMPARE(run.notOk().last(),
              QString{"presence (camera): every answer from getFirmwareVersions in round 2 on is false or 0; "
                      "look at the power and the cable of the unit first"});
+}
+
+void SdkCheckRoundsTest::takesARefusedSelectionForSilence()
+{
+    // The first selections are that at the opening and those of both units in the first round.
+    const QString refused{"answers false, so the unit is not reached"};
+    const QString gone{" on is false or 0; look at the power and the cable of the unit first"};
+    QStringList expected;
+    for (int round{2}; round <= 5; ++round) {
+        expected.append("setTarget (Blend Unit): " + refused);
+        expected.append("setTarget (camera): " + refused);
+    }
+    expected.append("presence (Blend Unit): every answer from setTarget in round 2" + gone);
+    expected.append("presence (camera): every answer from setTarget in round 2" + gone);
+    veltrix_simulator::Simulator::instance().addFault({"setTarget", 4});
+    QCOMPARE(runCheck(fiveRounds).notOk(), expected);
 }
 
 PILOTEL_TEST_CLASS(SdkCheckRoundsTest)

@@ -207,6 +207,13 @@ void SettingsTest::outcomesOfWriting()
                                      std::vector<Value>{std::int64_t{2}, std::int64_t{1}, std::int64_t{1}}});
     QCOMPARE(black.write(11), Written::NotRead);
 
+    // The result of these is not examined, so the numbers count whatever it says.
+    const Selected fpga{"camera.temperatures.fpgaMillikelvin"};
+    fpga.camera.simulator.addFault({"getTemperatures", 1, 0, std::vector<Value>{false, 1.5, 2.5}});
+    const std::optional<Values> temperatures{readAll(fpga.device(), fpga.setting())};
+    QVERIFY(temperatures);
+    QCOMPARE((*temperatures)[fpga.place->field], 2.5);
+
     for (const char *const key : {"camera.serialNumber", "camera.edgeCorrection.secondThreshold"}) {
         const Selected s{key};
         QCOMPARE(s.write(50), Written::NotSent);
