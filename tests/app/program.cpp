@@ -18,11 +18,13 @@ QProcessEnvironment programEnvironment()
     return environment;
 }
 
-Outcome run(const QString &program, const QStringList &arguments, const QProcessEnvironment &environment)
+Outcome run(const QString &program, const QStringList &arguments, const QProcessEnvironment &environment,
+            const QString &directory)
 {
     constexpr int milliseconds{30000};
     QProcess process;
     process.setProcessEnvironment(environment);
+    process.setWorkingDirectory(directory);
     process.start(program, arguments);
     const bool exited{process.waitForFinished(milliseconds) && process.exitStatus() == QProcess::NormalExit};
     return {exited, process.exitCode(), QString::fromLocal8Bit(process.readAllStandardOutput()),

@@ -21,8 +21,9 @@ struct Outcome
 /// decides which SDK library is loaded.
 QProcessEnvironment programEnvironment();
 
-/// Runs a program to its end; gives up after half a minute.
-Outcome run(const QString &program, const QStringList &arguments, const QProcessEnvironment &environment);
+/// Runs a program to its end, in the directory of this process or in another; gives up after half a minute.
+Outcome run(const QString &program, const QStringList &arguments, const QProcessEnvironment &environment,
+            const QString &directory = {});
 
 /// The lines of a text file; none when there is no such file.
 QStringList linesOf(const QString &fileName);

@@ -44,6 +44,7 @@ private slots:
     void findsLibrariesBesideItself();
     void takesTheContractsFourFunctions();
     void knowsNothingOfTheSimulator();
+    void hasNoConsoleOnWindows();
 };
 
 void ExecutableTest::asksForTheSdkByName()
@@ -83,6 +84,16 @@ void ExecutableTest::knowsNothingOfTheSimulator()
     QCOMPARE(symbols({}).filter("veltrix_simulator"), QStringList{});
     QCOMPARE(symbols({"-D"}).filter("veltrix_simulator"), QStringList{});
     QCOMPARE(symbols({"-D", "-u"}).filter("additional_ports"), QStringList{});
+}
+
+void ExecutableTest::hasNoConsoleOnWindows()
+{
+    QCOMPARE(QString{PROGRAM_IS_WINDOWED}, QStringLiteral("ON"));
+    const QStringList resource{linesOf(WINDOWS_RESOURCE)};
+    for (const char *const line : {"FILEOS VOS_NT_WINDOWS32", "FILETYPE VFT_APP", "FILEFLAGS 0",
+                                   "IDI_ICON1 ICON \"../picture/camera.ico\""}) {
+        QVERIFY2(resource.contains(line), line);
+    }
 }
 
 PILOTEL_TEST_CLASS(ExecutableTest)

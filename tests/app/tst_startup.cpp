@@ -4,6 +4,8 @@
 #include "program.h"
 #include "testclass.h"
 
+#include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QLibraryInfo>
 #include <QObject>
@@ -43,7 +45,8 @@ class Session
 public:
     Outcome run(const QStringList &arguments = {}) const
     {
-        return ::run(PROGRAM, QStringList{"-plugin", "closewhenshown"} + arguments, environment);
+        return ::run(PROGRAM, QStringList{"-plugin", "closewhenshown"} + arguments, environment,
+                     directoryOfRun);
     }
 
     Outcome runTellingTheJournal() const { return run({"-plugin", "tellthejournal"}); }
@@ -53,6 +56,7 @@ public:
     QStringList journal() const { return linesOf(fileName("journal")); }
 
     QProcessEnvironment environment{programEnvironment()};
+    QString directoryOfRun;
 
     Session()
     {
@@ -92,6 +96,7 @@ private slots:
     void logsToTheSdk();
     void leavesUnknownArgumentsToQt();
     void scansThePortsOfTheHostThenThoseOfTheSimulator();
+    void writesNoFileOfItsOwn();
     void worksWithAnotherLibraryOfTheSameContract();
     void endsWithTheLoadersMessageWithoutALibrary();
     void endsWithTheLoadersMessageWithAnIncompleteLibrary();
@@ -215,6 +220,51 @@ void StartupTest::scansThePortsOfTheHostThenThoseOfTheSimulator()
     session.environment.insert("PILOTEL_TEST_SCAN", "1");
     QCOMPARE(session.run().status, 0);
     QCOMPARE(session.report().filter(QRegularExpression{"^(port|box) "}), scannedPorts({"SIM1"}));
+}
+
+void StartupTest::writesNoFileOfItsOwn()
+{
+    Session session;
+    const QTemporaryDir surroundings;
+    const QDir inside{surroundings.path()};
+    for (const char *const name : {"home", "work", "temporary", "runtime"}) {
+        QVERIFY(inside.mkdir(name));
+    }
+    QVERIFY(QFile::setPermissions(inside.filePath("runtime"),
+                                  QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    session.environment.insert("HOME", inside.filePath("home"));
+    session.environment.insert("TMPDIR", inside.filePath("temporary"));
+    session.environment.insert("XDG_RUNTIME_DIR", inside.filePath("runtime"));
+    for (const char *const elsewhere :
+         {"XDG_CACHE_HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"}) {
+        session.environment.remove(elsewhere);
+    }
+    session.directoryOfRun = inside.filePath("work");
+    session.environment.insert("PILOTEL_TEST_SCAN", "1");
+    session.environment.insert("PILOTEL_TEST_SESSION", "1");
+
+    const Outcome outcome{session.run()};
+
+    QVERIFY2(outcome.exited, qPrintable(outcome.errors));
+    QCOMPARE(outcome.status, 0);
+    // It was a session of every kind of work.
+    const QStringList report{session.report()};
+    for (const char *const line :
+         {"line ALTERNATIVE SERIAL PORT : SIM1", "line End reading camera parameters",
+          "line End applying camera parameters", "line Blend unit parameters have been saved",
+          "line IR mode activated", "line End reading camera expert parameters"}) {
+        QVERIFY2(report.contains(line), line);
+    }
+    QStringList left;
+    QDirIterator entries{surroundings.path(),
+                         QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                         QDirIterator::Subdirectories};
+    while (entries.hasNext()) {
+        left.append(inside.relativeFilePath(entries.next()));
+    }
+    left.sort();
+    const QStringList asBefore{"home", "runtime", "temporary", "work"};
+    QCOMPARE(left, asBefore);
 }
 
 void StartupTest::worksWithAnotherLibraryOfTheSameContract()

@@ -55,6 +55,8 @@ private slots:
     void zoomFactorDoesNothing();
     void isCalledMainWindow();
     void takesAParent();
+    void hasTheFlagsOfAMainWindow_data();
+    void hasTheFlagsOfAMainWindow();
     void handlersCanBeInvokedByName_data();
     void handlersCanBeInvokedByName();
 };
@@ -234,6 +236,28 @@ void ConstructionTest::takesAParent()
     const MainWindow alone;
     QCOMPARE(alone.parentWidget(), nullptr);
     QCOMPARE(warnings.take().size(), 3);
+}
+
+void ConstructionTest::hasTheFlagsOfAMainWindow_data()
+{
+    QTest::addColumn<bool>("withParent");
+    QTest::newRow("alone") << false;
+    QTest::newRow("with a parent") << true;
+}
+
+void ConstructionTest::hasTheFlagsOfAMainWindow()
+{
+    QFETCH(const bool, withParent);
+    Simulator::instance().reset();
+    WarningWatcher warnings;
+    QWidget parent;
+    const MainWindow window{withParent ? &parent : nullptr};
+    warnings.take();
+
+    const Qt::WindowFlags flags{Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                                Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint |
+                                Qt::WindowFullscreenButtonHint};
+    QCOMPARE(window.windowFlags(), flags);
 }
 
 void ConstructionTest::handlersCanBeInvokedByName_data()

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QLatin1Char>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
@@ -92,6 +93,12 @@ bool BoxWatcher::eventFilter(QObject *watched, QEvent *event)
         return false;
     }
     shown.append(describe(*dialog));
+    // Without the window as its parent, a box stands anywhere and does not keep the operator from the window.
+    if (qobject_cast<QMessageBox *>(dialog) != nullptr &&
+        qobject_cast<QMainWindow *>(dialog->parentWidget()) == nullptr) {
+        QTest::qFail(qPrintable(QStringLiteral("the window is not the parent of the box: ") + shown.last()),
+                     __FILE__, __LINE__);
+    }
     Action action;
     if (actions.empty()) {
         QTest::qFail(qPrintable(QStringLiteral("unexpected box: ") + shown.last()), __FILE__, __LINE__);

@@ -11,7 +11,7 @@
 #include <functional>
 
 /// Watches for modal boxes. The test says beforehand what the operator will do with each; a box that nobody
-/// expected fails the test and is closed.
+/// expected fails the test and is closed. So does a message box whose parent is not the window.
 class BoxWatcher : public QObject
 {
     Q_OBJECT

@@ -11,9 +11,11 @@
 #include <QDirIterator>
 #include <QEvent>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QString>
 #include <QStringList>
+#include <QTabWidget>
 
 namespace
 {
@@ -52,6 +54,9 @@ void CloseWhenShown::finish()
     if (qEnvironmentVariableIsSet("PILOTEL_TEST_SCAN")) {
         scan();
     }
+    if (qEnvironmentVariableIsSet("PILOTEL_TEST_SESSION")) {
+        goThroughASession();
+    }
     window->close();
 }
 
@@ -63,6 +68,29 @@ void CloseWhenShown::scan()
     for (int index{0}; index < ports->count(); ++index) {
         report(reportVariable, {"port " + ports->itemText(index)});
     }
+}
+
+void CloseWhenShown::goThroughASession()
+{
+    press("connectDeviceButton");
+    auto *const pages = window->findChild<QTabWidget *>("Principal_tab");
+    for (int page{0}; page < pages->count(); ++page) {
+        pages->setCurrentIndex(page);
+    }
+    for (const char *const button : {"readParamButtonUser", "resetParamButtonUser", "saveParamButtonUser",
+                                     "BU_IR_MODE_PB", "polarityButton", "readParamButtonExpert"}) {
+        press(button);
+    }
+    press("disconnectDeviceButton");
+    const QString log{window->findChild<QPlainTextEdit *>("logView")->toPlainText()};
+    for (const QString &line : log.split('\n', Qt::SkipEmptyParts)) {
+        report(reportVariable, {"line " + line});
+    }
+}
+
+void CloseWhenShown::press(const char *button)
+{
+    window->findChild<QPushButton *>(button)->click();
 }
 
 void CloseWhenShown::answerBox()

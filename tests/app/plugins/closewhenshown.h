@@ -10,7 +10,8 @@
 #include <QWidget>
 
 /// Closes the first window that is shown. PILOTEL_TEST_REPORT names a file for what it finds before that;
-/// with PILOTEL_TEST_SCAN set it presses Scan Devices first.
+/// with PILOTEL_TEST_SCAN set it presses Scan Devices first, with PILOTEL_TEST_SESSION set it then goes
+/// through a session with what the scan selected and reports the lines of the log.
 class CloseWhenShown : public QObject
 {
     Q_OBJECT
@@ -25,6 +26,8 @@ private slots:
 
 private:
     void scan();
+    void goThroughASession();
+    void press(const char *button);
 
     QWidget *window{nullptr};
 };
