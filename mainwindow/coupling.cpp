@@ -9,16 +9,21 @@
 #include "ui_mainwindow.h"
 #include "veltrix_sdk/device_control.h"
 
+#include <QScopedValueRollback>
+
+#include <functional>
+#include <utility>
+
 using namespace veltrix_sdk;
 
 void MainWindow::GammaUserSliderChanged(int position)
 {
-    followSlider(*ui, pairOf(&Ui_MainWindow::gammaSlider), position);
+    sliderChanged(pairOf(&Ui_MainWindow::gammaSlider), position);
 }
 
 void MainWindow::GammaUserValueChanged(double value)
 {
-    followSpinBox(*ui, pairOf(&Ui_MainWindow::gammaSlider), value);
+    spinBoxChanged(pairOf(&Ui_MainWindow::gammaSlider), value);
 }
 
 void MainWindow::gammaUserSendCommand()
@@ -28,12 +33,12 @@ void MainWindow::gammaUserSendCommand()
 
 void MainWindow::ClheUserSliderChanged(int position)
 {
-    followSlider(*ui, pairOf(&Ui_MainWindow::clheSlider), position);
+    sliderChanged(pairOf(&Ui_MainWindow::clheSlider), position);
 }
 
 void MainWindow::ClheUserValueChanged(double value)
 {
-    followSpinBox(*ui, pairOf(&Ui_MainWindow::clheSlider), value);
+    spinBoxChanged(pairOf(&Ui_MainWindow::clheSlider), value);
 }
 
 void MainWindow::clheSendCommand()
@@ -43,63 +48,65 @@ void MainWindow::clheSendCommand()
 
 void MainWindow::SharpeningUserSliderChanged(int position)
 {
-    followSlider(*ui, pairOf(&Ui_MainWindow::sharpeningGainSlider), position);
+    sliderChanged(pairOf(&Ui_MainWindow::sharpeningGainSlider), position);
 }
 
 void MainWindow::SharpeningUserValueChanged(double value)
 {
-    followSpinBox(*ui, pairOf(&Ui_MainWindow::sharpeningGainSlider), value);
+    spinBoxChanged(pairOf(&Ui_MainWindow::sharpeningGainSlider), value);
 }
 
 void MainWindow::SharpeningTHSliderChanged(int position)
 {
-    followSlider(*ui, pairOf(&Ui_MainWindow::SharpeningTHSlider), position);
+    sliderChanged(pairOf(&Ui_MainWindow::SharpeningTHSlider), position);
 }
 
 void MainWindow::SharpeningTHValueChanged(double value)
 {
-    followSpinBox(*ui, pairOf(&Ui_MainWindow::SharpeningTHSlider), value);
+    spinBoxChanged(pairOf(&Ui_MainWindow::SharpeningTHSlider), value);
 }
 
 void MainWindow::sharpeningSendCommand()
 {
+    pullBackTyped();
     edgeCorrectionChanged();
 }
 
 void MainWindow::AhcBlackGainlimSliderChanged(int position)
 {
-    followSlider(*ui, pairOf(&Ui_MainWindow::AhcBlackGainLimSlider), position);
+    sliderChanged(pairOf(&Ui_MainWindow::AhcBlackGainLimSlider), position);
 }
 
 void MainWindow::AhcBlackGainLimSpinValueChanged(int value)
 {
-    followSpinBox(*ui, pairOf(&Ui_MainWindow::AhcBlackGainLimSlider), value);
+    spinBoxChanged(pairOf(&Ui_MainWindow::AhcBlackGainLimSlider), value);
 }
 
 void MainWindow::AhcWhiteGainlimSliderChanged(int position)
 {
-    followSlider(*ui, pairOf(&Ui_MainWindow::AhcWhiteGainLimSlider), position);
+    sliderChanged(pairOf(&Ui_MainWindow::AhcWhiteGainLimSlider), position);
 }
 
 void MainWindow::AhcWhiteGainLimSpinValueChanged(int value)
 {
-    followSpinBox(*ui, pairOf(&Ui_MainWindow::AhcWhiteGainLimSlider), value);
+    spinBoxChanged(pairOf(&Ui_MainWindow::AhcWhiteGainLimSlider), value);
 }
 
 void MainWindow::ahcGainSendCommand()
 {
+    pullBackTyped();
     sendCommand("Set AHC GAINS LIMITATION values", &IDeviceControl::setAhcGainLimitation,
                 toByte(ui->AhcBlackGainLimSpin->value()), toByte(ui->AhcWhiteGainLimSpin->value()));
 }
 
 void MainWindow::TempoFilterSliderChanged(int position)
 {
-    followSlider(*ui, pairOf(&Ui_MainWindow::TempoFilterSlider), position);
+    sliderChanged(pairOf(&Ui_MainWindow::TempoFilterSlider), position);
 }
 
 void MainWindow::TempoFiltSpinValueChanged(int value)
 {
-    followSpinBox(*ui, pairOf(&Ui_MainWindow::TempoFilterSlider), value);
+    spinBoxChanged(pairOf(&Ui_MainWindow::TempoFilterSlider), value);
 }
 
 void MainWindow::tempoFilterSendCommand()
@@ -109,12 +116,12 @@ void MainWindow::tempoFilterSendCommand()
 
 void MainWindow::GSKExpertSliderChanged(int position)
 {
-    followSlider(*ui, pairOf(&Ui_MainWindow::gskSlider), position);
+    sliderChanged(pairOf(&Ui_MainWindow::gskSlider), position);
 }
 
 void MainWindow::GSKExpertValueChanged(double value)
 {
-    followSpinBox(*ui, pairOf(&Ui_MainWindow::gskSlider), value);
+    spinBoxChanged(pairOf(&Ui_MainWindow::gskSlider), value);
 }
 
 void MainWindow::gskSendCommand()
@@ -124,12 +131,12 @@ void MainWindow::gskSendCommand()
 
 void MainWindow::GFIDExpertSliderChanged(int position)
 {
-    followSlider(*ui, pairOf(&Ui_MainWindow::gfidSlider), position);
+    sliderChanged(pairOf(&Ui_MainWindow::gfidSlider), position);
 }
 
 void MainWindow::GFIDExpertValueChanged(double value)
 {
-    followSpinBox(*ui, pairOf(&Ui_MainWindow::gfidSlider), value);
+    spinBoxChanged(pairOf(&Ui_MainWindow::gfidSlider), value);
 }
 
 void MainWindow::gfiSendCommand()
@@ -139,12 +146,12 @@ void MainWindow::gfiSendCommand()
 
 void MainWindow::GMSExpertSliderChanged(int position)
 {
-    followSlider(*ui, pairOf(&Ui_MainWindow::gmsSlider), position);
+    sliderChanged(pairOf(&Ui_MainWindow::gmsSlider), position);
 }
 
 void MainWindow::GMSExpertValueChanged(double value)
 {
-    followSpinBox(*ui, pairOf(&Ui_MainWindow::gmsSlider), value);
+    spinBoxChanged(pairOf(&Ui_MainWindow::gmsSlider), value);
 }
 
 void MainWindow::gmsSendCommand()
@@ -154,12 +161,12 @@ void MainWindow::gmsSendCommand()
 
 void MainWindow::TINTExpertSliderChanged(int position)
 {
-    followSlider(*ui, pairOf(&Ui_MainWindow::tintSlider), position);
+    sliderChanged(pairOf(&Ui_MainWindow::tintSlider), position);
 }
 
 void MainWindow::TINTExpertValueChanged(double value)
 {
-    followSpinBox(*ui, pairOf(&Ui_MainWindow::tintSlider), value);
+    spinBoxChanged(pairOf(&Ui_MainWindow::tintSlider), value);
 }
 
 void MainWindow::tintSendCommand()
@@ -167,8 +174,41 @@ void MainWindow::tintSendCommand()
     sendNumber(pairOf(&Ui_MainWindow::tintSlider));
 }
 
+void MainWindow::spinBoxChanged(const SliderPair &pair, double value)
+{
+    // Only what the box itself tells can have been typed: reads and scripts run this handler as well.
+    const bool typed{sender() == spinBoxOf(*ui, pair) && isBeingTyped(*ui, pair)};
+    {
+        const QScopedValueRollback<const SliderPair *> whileTyped{typedPair, typed ? &pair : nullptr};
+        followSpinBox(*ui, pair, value);
+    }
+    if (!typed && waitingPair == &pair) {
+        pullBackTyped();
+    }
+}
+
+void MainWindow::sliderChanged(const SliderPair &pair, int position)
+{
+    const bool typed{typedPair == &pair};
+    if (typed || waitingPair == &pair) {
+        const bool waits{typed && std::not_equal_to<>{}(spinBoxValue(*ui, pair), numberAt(pair, position))};
+        waitingPair = waits ? &pair : nullptr;
+    }
+    if (!typed) {
+        followSlider(*ui, pair, position);
+    }
+}
+
+void MainWindow::pullBackTyped()
+{
+    if (const SliderPair *const pair{std::exchange(waitingPair, nullptr)}) {
+        followSlider(*ui, *pair, (ui->*pair->slider)->value());
+    }
+}
+
 void MainWindow::sendNumber(const SliderPair &pair)
 {
+    pullBackTyped();
     if (isDeviceOpen()) {
         reportCommand(pair.number.set(*device, spinBoxValue(*ui, pair)), pair.number.action);
     }

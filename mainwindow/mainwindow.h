@@ -208,6 +208,13 @@ private:
     bool tellNotConnected();
 
     // Sliders and their spin boxes
+    /// Moves the slider to its box's new value. While the box is being typed into, its text is left alone.
+    void spinBoxChanged(const SliderPair &pair, double value);
+    /// Shows the slider's new position in its box, or remembers that while the box is being typed into.
+    void sliderChanged(const SliderPair &pair, int position);
+    /// Shows in the box that was typed into what its slider stands at: the end of its edit, before it is
+    /// sent.
+    void pullBackTyped();
     void sendNumber(const SliderPair &pair);
     void sendNumbers(SequencePlace place);
     void readNumbers(SequencePlace place);
@@ -253,6 +260,8 @@ private:
     QDir currentDir{QString{}};        ///< Nobody reads it; kept on purpose.
     QSerialPortInfo *selectedPortInfo; ///< Nobody reads it; kept on purpose, until the process ends.
     QList<QSerialPortInfo> serialPorts;
-    std::uint8_t *deviceIdentity; ///< Lives until the process ends: the SDK is given its address.
-    bool regionBoxOpen{false};    ///< While the box about the order of a region's coordinates is shown.
+    std::uint8_t *deviceIdentity;           ///< Lives until the process ends: the SDK is given its address.
+    const SliderPair *typedPair{nullptr};   ///< While its slider follows a key typed into its box.
+    const SliderPair *waitingPair{nullptr}; ///< What was typed into its box is not what its slider stands at.
+    bool regionBoxOpen{false}; ///< While the box about the order of a region's coordinates is shown.
 };

@@ -10,6 +10,7 @@
 #include "veltrix_sdk/records.h"
 #include "widgetvalues.h"
 
+#include <QLineEdit>
 #include <QObject>
 #include <QtGlobal>
 
@@ -228,6 +229,13 @@ QAbstractSpinBox *spinBoxOf(const Ui_MainWindow &ui, const SliderPair &pair)
     return std::visit([&](auto box) -> QAbstractSpinBox * { return ui.*box; }, pair.spinBox);
 }
 
+bool isBeingTyped(const Ui_MainWindow &ui, const SliderPair &pair)
+{
+    // What the program or a step puts into the box clears the mark of the line that was typed.
+    const auto *const line = spinBoxOf(ui, pair)->findChild<QLineEdit *>();
+    return line != nullptr && line->isModified();
+}
+
 const char *valueChangedSignal(const SliderPair &pair)
 {
     return std::holds_alternative<WholeSpinBox>(pair.spinBox) ? SIGNAL(valueChanged(int))
@@ -248,10 +256,15 @@ void showInSpinBox(const Ui_MainWindow &ui, const SliderPair &pair, double value
     }
 }
 
-void followSlider(const Ui_MainWindow &ui, const SliderPair &pair, int position)
+double numberAt(const SliderPair &pair, int position)
 {
     const double unitsPerStep{1.0 / pair.stepsPerUnit};
-    const double value{position * unitsPerStep + pair.lowest};
+    return position * unitsPerStep + pair.lowest;
+}
+
+void followSlider(const Ui_MainWindow &ui, const SliderPair &pair, int position)
+{
+    const double value{numberAt(pair, position)};
     if (const auto *const whole = std::get_if<WholeSpinBox>(&pair.spinBox)) {
         setIfDifferent(*(ui.**whole), roundToInt(value));
     } else if (const auto *const fractional = std::get_if<FractionalSpinBox>(&pair.spinBox)) {

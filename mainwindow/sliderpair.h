@@ -103,6 +103,10 @@ std::vector<const SliderPair *> pairsAt(SequencePlace place);
 
 QAbstractSpinBox *spinBoxOf(const Ui_MainWindow &ui, const SliderPair &pair);
 
+/// Whether the text in the pair's spin box is what the operator typed, and not what a step or the program put
+/// there.
+bool isBeingTyped(const Ui_MainWindow &ui, const SliderPair &pair);
+
 /// The signal of the pair's spin box that says that it holds another number.
 const char *valueChangedSignal(const SliderPair &pair);
 
@@ -111,6 +115,9 @@ double spinBoxValue(const Ui_MainWindow &ui, const SliderPair &pair);
 
 /// Puts a number into a pair's spin box; beyond its range the nearest limit.
 void showInSpinBox(const Ui_MainWindow &ui, const SliderPair &pair, double value);
+
+/// The number that a position of a pair's slider stands for.
+double numberAt(const SliderPair &pair, int position);
 
 /// Makes the spin box show what its slider stands at.
 void followSlider(const Ui_MainWindow &ui, const SliderPair &pair, int position);

@@ -2,25 +2,68 @@
 // SPDX-License-Identifier: MIT
 // Tests of the sliders and their spin boxes where one reaches beyond the other.
 #include "coupledpairs.h"
+#include "mouse.h"
 #include "testclass.h"
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QObject>
 #include <QString>
 #include <QStringList>
 #include <QTest>
 #include <QVariant>
 
+#include <algorithm>
 #include <cstddef>
 #include <limits>
+#include <utility>
+
+namespace
+{
+
+/// How the operator ends an edit.
+enum class Ending
+{
+    Enter,
+    Tab,
+    Click,
+    Disconnect,
+};
+
+void end(TestWindow &test, QAbstractSpinBox &box, Ending ending)
+{
+    switch (ending) {
+    case Ending::Enter:
+        QTest::keyClick(&box, Qt::Key_Enter);
+        break;
+    case Ending::Tab:
+        QTest::keyClick(&box, Qt::Key_Tab);
+        break;
+    case Ending::Click:
+        pressMouseOn(test, "logView");
+        break;
+    case Ending::Disconnect:
+        pressMouseOn(test, "disconnectDeviceButton");
+        break;
+    }
+    QCoreApplication::processEvents();
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Ending)
 
 class CouplingLimitsTest : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void aSliderPullsItsBoxBackToItsEnd_data();
-    void aSliderPullsItsBoxBackToItsEnd();
+    void aSliderPullsItsBoxBackAtTheEndOfTheEdit_data();
+    void aSliderPullsItsBoxBackAtTheEndOfTheEdit();
+    void aTypedValueIsPulledBackAtOnceByAStep();
+    void aTypedValueGivesWayToItsSlider();
+    void aTypedValueThatIsTakenBackIsSentAsItStands();
+    void aTypedValueIsPulledBackBeforeAnApply();
     void aSliderAtItsEndLeavesItsBoxAlone();
     void aBoxPullsItsSliderBackToItsEnd_data();
     void aBoxPullsItsSliderBackToItsEnd();
@@ -28,35 +71,117 @@ private slots:
     void handlersEndAtTheRangesOfTheirPair();
 };
 
-void CouplingLimitsTest::aSliderPullsItsBoxBackToItsEnd_data()
+void CouplingLimitsTest::aSliderPullsItsBoxBackAtTheEndOfTheEdit_data()
 {
     QTest::addColumn<QByteArray>("slider");
     QTest::addColumn<QString>("typed");
     QTest::addColumn<int>("position");
-    QTest::addColumn<double>("value");
-    const auto row = [](const char *slider, const char *typed, int position, double value) {
-        QTest::addRow("%s beyond %s", typed, slider) << QByteArray{slider} << typed << position << value;
+    QTest::addColumn<QString>("shown");
+    QTest::addColumn<Ending>("ending");
+    QTest::addColumn<QString>("call");
+    const auto row = [](const char *slider, const char *typed, int position, const char *shown,
+                        const char *call) {
+        for (const auto &[ending, name] :
+             {std::pair{Ending::Enter, "Enter"}, std::pair{Ending::Tab, "Tab"},
+              std::pair{Ending::Click, "a click"}, std::pair{Ending::Disconnect, "Disconnect"}}) {
+            QTest::addRow("%s beyond %s, ended by %s", typed, slider, name)
+                << QByteArray{slider} << typed << position << shown << ending << call;
+        }
     };
-    row("clheSlider", "30000", 10000, 10000.0);
-    row("clheSlider", "10001", 10000, 10000.0);
-    row("SharpeningTHSlider", "255", 2000, 200.0);
-    row("gmsSlider", "4096", 4095, 4095.0);
+    row("clheSlider", "30000", 10000, "10000", "setClhe(10000) -> true");
+    row("clheSlider", "10001", 10000, "10000", "setClhe(10000) -> true");
+    row("SharpeningTHSlider", "255", 2000, "200.0", "configureEdgeCorrection(0, 64, 200) -> true");
+    row("gmsSlider", "4096", 4095, "4095", "setGms(4095) -> true");
+    row("gmsSlider", "123456", 4095, "4095", "setGms(4095) -> true");
+    row("gmsSlider", "4294967296", 4095, "4095", "setGms(4095) -> true");
 }
 
-void CouplingLimitsTest::aSliderPullsItsBoxBackToItsEnd()
+void CouplingLimitsTest::aSliderPullsItsBoxBackAtTheEndOfTheEdit()
 {
     QFETCH(const QByteArray, slider);
     QFETCH(const QString, typed);
     QFETCH(const int, position);
-    QFETCH(const double, value);
+    QFETCH(const QString, shown);
+    QFETCH(const Ending, ending);
+    QFETCH(const QString, call);
     TestWindow test;
     const Pair &pair{pairOf(slider)};
     openCameraPage(test, pair.page);
     const Widgets widgets{test, pair};
 
-    typeInto(widgets.box, typed);
+    widgets.box.setFocus();
+    widgets.box.selectAll();
+    for (int length{1}; length <= typed.size(); ++length) {
+        QTest::keyClick(&widgets.box, typed.at(length - 1).toLatin1());
+        QCOMPARE(widgets.box.text(), typed.left(length));
+        const double steps{typed.leftRef(length).toDouble() * pair.stepsPerUnit};
+        QCOMPARE(static_cast<double>(widgets.slider.value()),
+                 std::min(steps, static_cast<double>(widgets.slider.maximum())));
+    }
     QCOMPARE(widgets.slider.value(), position);
-    QCOMPARE(widgets.value(), value);
+    QCOMPARE(test.takeCallsAndRecords(), QStringList{});
+
+    end(test, widgets.box, ending);
+    QCOMPARE(widgets.box.text(), shown);
+    QCOMPARE(widgets.slider.value(), position);
+    QCOMPARE(commandsOf(test.takeCalls()), QStringList{call});
+}
+
+void CouplingLimitsTest::aTypedValueIsPulledBackAtOnceByAStep()
+{
+    TestWindow test;
+    openCameraPage(test, "ExpertMode");
+    Widgets gms{test, pairOf("gmsSlider")};
+    typeInto(gms.box, "123456");
+
+    QTest::keyClick(&gms.box, Qt::Key_Up);
+    QCOMPARE(gms.box.text(), "4095");
+    // At its end the slider does not move, and the box goes on alone.
+    QTest::keyClick(&gms.box, Qt::Key_Up);
+    QCOMPARE(gms.box.text(), "4096");
+    QTest::keyClick(&gms.box, Qt::Key_Enter);
+    QCOMPARE(test.takeCalls(), QStringList{"setGms(4096) -> false"});
+}
+
+void CouplingLimitsTest::aTypedValueGivesWayToItsSlider()
+{
+    TestWindow test;
+    openCameraPage(test, "ExpertMode");
+    const Widgets gms{test, pairOf("gmsSlider")};
+    typeInto(gms.box, "123456");
+
+    gms.slider.setValue(17);
+    QCOMPARE(gms.box.text(), "17");
+    QTest::keyClick(&gms.box, Qt::Key_Enter);
+    QCOMPARE(gms.box.text(), "17");
+    QCOMPARE(test.takeCalls(), QStringList{"setGms(17) -> true"});
+}
+
+void CouplingLimitsTest::aTypedValueThatIsTakenBackIsSentAsItStands()
+{
+    TestWindow test;
+    openCameraPage(test, "ExpertMode");
+    const Widgets gms{test, pairOf("gmsSlider")};
+    typeInto(gms.box, "123456");
+    QTest::keyClick(&gms.box, Qt::Key_Backspace);
+    QTest::keyClick(&gms.box, Qt::Key_Backspace);
+    QCOMPARE(gms.slider.value(), 1234);
+
+    QTest::keyClick(&gms.box, Qt::Key_Enter);
+    QCOMPARE(gms.box.text(), "1234");
+    QCOMPARE(test.takeCalls(), QStringList{"setGms(1234) -> true"});
+}
+
+void CouplingLimitsTest::aTypedValueIsPulledBackBeforeAnApply()
+{
+    TestWindow test;
+    openCameraPage(test, "LutSection");
+    const Widgets clhe{test, pairOf("clheSlider")};
+    typeInto(clhe.box, "30000");
+
+    test.invoke("ApplyParamsUser");
+    QVERIFY(test.takeCalls().contains("setClhe(10000) -> true"));
+    QCOMPARE(clhe.box.text(), "10000");
 }
 
 void CouplingLimitsTest::aSliderAtItsEndLeavesItsBoxAlone()
