@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // Regions of interest: the enable boxes, the coordinates and what they send.
+#include "clickbehindbox.h"
 #include "logtext.h"
 #include "mainwindow.h"
 #include "messageboxes.h"
@@ -144,8 +145,10 @@ void MainWindow::finishRegionEdit(int roiNumber, const RegionCoordinate &coordin
             // Who left this spin box for another one has the focus there: the message box takes it, and that
             // one would report an edit that nobody made.
             const QSignalBlocker silence{focusWidget()};
+            const ClickBehindBox click;
             showAboutBox(this, tr("ROI"),
                          tr("ROI ") + tr(QByteArray::number(roiNumber)) + tr(coordinate.orderText));
+            click.boxClosed();
         }
     }
     if (isDeviceOpen()) {
