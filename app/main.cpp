@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // The process entry: announces itself, brings the device SDK up and runs the main window.
 #include "mainwindow.h"
+#include "operatorinput.h"
 #include "veltrix_sdk/logger.h"
 #include "veltrix_sdk/sdk.h"
 
@@ -33,6 +34,7 @@ int main(int argc, char *argv[])
     std::cout << testLine.toUtf8().constData() << std::endl;
 
     const QApplication application{argc, argv};
+    const OperatorInput operatorInput;
     MainWindow window{nullptr};
     window.show();
     return QApplication::exec();
