@@ -34,8 +34,9 @@ int main(int argc, char *argv[])
     std::cout << testLine.toUtf8().constData() << std::endl;
 
     const QApplication application{argc, argv};
-    const OperatorInput operatorInput;
+    OperatorInput operatorInput;
     MainWindow window{nullptr};
+    window.setSequenceObserver([&operatorInput](bool running) { operatorInput.sequenceRuns(running); });
     window.show();
     return QApplication::exec();
 }

@@ -4,6 +4,7 @@
 #include "logtext.h"
 #include "mainwindow.h"
 #include "messageboxes.h"
+#include "sequence.h"
 #include "ui_mainwindow.h"
 #include "veltrix_sdk/device_control.h"
 #include "veltrix_sdk/numbers.h"
@@ -81,6 +82,7 @@ void MainWindow::writeBprTableClicked()
 
 void MainWindow::transferBprTable(const BprTransfer &transfer)
 {
+    const Sequence sequence{*this};
     if (tellNotConnected()) {
         return;
     }
@@ -134,6 +136,7 @@ void MainWindow::declareSingle(const PixelDeclaration &declaration)
 
 void MainWindow::declareLine(const PixelDeclaration &declaration)
 {
+    const Sequence sequence{*this};
     if (tellNotConnected()) {
         return;
     }
@@ -144,6 +147,7 @@ void MainWindow::declareLine(const PixelDeclaration &declaration)
 
 void MainWindow::declareColumn(const PixelDeclaration &declaration)
 {
+    const Sequence sequence{*this};
     if (tellNotConnected()) {
         return;
     }

@@ -4,6 +4,7 @@
 #include "encodings.h"
 #include "mainwindow.h"
 #include "region.h"
+#include "sequence.h"
 #include "sliderpair.h"
 #include "ui_mainwindow.h"
 #include "veltrix_sdk/configuration.h"
@@ -18,6 +19,7 @@ using namespace veltrix_sdk;
 
 void MainWindow::ResetParamsUser()
 {
+    const Sequence sequence{*this};
     if (!isDeviceOpen()) {
         return;
     }

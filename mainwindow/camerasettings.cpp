@@ -3,6 +3,7 @@
 // Camera settings: each is sent the moment the operator changes it.
 #include "encodings.h"
 #include "mainwindow.h"
+#include "sequence.h"
 #include "sliderpair.h"
 #include "togglesetting.h"
 #include "ui_mainwindow.h"
@@ -103,6 +104,7 @@ void MainWindow::edgeCorrectionChanged()
 
 void MainWindow::ApplyParamsUser()
 {
+    const Sequence sequence{*this};
     if (!isDeviceOpen()) {
         return;
     }

@@ -4,6 +4,7 @@
 #include "mainwindow.h"
 #include "messageboxes.h"
 #include "portnames.h"
+#include "sequence.h"
 #include "sliderpair.h"
 #include "ui_mainwindow.h"
 #include "veltrix_sdk/configuration.h"
@@ -117,6 +118,7 @@ bool MainWindow::openCommunication(std::string port)
 
 void MainWindow::connectDevice()
 {
+    const Sequence sequence{*this};
     if (!openCommunication(ui->selectDeviceComboBox->currentText().toStdString())) {
         return;
     }
@@ -209,6 +211,8 @@ void MainWindow::targetChanged(int target)
     // A page's place is its unit's target. The pages after the second are no unit: the device refuses them,
     // and the unit that was addressed last stays.
     lastCommandOk = device->setTarget(target);
+    // The first line of a connect comes before its first command, the second one after the second command.
+    paintLog();
     if (lastCommandOk) {
         readTemp(target);
         appendLog("target correctly changed");
@@ -220,6 +224,7 @@ void MainWindow::targetChanged(int target)
 
 bool MainWindow::readAllParameters()
 {
+    const Sequence sequence{*this};
     const int page{ui->Principal_tab->currentIndex()};
     targetChanged(targetBlendUnit);
     if (!readBlendUnitParameters()) {
@@ -233,6 +238,7 @@ bool MainWindow::readAllParameters()
 
 void MainWindow::readParamsExpert()
 {
+    const Sequence sequence{*this};
     const int page{ui->Principal_tab->currentIndex()};
     targetChanged(targetBlendUnit);
     readFusionParamsExpert();

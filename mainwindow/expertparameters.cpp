@@ -4,6 +4,7 @@
 #include "encodings.h"
 #include "logtext.h"
 #include "mainwindow.h"
+#include "sequence.h"
 #include "sliderpair.h"
 #include "ui_mainwindow.h"
 #include "veltrix_sdk/configuration.h"
@@ -68,6 +69,7 @@ void MainWindow::gainControlChanged()
 // No control runs it. It stays because every handler is a slot, which scripts can invoke by its name.
 void MainWindow::ApplyParamsExpert()
 {
+    const Sequence sequence{*this};
     appendLog("Start applying camera expert parameters");
     if (isDeviceOpen()) {
         reportCommand(device->setVerticalFlip(ui->verticalFlipCheckBox->isChecked()), "Set Flip vertically");

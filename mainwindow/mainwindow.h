@@ -4,15 +4,19 @@
 #pragma once
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QList>
 #include <QMainWindow>
 #include <QSerialPortInfo>
 #include <QString>
 #include <QWidget>
+#include <QtGlobal>
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 
 class Ui_MainWindow;
 
@@ -47,6 +51,11 @@ public:
     ~MainWindow() override;
 
     bool wasLastCommandOk() const { return lastCommandOk; }
+
+    /// Told the first moment (true) and the last one (false) of each sequence of commands, such as a read.
+    /// Between them no event is processed, except those of a box that the sequence shows. It must not throw.
+    using SequenceObserver = std::function<void(bool running)>;
+    void setSequenceObserver(SequenceObserver observer) { sequenceObserver = std::move(observer); }
 
 private slots:
     // Window
@@ -182,6 +191,9 @@ private:
     void removeWhatDoesNotApply(bool expertMode);
 
     // Operation log
+    class Sequence;
+    /// Paints what a sequence has logged so far, unless it was painted a moment ago.
+    void paintLog();
     void reportCommand(bool ok, const char *action);
     /// Gives the open device a command and reports it; does nothing while no device is open.
     template <typename... Parameters, typename... Arguments>
@@ -260,7 +272,12 @@ private:
     QDir currentDir{QString{}};        ///< Nobody reads it; kept on purpose.
     QSerialPortInfo *selectedPortInfo; ///< Nobody reads it; kept on purpose, until the process ends.
     QList<QSerialPortInfo> serialPorts;
-    std::uint8_t *deviceIdentity;           ///< Lives until the process ends: the SDK is given its address.
+    std::uint8_t *deviceIdentity; ///< Lives until the process ends: the SDK is given its address.
+    SequenceObserver sequenceObserver;
+    int sequenceDepth{0};          ///< Of sequences that run inside one another.
+    QElapsedTimer sinceLogPainted; ///< Or since the sequence has begun.
+    /// Of the latest painting, in nanoseconds; before the first one what it may take.
+    qint64 logPaintingTime{1'000'000};
     const SliderPair *typedPair{nullptr};   ///< While its slider follows a key typed into its box.
     const SliderPair *waitingPair{nullptr}; ///< What was typed into its box is not what its slider stands at.
     bool regionBoxOpen{false}; ///< While the box about the order of a region's coordinates is shown.

@@ -10,9 +10,12 @@
 #include "veltrix_sdk/records.h"
 #include "widgetvalues.h"
 
+#include <QElapsedTimer>
 #include <QScrollBar>
 #include <QString>
 #include <QTextCursor>
+#include <QWidget>
+#include <QtGlobal>
 
 #include <string>
 
@@ -36,6 +39,28 @@ void MainWindow::appendLog(std::string line)
     QScrollBar *const scrollBar{ui->logView->verticalScrollBar()};
     scrollBar->setValue(scrollBar->maximum());
     SDKLogger(severity_info).GetILogger() << line;
+    paintLog();
+}
+
+void MainWindow::paintLog()
+{
+    // Other lines are painted when control returns to the event loop, which is at once.
+    if (sequenceDepth == 0) {
+        return;
+    }
+    // A painting that takes a millisecond comes after at least this many without one, counted from the start
+    // of the sequence. On a slow link that is less than a command takes, so each line is painted; without
+    // latency a sequence has mostly ended by then, and a long one gives a twentieth of its time.
+    constexpr qint64 pauseForEachPainting{20};
+    if (sinceLogPainted.nsecsElapsed() < pauseForEachPainting * logPaintingTime) {
+        return;
+    }
+    QElapsedTimer painting;
+    painting.start();
+    // Paints and shows it before it returns, without processing events.
+    ui->logView->viewport()->repaint();
+    logPaintingTime = painting.nsecsElapsed();
+    sinceLogPainted.start();
 }
 
 void MainWindow::reportOutcome(bool ok, const char *success, const char *failure)

@@ -21,29 +21,63 @@ bool OperatorInput::eventFilter(QObject *watched, QEvent *event)
 {
     // The type first: nearly all events are none of these.
     switch (event->type()) {
-    case QEvent::Wheel:
-        return watched->isWindowType() &&
-               turnWheel(static_cast<QWindow &>(*watched), static_cast<QWheelEvent &>(*event));
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseButtonRelease:
     case QEvent::KeyPress:
-        if (auto *const slider = qobject_cast<QSlider *>(watched)) {
-            sliderHand.keyPressed(*slider);
-        }
-        return false;
     case QEvent::KeyRelease:
-        if (auto *const slider = qobject_cast<QSlider *>(watched)) {
-            sliderHand.keyReleased(*slider, static_cast<QKeyEvent &>(*event));
-        }
+    case QEvent::FocusOut:
+    case QEvent::Wheel:
+    case QEvent::ShortcutOverride:
+    case QEvent::ContextMenu:
+    case QEvent::InputMethod:
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::TouchCancel:
+    case QEvent::WindowBlocked:
+    case QEvent::WindowUnblocked:
+        break;
+    default:
+        return false;
+    }
+    if (watched->isWindowType()) {
+        return filterForWindow(*watched, *event);
+    }
+    return watched->isWidgetType() && filterForWidget(*watched, *event);
+}
+
+bool OperatorInput::filterForWindow(QObject &window, QEvent &event)
+{
+    if (staleInput.takes(event)) {
+        return true;
+    }
+    if (event.type() == QEvent::KeyRelease) {
+        sliderHand.keyReleased(static_cast<QKeyEvent &>(event));
+    }
+    return event.type() == QEvent::Wheel &&
+           turnWheel(static_cast<QWindow &>(window), static_cast<QWheelEvent &>(event));
+}
+
+bool OperatorInput::filterForWidget(QObject &widget, QEvent &event)
+{
+    if (event.type() == QEvent::InputMethod) {
+        return staleInput.takes(event);
+    }
+    auto *const slider = qobject_cast<QSlider *>(&widget);
+    if (slider == nullptr) {
+        return false;
+    }
+    switch (event.type()) {
+    case QEvent::KeyPress:
+        sliderHand.keyPressed(*slider);
         return false;
     case QEvent::FocusOut:
-        if (auto *const slider = qobject_cast<QSlider *>(watched)) {
-            sliderHand.left(*slider);
-        }
+        sliderHand.left(*slider);
         return false;
     case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick: {
-        auto *const slider = qobject_cast<QSlider *>(watched);
-        return slider != nullptr && SliderHand::bringsHandle(*slider, static_cast<QMouseEvent &>(*event));
-    }
+    case QEvent::MouseButtonDblClick:
+        return SliderHand::bringsHandle(*slider, static_cast<QMouseEvent &>(event));
     default:
         return false;
     }

@@ -55,15 +55,14 @@ int positionAt(const QSlider &slider, const QPoint &place)
 void SliderHand::keyPressed(QSlider &slider)
 {
     if (held != &slider) {
-        letGoIfMoved();
         held = &slider;
         positionBefore = slider.value();
     }
 }
 
-void SliderHand::keyReleased(QSlider &slider, const QKeyEvent &event)
+void SliderHand::keyReleased(const QKeyEvent &event)
 {
-    if (held == &slider && !event.isAutoRepeat()) {
+    if (!event.isAutoRepeat()) {
         letGoIfMoved();
     }
 }

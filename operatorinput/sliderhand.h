@@ -15,8 +15,8 @@ class SliderHand
 public:
     /// Before the slider gets the key.
     void keyPressed(QSlider &slider);
-    /// A key that is held repeats: only its real end counts.
-    void keyReleased(QSlider &slider, const QKeyEvent &event);
+    /// A key was released, wherever the focus is by then. One that is held repeats: only its real end counts.
+    void keyReleased(const QKeyEvent &event);
     /// The focus goes, and with it the release of a key that is still held.
     void left(QSlider &slider);
 

@@ -37,7 +37,9 @@ class OperatorWindow : public TestWindow
 public:
     explicit OperatorWindow(const Preparation &prepare = {}, Drawing drawing = Drawing::On)
         : TestWindow{prepare, drawing}
-    {}
+    {
+        window().setSequenceObserver([this](bool running) { input.sequenceRuns(running); });
+    }
 
     /// What the hand acts on, once the program is at rest.
     QWindow &native()
