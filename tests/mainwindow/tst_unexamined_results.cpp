@@ -7,6 +7,7 @@
 #include "testclass.h"
 
 #include <QPlainTextEdit>
+#include <QRegularExpression>
 #include <QTest>
 
 #include <optional>
