@@ -1,8 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // The process entry: announces itself, brings the device SDK up and runs the main window.
+#include "fittedwindow.h"
 #include "mainwindow.h"
 #include "operatorinput.h"
+#include "scaling.h"
 #include "veltrix_sdk/logger.h"
 #include "veltrix_sdk/sdk.h"
 
@@ -33,10 +35,12 @@ int main(int argc, char *argv[])
     const QString testLine{"Test log in debug"};
     std::cout << testLine.toUtf8().constData() << std::endl;
 
+    followDesktopScaling();
     const QApplication application{argc, argv};
     OperatorInput operatorInput;
     MainWindow window{nullptr};
     window.setSequenceObserver([&operatorInput](bool running) { operatorInput.sequenceRuns(running); });
+    const auto fitted = fitToScreen(window);
     window.show();
     return QApplication::exec();
 }

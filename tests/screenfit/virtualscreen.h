@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// A screen of any size that nobody sees.
+#pragma once
+
+#include <QProcess>
+#include <QSize>
+#include <QString>
+
+/// An X server of its own with one screen of 100 dots per inch, as long as the object lives.
+class VirtualScreen
+{
+public:
+    /// The height of the panel at the lower edge is taken from what windows may use.
+    VirtualScreen(QSize size, int panelHeight);
+    /// What a desktop does whose operator chose a scaling: 120 dots are 1.25.
+    bool tellDensity(int dotsPerInch) const;
+    ~VirtualScreen();
+    VirtualScreen(const VirtualScreen &) = delete;
+    VirtualScreen &operator=(const VirtualScreen &) = delete;
+    VirtualScreen(VirtualScreen &&) = delete;
+    VirtualScreen &operator=(VirtualScreen &&) = delete;
+
+    /// The value of DISPLAY, such as ":5"; empty when the server did not start.
+    QString name() const { return display; }
+
+private:
+    bool setProperty(const QString &name, const QString &format, const QString &value) const;
+
+    QProcess server;
+    QString display;
+};
