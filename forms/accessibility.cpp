@@ -5,6 +5,7 @@
 
 #include "ui_mainwindow.h"
 
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -31,12 +32,13 @@ constexpr char context[]{"Accessibility"};
 
 void nameControls(const Ui_MainWindow &form)
 {
-    // Buttons and check boxes are called by their texts, where these are not alike.
+    // Buttons and check boxes are called by their texts, where these are not alike; the tabs by the page in
+    // front.
     const AccessibleName names[]{
         {form.selectDeviceComboBox, QT_TRANSLATE_NOOP("Accessibility", "Serial port")},
-        {form.BaudRateConnectCB, QT_TRANSLATE_NOOP("Accessibility", "Baud rate of the connection")},
         {form.Principal_tab->tabBar(), QT_TRANSLATE_NOOP("Accessibility", "Pages of the units")},
         {form.KR_tab->tabBar(), QT_TRANSLATE_NOOP("Accessibility", "Pages of the camera")},
+        {form.BaudRateConnectCB, QT_TRANSLATE_NOOP("Accessibility", "Baud rate of the connection")},
 
         {form.startingModeCB, QT_TRANSLATE_NOOP("Accessibility", "Starting mode")},
         {form.FusionZoomFactorSB, QT_TRANSLATE_NOOP("Accessibility", "Zoom factor")},
@@ -226,7 +228,13 @@ void makeAccessible(const Ui_MainWindow &form)
     nameControls(form);
     tieCaptions(form);
     for (QWidget *const widget : form.centralWidget->findChildren<QWidget *>()) {
-        if (!widget->toolTip().isEmpty()) {
+        if (widget->toolTip().isEmpty()) {
+            // Where a screen reader calls a combo box by the item that is chosen, this is all that says what
+            // it is.
+            if (qobject_cast<QComboBox *>(widget) != nullptr) {
+                widget->setAccessibleDescription(widget->accessibleName());
+            }
+        } else {
             // A screen reader would read the markup aloud.
             widget->setAccessibleDescription(
                 QTextDocumentFragment::fromHtml(widget->toolTip()).toPlainText());

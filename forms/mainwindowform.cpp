@@ -3,6 +3,7 @@
 // Building the main window's widgets.
 #include "mainwindowform.h"
 
+#include "accessibility.h"
 #include "ui_mainwindow.h"
 
 #include <QMainWindow>
@@ -10,6 +11,7 @@
 void setUpForm(Ui_MainWindow &form, QMainWindow &window)
 {
     form.setupUi(&window);
+    makeAccessible(form);
 }
 
 void retranslateForm(Ui_MainWindow &form, QMainWindow &window)

@@ -7,7 +7,8 @@
 class QMainWindow;
 class Ui_MainWindow;
 
-/// Ui_MainWindow::setupUi(): makes all widgets and actions in the window and sets their texts.
+/// Ui_MainWindow::setupUi(): makes all widgets and actions in the window and sets their texts. Then
+/// makeAccessible().
 void setUpForm(Ui_MainWindow &form, QMainWindow &window);
 
 /// Ui_MainWindow::retranslateUi(): sets the texts in the language of the moment.

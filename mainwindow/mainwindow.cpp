@@ -3,7 +3,6 @@
 // Construction and destruction of the main window.
 #include "mainwindow.h"
 
-#include "accessibility.h"
 #include "dialog.h"
 #include "mainwindowform.h"
 #include "ui_mainwindow.h"
@@ -35,7 +34,6 @@ MainWindow::MainWindow(QWidget *parent)
     ISdkConfiguration *const configuration{sdk->getConfiguration()};
 
     setUpForm(*ui, *this);
-    makeAccessible(*ui);
     // Nobody undoes a log; remembering every line for it would only cost time and memory.
     ui->logView->setUndoRedoEnabled(false);
 
