@@ -5,7 +5,7 @@
 
 #include <QIcon>
 #include <QMessageBox>
-#include <QStyle>
+#include <QSize>
 
 void showAboutBox(QWidget *parent, const QString &title, const QString &text)
 {
@@ -13,8 +13,9 @@ void showAboutBox(QWidget *parent, const QString &title, const QString &text)
     box.setWindowTitle(title);
     box.setTextFormat(Qt::PlainText);
     box.setText(text);
-    const int iconSize{box.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &box)};
-    box.setIconPixmap(box.windowIcon().pixmap(iconSize));
+    constexpr QSize largest{64, 64};
+    const QIcon icon{box.windowIcon()};
+    box.setIconPixmap(icon.pixmap(icon.actualSize(largest)));
     box.addButton(QMessageBox::Ok);
     box.exec();
 }
