@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // The process entry: announces itself, brings the device SDK up and runs the main window.
+#include "appearance.h"
 #include "fittedwindow.h"
 #include "mainwindow.h"
 #include "operatorinput.h"
@@ -38,6 +39,7 @@ int main(int argc, char *argv[])
     followDesktopScaling();
     const QApplication application{argc, argv};
     OperatorInput operatorInput;
+    setAppearance();
     MainWindow window{nullptr};
     window.setSequenceObserver([&operatorInput](bool running) { operatorInput.sequenceRuns(running); });
     const auto fitted = fitToScreen(window);

@@ -1,0 +1,8 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// How all windows of the program look, whatever the desktop's theme.
+#pragma once
+
+/// Gives the application the style's own light colours, the mark of pressed buttons, and its icon. To be
+/// called with an application object and before its first window.
+void setAppearance();
