@@ -85,6 +85,14 @@ void FittedWindow::closeEvent(QCloseEvent *event)
     event->setAccepted(content.close());
 }
 
+void FittedWindow::changeEvent(QEvent *event)
+{
+    QScrollArea::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange) {
+        placeWithRealFrame();
+    }
+}
+
 void FittedWindow::moveEvent(QMoveEvent *event)
 {
     QScrollArea::moveEvent(event);
