@@ -142,6 +142,8 @@ private slots:
     void showWhatTheyPromise();
     void everyStoryHasItsScenario();
     void everyScenarioIsListed();
+    void anUnknownNameIsAnsweredWithTheNearest_data();
+    void anUnknownNameIsAnsweredWithTheNearest();
 };
 
 void ShippedScenariosTest::showWhatTheyPromise_data()
@@ -205,6 +207,38 @@ void ShippedScenariosTest::everyScenarioIsListed()
     QVERIFY(run.waitForFinished());
     QVERIFY(run.readAllStandardError().startsWith("scripts/run: there is no option --scenarois\n"));
     QCOMPARE(run.exitCode(), 2);
+}
+
+void ShippedScenariosTest::anUnknownNameIsAnsweredWithTheNearest_data()
+{
+    QTest::addColumn<QString>("asked");
+    QTest::addColumn<QString>("nearest");
+    QTest::newRow("a letter left out") << "slow-lnk"
+                                       << "slow-link";
+    QTest::newRow("a letter replaced") << "garbige"
+                                       << "garbage";
+    QTest::newRow("another case") << "Default"
+                                  << "default";
+    QTest::newRow("a part of the name") << "cable"
+                                        << "cable-pulled";
+    QTest::newRow("an end of its own") << "warming-up-slowly"
+                                       << "warming-up";
+}
+
+void ShippedScenariosTest::anUnknownNameIsAnsweredWithTheNearest()
+{
+    QFETCH(QString, asked);
+    QFETCH(QString, nearest);
+    QProcess run;
+    run.start(QStringLiteral(RUN_SCRIPT), {QStringLiteral("--scenario"), asked});
+    QVERIFY(run.waitForFinished());
+    QCOMPARE(run.exitCode(), 2);
+    // Neither a build nor the program, which would write there, was started.
+    QCOMPARE(QString::fromUtf8(run.readAllStandardOutput()), QString{});
+    QCOMPARE(QString::fromUtf8(run.readAllStandardError()),
+             QStringLiteral("scripts/run: there is no scenario %1; did you mean %2?\n"
+                            "scripts/run: --scenarios lists the names.\n")
+                 .arg(asked, nearest));
 }
 
 PILOTEL_TEST_CLASS(ShippedScenariosTest)
