@@ -51,6 +51,9 @@ void CloseWhenShown::finish()
 {
     report(reportVariable,
            {QStringLiteral("window ") + window->metaObject()->className() + ' ' + window->windowTitle()});
+    if (const auto *const box = qobject_cast<QMessageBox *>(window)) {
+        report(reportVariable, {"text " + box->text()});
+    }
     if (qEnvironmentVariableIsSet("PILOTEL_TEST_SCAN")) {
         scan();
     }

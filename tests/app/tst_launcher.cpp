@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// Starting the program from an icon: with its device library, without it, and with one that is not whole.
+#include "program.h"
+#include "testclass.h"
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+
+class LauncherTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void startsTheProgram();
+    void tellsThatTheLibraryIsMissing();
+    void tellsThatTheLibraryIsAnotherOne();
+
+private:
+    QStringList report() const { return linesOf(fileName).filter(QRegularExpression{"^(window|text) "}); }
+
+    QTemporaryDir directory;
+    QString fileName;
+    QProcessEnvironment environment;
+};
+
+void LauncherTest::init()
+{
+    fileName = directory.filePath(QString{"report of %1"}.arg(QTest::currentTestFunction()));
+    environment = programEnvironment();
+    environment.insert("PILOTEL_TEST_REPORT", fileName);
+    environment.insert("QT_SCALE_FACTOR", "0.25"); // Room for the window's first size.
+}
+
+void LauncherTest::startsTheProgram()
+{
+    const Outcome outcome{run(LAUNCHER, {"-plugin", "closewhenshown"}, environment)};
+    QVERIFY2(outcome.exited, qPrintable(outcome.errors));
+    QCOMPARE(outcome.status, 0);
+    QVERIFY(outcome.output.startsWith("Start QT veltrix command application\n"));
+    QCOMPARE(report(), QStringList{"window MainWindow Veltrix BU Pilotel"});
+}
+
+void LauncherTest::tellsThatTheLibraryIsMissing()
+{
+    const QString alone{directory.filePath("pilotel-start")};
+    QVERIFY(QFile::copy(LAUNCHER, alone));
+    QVERIFY(QFile::copy(PROGRAM, directory.filePath("pilotel")));
+    const Outcome outcome{run(alone, {"-plugin", "closewhenshown"}, environment)};
+    QVERIFY2(outcome.exited, qPrintable(outcome.errors));
+    QCOMPARE(outcome.status, 1);
+    QCOMPARE(outcome.output, QString{});
+    const QStringList box{
+        "window QMessageBox Pilotel",
+        "text Pilotel cannot start: the camera's library libveltrix.sdk.so was not found. Put it into the folder " +
+            directory.path() + '.',
+    };
+    QCOMPARE(report(), box);
+}
+
+void LauncherTest::tellsThatTheLibraryIsAnotherOne()
+{
+    environment.insert("LD_LIBRARY_PATH", SDK_VARIANTS_DIRECTORY "/incomplete");
+    const Outcome outcome{run(LAUNCHER, {"-plugin", "closewhenshown"}, environment)};
+    QVERIFY2(outcome.exited, qPrintable(outcome.errors));
+    QCOMPARE(outcome.status, 1);
+    const QStringList box{
+        "window QMessageBox Pilotel",
+        "text Pilotel cannot start: libveltrix.sdk.so is not a delivery that this program was made for. Ask the maker "
+        "for the one that belongs to the camera.",
+    };
+    QCOMPARE(report(), box);
+}
+
+PILOTEL_TEST_CLASS(LauncherTest)
+#include "tst_launcher.moc"
