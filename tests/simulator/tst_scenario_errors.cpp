@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // What is said of a scenario file that cannot be played.
 #include "scenariofaults.h"
+#include "scenarios/limits.h"
 #include "scenarios/scenarioreader.h"
 #include "testclass.h"
 

@@ -7,12 +7,12 @@
 #include "faults/effects.h"
 #include "operations/operations.h"
 #include "output/wording.h"
+#include "scenarios/limits.h"
 #include "units/unitnames.h"
 #include "veltrix_simulator/simulator.h"
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdint>
 #include <limits>
 #include <optional>
 #include <utility>
@@ -21,11 +21,6 @@ namespace veltrix_simulator
 {
 namespace
 {
-
-constexpr std::size_t mostPatterns{64};
-constexpr std::int64_t lastCall{1'000'000'000};
-constexpr double longestDelay{10'000};
-constexpr double largestNumber{1e300};
 
 /// The keys of an effect belong to no other one.
 const std::vector<Belonging> &belongings()
@@ -174,7 +169,7 @@ constexpr Setting<FaultRule> faultSettings[]{
      }},
     {"delayMilliseconds",
      [](const Entry &entry, FaultRule &rule) {
-         rule.delay = entry.milliseconds(0, longestDelay);
+         rule.delay = entry.milliseconds(0, longestPart);
      }},
 };
 

@@ -5,6 +5,7 @@
 
 #include "faults/faultrule.h"
 #include "output/wording.h"
+#include "scenarios/limits.h"
 #include "scenarios/scenarioreader.h"
 #include "time/life.h"
 #include "veltrix_simulator/simulator.h"

@@ -7,6 +7,7 @@
 #include "output/wording.h"
 #include "scenarios/entry.h"
 #include "scenarios/faultreader.h"
+#include "scenarios/limits.h"
 #include "scenarios/statereader.h"
 #include "scenarios/tomltext.h"
 #include "time/life.h"
@@ -28,16 +29,6 @@ namespace veltrix_simulator
 {
 namespace
 {
-
-// Each dot in a key is one more level, so the length of a line limits the depth.
-constexpr std::size_t longestLine{512};
-constexpr std::size_t mostEntries{256};
-
-// All that a call waits for together stays below a minute.
-constexpr double longestPart{10'000};
-constexpr double longestOpening{60'000};
-constexpr double oneDay{86'400'000};
-constexpr double tenYears{315'360'000};
 
 constexpr std::string_view fixedLink{"fixed"};
 constexpr std::string_view serialLink{"serial"};
@@ -152,7 +143,7 @@ constexpr Setting<Drift> driftSettings[]{
      }},
     {"end",
      [](const Entry &entry, Drift &drift) {
-         drift.end = entry.number(-1e300, 1e300);
+         drift.end = entry.number(-largestNumber, largestNumber);
      }},
     {"halfTimeSeconds",
      [](const Entry &entry, Drift &drift) {
@@ -293,15 +284,17 @@ void refuseLifeWithoutTime(const Entry &file, const Scenario &scenario)
 std::optional<ScenarioError> sizeError(std::string_view text, const std::string &fileName)
 {
     if (text.size() > largestScenario) {
-        return ScenarioError{fileName, 1, 1, {}, "a scenario is not larger than 256 KiB"};
+        const std::string size = std::to_string(largestScenario / bytesOfKibibyte) + " KiB";
+        return ScenarioError{fileName, 1, 1, {}, "a scenario is not larger than " + size};
     }
     std::size_t line{1};
     std::size_t begin{0};
     while (begin < text.size()) {
         const std::size_t end{std::min(text.find('\n', begin), text.size())};
         if (end - begin > longestLine) {
+            const std::string length = std::to_string(longestLine) + " bytes";
             return ScenarioError{
-                fileName, line, longestLine + 1, {}, "a line is not longer than 512 bytes; break it up"};
+                fileName, line, longestLine + 1, {}, "a line is not longer than " + length + "; break it up"};
         }
         begin = end + 1;
         ++line;

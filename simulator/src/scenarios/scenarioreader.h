@@ -14,9 +14,6 @@
 namespace veltrix_simulator
 {
 
-/// The bytes that a scenario file may have.
-constexpr std::size_t largestScenario{std::size_t{256} * 1024};
-
 /// The first thing in a scenario file that cannot be played.
 struct ScenarioError
 {
