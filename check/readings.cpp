@@ -3,6 +3,8 @@
 // What the check reads and tries, beside what is known of every setting.
 #include "readings.h"
 
+#include "veltrix_sdk/numbers.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -10,6 +12,8 @@
 
 using device_settings::Device;
 using device_settings::UsedOn;
+using veltrix_sdk::sensorColumns;
+using veltrix_sdk::sensorRows;
 
 namespace sdk_check
 {
@@ -32,6 +36,9 @@ Setting startReading()
     return setting;
 }
 
+/// Pixels that the window's controls of a region leave free at each edge of the sensor.
+constexpr std::uint32_t regionMargin{5};
+
 /// A number for which the ends of its range are not what is tried.
 struct Tried
 {
@@ -48,10 +55,10 @@ const std::vector<Tried> &specialTries()
         // Near what a picture needs, unlike the ends of the range.
         {"getWarp", "", {2, 1}},
         // In the range of the window's controls, whose ends keep the first corner before the second.
-        {"getRoiX1", "", {6, 5}},
-        {"getRoiY1", "", {6, 5}},
-        {"getRoiX2", "", {634, 635}},
-        {"getRoiY2", "", {474, 475}},
+        {"getRoiX1", "", {regionMargin + 1, regionMargin}},
+        {"getRoiY1", "", {regionMargin + 1, regionMargin}},
+        {"getRoiX2", "", {sensorColumns - regionMargin - 1, sensorColumns - regionMargin}},
+        {"getRoiY2", "", {sensorRows - regionMargin - 1, sensorRows - regionMargin}},
     };
     return tries;
 }
