@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Own time of declaring a line of bad pixels, beside its parts and beside the serial link.
 #include "mainwindow.h"
+#include "veltrix_sdk/numbers.h"
 #include "veltrix_sdk/sdk.h"
 #include "veltrix_simulator/simulator.h"
 
@@ -18,7 +19,7 @@
 namespace
 {
 
-constexpr int linePixels{640};
+constexpr int linePixels{veltrix_sdk::sensorColumns};
 constexpr int repetitions{20};
 // A command and its answer, as short as a framed command can be, with a start and a stop bit for each byte.
 constexpr double bytesPerCommand{2 * 12.0};
@@ -88,8 +89,8 @@ int main(int argc, char *argv[])
     out.setRealNumberNotation(QTextStream::FixedNotation);
     out.setRealNumberPrecision(3);
     out << "a line of bad pixels, own time       " << whole << " ms\n"
-        << "the 640 calls alone                  " << calls << " ms\n"
-        << "appending 640 lines to a plain view  " << lines << " ms\n"
+        << "the " << linePixels << " calls alone                  " << calls << " ms\n"
+        << "appending " << linePixels << " lines to a plain view  " << lines << " ms\n"
         << "own time / (calls + lines)           " << whole / (calls + lines) << '\n'
         << "the link at 115200 baud, 24 bytes    " << link << " ms\n"
         << "own time / the link's                " << whole / link << '\n';
