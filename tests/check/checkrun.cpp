@@ -30,9 +30,14 @@ QStringList after(const QStringList &lines, const QString &beginning)
 
 } // namespace
 
-QStringList CheckRun::notOk() const
+QStringList notOkLines(const QStringList &lines)
 {
     return after(lines, "not ok ");
+}
+
+QStringList CheckRun::notOk() const
+{
+    return notOkLines(lines);
 }
 
 QStringList CheckRun::skipped() const

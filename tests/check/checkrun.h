@@ -25,6 +25,9 @@ constexpr std::int64_t number(std::int64_t value)
     return value;
 }
 
+/// The lines that begin with "not ok", without that.
+QStringList notOkLines(const QStringList &lines);
+
 /// What a run of the check said and how it ended.
 struct CheckRun
 {
@@ -32,8 +35,7 @@ struct CheckRun
     QString output;
     QStringList lines;
 
-    /// The lines that begin with "not ok", without that.
-    QStringList notOk() const;
+    QStringList notOk() const; ///< Its notOkLines().
     /// The lines that begin with "skip", without that.
     QStringList skipped() const;
 };

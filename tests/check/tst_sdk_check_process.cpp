@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // The check of an SDK library as a process: arguments, exit status, signals, and with which library it
 // starts.
+#include "checkrun.h"
 #include "program.h"
 #include "scenarioruns.h"
 #include "testclass.h"
@@ -16,7 +17,6 @@
 #include <QObject>
 #include <QProcess>
 #include <QProcessEnvironment>
-#include <QRegularExpression>
 #include <QSerialPortInfo>
 #include <QString>
 #include <QStringList>
@@ -31,14 +31,6 @@
 
 namespace
 {
-
-/// The lines that begin with "not ok", without that.
-QStringList notOkLines(const QString &output)
-{
-    QStringList lines{output.split('\n').filter(QRegularExpression{"^not ok "})};
-    lines.replaceInStrings(QRegularExpression{"^not ok "}, "");
-    return lines;
-}
 
 QStringList scannedPorts()
 {
@@ -143,7 +135,7 @@ void SdkCheckProcessTest::findsNothingWrong()
     }
     const Outcome outcome{run(PROGRAM, QStringList{"--port", "SIM1"} + arguments, environment)};
     QVERIFY2(outcome.exited, qPrintable(outcome.errors));
-    QCOMPARE(notOkLines(outcome.output), QStringList{});
+    QCOMPARE(notOkLines(outcome.output.split('\n')), QStringList{});
     QCOMPARE(outcome.status, 0);
     QCOMPARE(outcome.errors, QString{});
 }
@@ -164,7 +156,7 @@ void SdkCheckProcessTest::namesTheFaultOfAScenario()
     environment.insert("VELTRIX_SIMULATOR_SCENARIO", expected.scenario);
     const Outcome outcome{run(PROGRAM, QStringList{"--port", "SIM1"} + expected.arguments, environment)};
     QVERIFY2(outcome.exited, qPrintable(outcome.errors));
-    QCOMPARE(notOkLines(outcome.output), expected.notOk);
+    QCOMPARE(notOkLines(outcome.output.split('\n')), expected.notOk);
     QCOMPARE(outcome.status, expected.notOk.isEmpty() ? 0 : 1);
     QCOMPARE(outcome.errors.split('\n', Qt::SkipEmptyParts), expected.errors);
 }
@@ -261,7 +253,8 @@ void SdkCheckProcessTest::namesAPortThatDoesNotOpen()
 {
     const Outcome outcome{run(PROGRAM, {"--port", "COM\n9"}, programEnvironment())};
     QCOMPARE(outcome.status, 1);
-    QCOMPARE(notOkLines(outcome.output), QStringList{R"(openDevice: answers null for the port COM\n9)"});
+    QCOMPARE(notOkLines(outcome.output.split('\n')),
+             QStringList{R"(openDevice: answers null for the port COM\n9)"});
     QVERIFY(outcome.output.contains("\nok     releaseDeviceManager: called\n"));
     QVERIFY(!outcome.output.contains("closeDevice"));
 }
