@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// Rules: when they hit, and what chance has to do with it.
+// Fault rules: when they hit, and what chance has to do with it.
 #include "scenariocamera.h"
 #include "testclass.h"
 
@@ -52,7 +52,7 @@ Scenario byChance(double probability, std::uint64_t seed)
 
 } // namespace
 
-class SimulatorRulesTest : public QObject
+class SimulatorFaultRulesTest : public QObject
 {
     Q_OBJECT
 
@@ -76,7 +76,7 @@ private slots:
     void wrongRuleIsNamed();
 };
 
-void SimulatorRulesTest::hitsTheCallsItIsFor_data()
+void SimulatorFaultRulesTest::hitsTheCallsItIsFor_data()
 {
     QTest::addColumn<Change>("change");
     QTest::addColumn<QString>("results");
@@ -124,7 +124,7 @@ void SimulatorRulesTest::hitsTheCallsItIsFor_data()
         "after opening", [](FaultRule &rule) { rule.after = OperationId::openDevice; }, "ffffffff");
 }
 
-void SimulatorRulesTest::hitsTheCallsItIsFor()
+void SimulatorFaultRulesTest::hitsTheCallsItIsFor()
 {
     QFETCH(const Change, change);
     QFETCH(const QString, results);
@@ -132,7 +132,7 @@ void SimulatorRulesTest::hitsTheCallsItIsFor()
     QCOMPARE(polarities(c, 8), results);
 }
 
-void SimulatorRulesTest::hitsOneUnit()
+void SimulatorFaultRulesTest::hitsOneUnit()
 {
     const ScenarioCamera c{inverted(refusing(OperationId::getPolarity, [](FaultRule &rule) {
         rule.target = 1;
@@ -145,7 +145,7 @@ void SimulatorRulesTest::hitsOneUnit()
     QCOMPARE(polarities(c, 1), QStringLiteral("f"));
 }
 
-void SimulatorRulesTest::hitsAnArgumentInARange_data()
+void SimulatorFaultRulesTest::hitsAnArgumentInARange_data()
 {
     QTest::addColumn<QString>("operation");
     QTest::addColumn<int>("place");
@@ -170,7 +170,7 @@ void SimulatorRulesTest::hitsAnArgumentInARange_data()
     row("another stream", "getWarp", 0, 0, 1, false);
 }
 
-void SimulatorRulesTest::hitsAnArgumentInARange()
+void SimulatorFaultRulesTest::hitsAnArgumentInARange()
 {
     QFETCH(const QString, operation);
     QFETCH(const int, place);
@@ -195,7 +195,7 @@ void SimulatorRulesTest::hitsAnArgumentInARange()
     QCOMPARE(c.simulation.path.activeFaults().unfired().empty(), hits);
 }
 
-void SimulatorRulesTest::waitsForAnotherOperation()
+void SimulatorFaultRulesTest::waitsForAnotherOperation()
 {
     const ScenarioCamera c{inverted(refusing(OperationId::getPolarity, [](FaultRule &rule) {
         rule.after = OperationId::setVideoMode;
@@ -209,7 +209,7 @@ void SimulatorRulesTest::waitsForAnotherOperation()
     QCOMPARE(polarities(c, 3), QStringLiteral("TTT"));
 }
 
-void SimulatorRulesTest::callsThatDoNotFitAreNotCounted()
+void SimulatorFaultRulesTest::callsThatDoNotFitAreNotCounted()
 {
     const ScenarioCamera c{refusing(OperationId::setGamma, [](FaultRule &rule) {
         rule.argument = ArgumentRange{0, 100000, 160000};
@@ -222,7 +222,7 @@ void SimulatorRulesTest::callsThatDoNotFitAreNotCounted()
     QVERIFY(!c.device.setGamma(120000));
 }
 
-void SimulatorRulesTest::lastRuleWins()
+void SimulatorFaultRulesTest::lastRuleWins()
 {
     Scenario scenario = scenarioWith(OperationId::getColorLut, Effect::Answer);
     scenario.faults.front().answer = {std::int64_t{5}};
@@ -235,7 +235,7 @@ void SimulatorRulesTest::lastRuleWins()
     QCOMPARE(int{c.device.getColorLut()}, 6);
 }
 
-void SimulatorRulesTest::chanceIsThatOfTheSeed_data()
+void SimulatorFaultRulesTest::chanceIsThatOfTheSeed_data()
 {
     QTest::addColumn<qulonglong>("seed");
     QTest::addColumn<double>("probability");
@@ -249,7 +249,7 @@ void SimulatorRulesTest::chanceIsThatOfTheSeed_data()
     row("less often", 0, 0.2, "TTTTTTTTTTTTTfTTTTTT");
 }
 
-void SimulatorRulesTest::chanceIsThatOfTheSeed()
+void SimulatorFaultRulesTest::chanceIsThatOfTheSeed()
 {
     QFETCH(const qulonglong, seed);
     QFETCH(const double, probability);
@@ -261,14 +261,14 @@ void SimulatorRulesTest::chanceIsThatOfTheSeed()
     QCOMPARE(polarities(c, 20), results);
 }
 
-void SimulatorRulesTest::chanceIsAsGreatAsItIsSaid()
+void SimulatorFaultRulesTest::chanceIsAsGreatAsItIsSaid()
 {
     const ScenarioCamera c{byChance(0.25, 7)};
     const auto hits = polarities(c, 4000).count('f');
     QVERIFY2(hits > 900 && hits < 1100, qPrintable(QString::number(hits)));
 }
 
-void SimulatorRulesTest::anotherRuleDoesNotShiftChance()
+void SimulatorFaultRulesTest::anotherRuleDoesNotShiftChance()
 {
     Scenario scenario = byChance(0.5, 3);
     const QString alone = polarities(ScenarioCamera{scenario}, 40);
@@ -284,7 +284,7 @@ void SimulatorRulesTest::anotherRuleDoesNotShiftChance()
     QCOMPARE(results, alone);
 }
 
-void SimulatorRulesTest::equalRulesDrawForThemselves()
+void SimulatorFaultRulesTest::equalRulesDrawForThemselves()
 {
     Scenario scenario = byChance(0.5, 3);
     const auto alone = polarities(ScenarioCamera{scenario}, 400).count('f');
@@ -294,7 +294,7 @@ void SimulatorRulesTest::equalRulesDrawForThemselves()
 }
 
 // A scenario is shared with its seed, so the draws are a part of its meaning.
-void SimulatorRulesTest::randomNumbersAreThoseOfEveryMachine()
+void SimulatorFaultRulesTest::randomNumbersAreThoseOfEveryMachine()
 {
     Random unnamed{0, ""};
     QCOMPARE(unnamed.bits(), std::uint64_t{0xE220A8397B1DCDAF});
@@ -307,7 +307,7 @@ void SimulatorRulesTest::randomNumbersAreThoseOfEveryMachine()
     QCOMPARE(link.below(1), std::uint64_t{0});
 }
 
-void SimulatorRulesTest::rulesThatNeverHitAreRemembered()
+void SimulatorFaultRulesTest::rulesThatNeverHitAreRemembered()
 {
     Scenario scenario = scenarioWith(OperationId::setGamma, Effect::Refuse);
     scenario.faults.push_back(scenario.faults.front());
@@ -330,7 +330,7 @@ void SimulatorRulesTest::rulesThatNeverHitAreRemembered()
     QCOMPARE(unfired(), std::vector<std::string>{});
 }
 
-void SimulatorRulesTest::rulesThatAreOverruledNeverHit()
+void SimulatorFaultRulesTest::rulesThatAreOverruledNeverHit()
 {
     Scenario scenario = scenarioWith(OperationId::setGamma, Effect::Refuse);
     scenario.faults.push_back(scenario.faults.front());
@@ -340,7 +340,7 @@ void SimulatorRulesTest::rulesThatAreOverruledNeverHit()
     QCOMPARE(c.simulation.path.activeFaults().unfired(), std::vector<std::string>{"test.toml:1"});
 }
 
-void SimulatorRulesTest::wrongRuleIsNamed()
+void SimulatorFaultRulesTest::wrongRuleIsNamed()
 {
     const auto refusal = [](const Scenario &scenario) {
         try {
@@ -357,5 +357,5 @@ void SimulatorRulesTest::wrongRuleIsNamed()
     QVERIFY(simulation().path.activeFaults().isEmpty());
 }
 
-PILOTEL_TEST_CLASS(SimulatorRulesTest)
-#include "tst_simulator_rules.moc"
+PILOTEL_TEST_CLASS(SimulatorFaultRulesTest)
+#include "tst_simulator_fault_rules.moc"
