@@ -41,7 +41,7 @@ const std::vector<Belonging> &belongings()
 
 std::size_t readCall(const Entry &entry)
 {
-    return static_cast<std::size_t>(entry.integer(1, lastCall));
+    return static_cast<std::size_t>(entry.integer(1, lastCallNumber));
 }
 
 constexpr Setting<ArgumentRange> argumentSettings[]{

@@ -19,7 +19,7 @@ inline constexpr std::size_t mostEntries{256};
 /// Operations that a fault names.
 inline constexpr std::size_t mostPatterns{64};
 /// Counted from 1.
-inline constexpr std::int64_t lastCall{1'000'000'000};
+inline constexpr std::int64_t lastCallNumber{1'000'000'000};
 
 /// Either way from 0.
 inline constexpr double largestNumber{1e300};
