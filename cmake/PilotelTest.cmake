@@ -9,8 +9,9 @@ include_guard(GLOBAL)
 # A program of several test classes. The entry tst_bad_pixels runs the class that tst_bad_pixels.cpp registers; an entry
 # tst_torture.settings runs one function of a class, so that several processors share a long one. Every entry is a
 # process of its own, off screen, in Fusion style, in a working directory of its own. With WINDOW the tests get a
-# QApplication, else a QCoreApplication. SOURCES are what the tests share. With OPTIMISED they are compiled as the
-# program is; else less optimised, since most tests run for moments and take longer to compile.
+# QApplication, else a QCoreApplication. SOURCES are what the tests share. A build with the sanitizers does not optimise
+# them, since most tests run for moments and take longer to compile; with OPTIMISED it does, as every build but a debug
+# one does.
 #
 # One more entry, <program>.entries, holds the entries against what the program has to run.
 function(pilotel_add_tests program)
@@ -29,10 +30,10 @@ function(pilotel_add_tests program)
     set_target_properties(${program} PROPERTIES AUTOMOC ON)
     target_link_libraries(${program} PRIVATE ${TEST_LIBRARIES} ${runner} Qt5::Test pilotel::warnings)
     if(NOT MSVC AND NOT TEST_OPTIMISED)
-        target_compile_options(${program} PRIVATE $<$<CONFIG:Release>:-O1> $<$<CONFIG:RelWithDebInfo>:-O0>)
+        target_compile_options(${program} PRIVATE $<$<CONFIG:RelWithDebInfo>:-O0>)
     endif()
-    # Qt's headers are half of what a test compiles; six tests together read them once.
-    set_target_properties(${program} PROPERTIES UNITY_BUILD ${PILOTEL_UNITY_TESTS} UNITY_BUILD_BATCH_SIZE 6)
+    # Qt's headers are half of what a test compiles; several tests together read them once.
+    set_target_properties(${program} PROPERTIES UNITY_BUILD ${PILOTEL_UNITY_TESTS})
 
     foreach(entry IN LISTS TEST_ENTRIES)
         string(REPLACE "." ";" class_and_function ${entry})
