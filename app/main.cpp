@@ -32,7 +32,7 @@ int main(int argc, char *argv[])
     SDKLogger(severity_trace).GetILogger() << "QT Built in " << buildKind;
     std::cout << "QT Built in " << buildKind << std::endl;
 
-    // Part of what the program prints in every build, whatever the line says.
+    // In every build, whatever the line says: others read standard output and know it to the letter.
     const QString testLine{"Test log in debug"};
     std::cout << testLine.toUtf8().constData() << std::endl;
 

@@ -79,7 +79,8 @@ void MainWindow::readZoom(int selector)
         appendLog(joinText(stream, " X zoom center = ", zoom.xCenter));
         appendLog(joinText(stream, " Y zoom center = ", zoom.yCenter));
     };
-    // The method goes to the infrared side's box on both paths.
+    // The method goes to the infrared side's box on both paths. That box sends a zoom when it changes, so the
+    // device would notice if the fusion side's box were filled instead.
     if (selector == infraredZoom) {
         showNumber(*ui->factorZoomEdit, static_cast<double>(zoom.factor));
         ui->methodZoomEdit->setCurrentIndex(zoom.method);

@@ -201,8 +201,8 @@ void MainWindow::readEdgeCorrection()
     ui->EdgeCorrectionCB->setCurrentIndex(edge.type);
     SharpeningUserValueChanged(edge.gain);
     SharpeningTHValueChanged(edge.firstThreshold);
-    // The first threshold of the log is derived from the second one; the device's own first threshold is
-    // shown by the slider alone.
+    // The first threshold of the log is derived from the second one, as readers of the log know it; the
+    // device's own first threshold is shown by the slider alone.
     appendLog(joinText(
         "Correction type = ", +edge.type, "\nCorrection gain = ", edge.gain,
         "\nFirst threshold = ", static_cast<std::int64_t>(edge.secondThreshold) - edgeThresholdDistance,

@@ -31,7 +31,7 @@ void MainWindow::ResetParamsUser()
     resetNumbers(SequencePlace::Gamma, defaults);
     resetNumbers(SequencePlace::Clhe, defaults);
     ui->sharpeningGainSlider->setValue(roundToInt(defaults.getDefaultSharpeningGain()));
-    // The expert values in an order of their own.
+    // Not in the order of a read: the library sees in which order it is asked for the defaults.
     for (const auto slider : {&Ui_MainWindow::gfidSlider, &Ui_MainWindow::gskSlider,
                               &Ui_MainWindow::tintSlider, &Ui_MainWindow::gmsSlider}) {
         resetNumber(pairOf(slider), defaults);
@@ -41,7 +41,7 @@ void MainWindow::ResetParamsUser()
     // with the expert parameters.
     ui->polarityButton->setChecked(defaults.getDefaultPolarity());
     ui->contrastTypeEdit->setCurrentIndex(defaults.getDefaultContrastType());
-    // Whatever the default index says, a reset ends on the region-based algorithm.
+    // Whatever the default index says, a reset ends on the region-based algorithm: operators know it so.
     ui->contrastTypeEdit->setCurrentText(tr("CLHE (ROI)"));
     ui->lutColorEdit->setCurrentIndex(defaults.getDefaultColorLut());
     ui->horizontalFlipButton->setChecked(defaults.getDefaultHorizontalFlip());

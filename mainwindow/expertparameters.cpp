@@ -45,6 +45,8 @@ void MainWindow::ReadKrParamsExpert()
     appendLog("End reading camera expert parameters");
 }
 
+// These three send without a line in the log and without noting the outcome. Readers of the log know it so: a
+// read that changes a box sends too, and its lines stay together.
 void MainWindow::bprControlChanged()
 {
     if (isDeviceOpen()) {

@@ -75,8 +75,9 @@ void MainWindow::removeWhatDoesNotApply(bool expertMode)
         ui->FusionZoomGridLayout->hide();
     }
 
-    // Administration, zoom and bad pixels are hidden in every installation. Their handlers stay connected:
-    // reads fill these controls, and what fills some of them sends.
+    // The administrator's group, the pages Zoom and Bad Pixels, the vertical flip and the MAVLink rate are
+    // hidden in every installation, but from operators only. Their handlers stay connected: reads fill these
+    // controls, and what fills some of them sends.
     ui->FusionAdministratorCommands->hide();
     ui->KR_tab->removeTab(zoomPage);
     ui->verticalFlipCheckBox->hide();

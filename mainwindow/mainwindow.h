@@ -209,7 +209,8 @@ private:
     // Connection
     /// Fetched afresh at each use: the SDK may replace it.
     static veltrix_sdk::ISdkConfiguration &sdkConfiguration();
-    /// Ends an apply: a call on the SDK root whose result nobody uses, but which the SDK sees.
+    /// The last call of an apply and of a change of the MAVLink rate. Nobody uses its result; it stays
+    /// because the SDK sees it.
     static void closeApply();
     bool isDeviceOpen() const;
     void returnDevice();
@@ -269,8 +270,9 @@ private:
     veltrix_sdk::IDeviceControl *device{nullptr};
     veltrix_sdk::IDeviceManager *deviceManager{nullptr};
     std::string portName;
-    QDir currentDir{QString{}};        ///< Nobody reads it; kept on purpose.
-    QSerialPortInfo *selectedPortInfo; ///< Nobody reads it; kept on purpose, until the process ends.
+    // Nobody reads these two; they stay as a part of the state that the window has always had.
+    QDir currentDir{QString{}};
+    QSerialPortInfo *selectedPortInfo; ///< Lives until the process ends.
     QList<QSerialPortInfo> serialPorts;
     std::uint8_t *deviceIdentity; ///< Lives until the process ends: the SDK is given its address.
     SequenceObserver sequenceObserver;

@@ -146,6 +146,8 @@ void MainWindow::finishRegionEdit(int roiNumber, const RegionCoordinate &coordin
             // one would report an edit that nobody made.
             const QSignalBlocker silence{focusWidget()};
             const ClickBehindBox click;
+            // The number is looked up in the translation like the texts around it: one may have it in other
+            // digits.
             showAboutBox(this, tr("ROI"),
                          tr("ROI ") + tr(QByteArray::number(roiNumber)) + tr(coordinate.orderText));
             click.boxClosed();

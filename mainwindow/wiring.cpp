@@ -118,6 +118,7 @@ void MainWindow::wireCheckBoxes()
 
 void MainWindow::wireComboBoxes()
 {
+    // FusionZoomMethod has no handler; it stays because the form is the product's. Configure Zoom sends it.
     constexpr auto indexChanged = QOverload<int>::of(&QComboBox::currentIndexChanged);
     connect(ui->BaudRateConnectCB, indexChanged, this, &MainWindow::ChangeBaudRate);
     connect(ui->VideoOutputCB, indexChanged, this, &MainWindow::videoOutputChanged);
