@@ -50,6 +50,7 @@ struct Tried
 const std::vector<Tried> &specialTries()
 {
     static const std::vector<Tried> tries{
+        // As the program does it, which sends the centre back as it was read.
         {"getZoomConfig", "xCenter", {}},
         {"getZoomConfig", "yCenter", {}},
         // Near what a picture needs, unlike the ends of the range.

@@ -13,7 +13,7 @@
 namespace sdk_check
 {
 
-/// The unit of what is called on no unit.
+/// In the place of a unit's name where no unit is addressed.
 inline const std::string noUnit{};
 
 enum class Outcome

@@ -39,7 +39,7 @@ private:
         Answer first{};
     };
 
-    /// The wrong answers since the last one that said something.
+    /// How many wrong answers in a row were false or zeros, as those of a unit that is gone.
     struct Silence
     {
         std::string from{}; ///< The first of them, with its round.
@@ -49,9 +49,9 @@ private:
     void take(const Setting &row, Seen &before, Answer answer);
     void listen(const Setting &row, const Answer &answer, bool wrong);
     void hearNothingFrom(const std::string &operation);
-    /// How a later answer differs from the first one; empty when it is as good.
+    /// What is wrong with a later answer, compared with the first one; empty when nothing is.
     std::string deviation(const Setting &row, const Answer &first, const Answer &answer) const;
-    /// A fault counts only where the program would meet it.
+    /// Reports a fault: as a failure where the program asks this unit for the value, else as skipped.
     void sayFault(const Setting &row, const std::string &fault);
     void say(Outcome outcome, const Setting &row, const std::string &text);
 

@@ -120,7 +120,7 @@ private:
         return "set to " + text(value) + ", but " + row.get + " answers " + answerText(row, answer);
     }
 
-    /// What the last attempt to put back what was found came to.
+    /// How the last attempt to put back the old value ended.
     struct Restored
     {
         bool acknowledged;

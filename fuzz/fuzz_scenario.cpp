@@ -15,8 +15,7 @@ using namespace veltrix_simulator;
 namespace
 {
 
-/// What takes time is as likely as anything else, and a fuzzer has none: without it everything happens at
-/// once.
+/// Takes all waiting out of a scenario, so that the fuzzer gets through more of them.
 void hurry(Scenario &scenario)
 {
     scenario.link = {};
@@ -75,7 +74,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         return 0;
     }
     auto &scenario = std::get<Scenario>(read);
-    // A memory file is the folder's business, not the parser's.
+    // No memory file: the fuzzer neither reads nor writes in the folder that it runs in.
     scenario.memoryFile.clear();
     hurry(scenario);
     simulation().start(scenario);

@@ -88,7 +88,7 @@ struct SliderPair
     const char *sliderChanged;  ///< Slot that runs when the slider has moved.
     const char *spinBoxChanged; ///< Slot that runs when the spin box holds another number.
     const char *send;           ///< Slot that runs when the edit of either is finished.
-    CameraNumber number{};      ///< Without a place where the number is only a part of a setting.
+    CameraNumber number{};      ///< Its place is None where the number is only a part of a setting.
     ExpertWords words{};        ///< Of an expert value.
 };
 

@@ -21,7 +21,7 @@ struct ConfigurationValue
     Kind kind;
     Allowed allowed;
     std::string meaning;  ///< One line in plain words.
-    std::string quantity; ///< What one is one of, such as "Hz" or "pixels"; empty for a mere number.
+    std::string quantity; ///< What it counts, such as "Hz" or "pixels"; empty for a mere number.
     std::string get;      ///< Name of the operation or of the word.
     bool isOperation;     ///< Else a word.
     std::function<double(veltrix_sdk::ISdkConfiguration &)> read;

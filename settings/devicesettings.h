@@ -47,7 +47,7 @@ struct Field
     Kind kind;
     Allowed allowed;      ///< What the unit answers when all is well, and what it accepts.
     std::string meaning;  ///< One line in plain words.
-    std::string quantity; ///< What one is one of, such as "Hz" or "pixels"; empty for a mere number.
+    std::string quantity; ///< What it counts, such as "Hz" or "pixels"; empty for a mere number.
     bool derived{false};  ///< It is not sent; the device derives it from the others.
     /// It is sent as a whole number although it is read with a fraction.
     bool sentWhole{false};
@@ -116,8 +116,8 @@ RegionFlags readRegionFlags(Device &device);
 /// that counts.
 std::optional<Values> readAll(Device &device, const Setting &setting);
 
-/// The first field that the device would be sent another number of than this, because it is sent as a whole
-/// number and this one has a fraction; nothing when all are sent as they are.
+/// The first field whose value would lose its fraction, because it is sent as a whole number; nothing when
+/// all are sent as they are.
 std::optional<std::size_t> firstFieldSentChanged(const Setting &setting, const Values &values);
 
 /// How writing one number ended.

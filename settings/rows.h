@@ -270,7 +270,7 @@ inline Setting notExamined(Setting setting)
     return setting;
 }
 
-/// What changes by itself.
+/// Marks a value that changes by itself, such as a temperature.
 inline Setting moving(Setting setting)
 {
     setting.steady = false;

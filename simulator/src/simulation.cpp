@@ -37,8 +37,8 @@ Simulation::Simulation()
     }
 }
 
-// Played instead, the default scenario would look like a healthy camera, and the mistake in the file would go
-// unnoticed.
+// The default scenario is not played in its place: it is a healthy camera, and nobody would notice the
+// mistake.
 void Simulation::refuseToOpen(const char *reason)
 {
     log.write(veltrix_sdk::severity_error, reason);

@@ -57,9 +57,9 @@ struct Simulation
 
 private:
     void powerOn(const Scenario &scenario);
-    /// Lets the end of the process tell of the scenario's faults that never happened.
+    /// Arranges that the faults of the scenario that never happened are told when the process ends.
     static void announceUnfired(const Scenario &scenario);
-    /// Says why, once; then the ports are there and no device opens.
+    /// Says once why the scenario cannot be played. Then the ports are listed, and none of them opens.
     void refuseToOpen(const char *reason);
     BadPixelMemory &badPixelsOf(int target);
 };

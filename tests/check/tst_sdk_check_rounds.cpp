@@ -6,6 +6,7 @@
 
 #include <QtTest>
 
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -148,8 +149,9 @@ void SdkCheckRoundsTest::saysSinceWhenAUnitIsSilent()
 
 void SdkCheckRoundsTest::takesRegionsThatAreOffForNoSilence()
 {
-    // From the first read of the camera in the second round on; the first round ended with twelve zeros.
-    veltrix_simulator::Simulator::instance().addFault({"", 175});
+    // The first round ends with the zeros of three regions that are off, which are no silence.
+    constexpr std::size_t firstCameraReadOfSecondRound{175};
+    veltrix_simulator::Simulator::instance().addFault({"", firstCameraReadOfSecondRound});
     const CheckRun run = runCheck(twoRounds);
     QVERIFY(run.lines.contains("ok     getRoiY2(3) (camera): 0"));
     QCOMPARE(run.notOk().last(),

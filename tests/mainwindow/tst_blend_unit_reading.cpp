@@ -209,7 +209,7 @@ void BlendUnitReadingTest::refusedOperationIsToldAndTheReadGoesOn_data()
         QString bits{"0xbeef"};
         bool lastCommandOk{true};
     };
-    // The last result that counts is that of the starting mode, the last but one of those that are kept.
+    // wasLastCommandOk() tells of getStartingMode: nothing that is read after it notes its outcome.
     const Row rows[]{
         {"startReading", {}, {}},
         {"getSerialNumber", {"Serial number = 4000000001"}, {"Serial number = 0"}},

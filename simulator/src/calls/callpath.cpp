@@ -157,7 +157,7 @@ void CallPath::fillInAnswer(const PlannedEffect &planned, Parameters parameters,
 void CallPath::keepInJournal(OperationId operation, int target, Missing missing, Parameters parameters,
                              const ResultPlace &result)
 {
-    // A program that runs for days never takes its journal.
+    // Nobody clears the journal of a program that runs for days.
     if (static_cast<std::ptrdiff_t>(calls.size()) >= journalCapacity) {
         calls.erase(calls.begin(), calls.begin() + journalCapacity / 2);
     }

@@ -68,8 +68,8 @@ public:
                                                 const Function &work)
     {
         using Result = std::invoke_result_t<const Function &>;
-        // The short way of a call that nothing can happen to, so that a program measured on the simulator is
-        // measured alone. Reads mostly have no parameters to prepare.
+        // A call that nothing can happen to does its work and nothing else: the time of a program that is
+        // measured on the simulator is then its own. Most reads have no parameters to prepare.
         if (goesTheShortWay() && (parameters.size() == 0 || prepare(parameters, false))) {
             return work();
         }
@@ -111,7 +111,7 @@ private:
                deviceAnswers();
     }
 
-    /// Whether the device that is open takes part in what goes over the link.
+    /// Whether the open device answers: its cable is in, and it is not silent.
     bool deviceAnswers() const { return !state.cableOut && !state.silent; }
 
     /// Lets the time of a device call pass. Without a cable the driver gives up at once.
@@ -123,10 +123,11 @@ private:
     }
     void passTime();
 
-    /// What the faults make of a call.
+    /// What a fault does to the call; nothing when none hits it. A cable that the fault pulls is out at once.
     std::optional<PlannedEffect> plan(OperationId operation, Parameters parameters);
 
-    /// Does what a fault makes of the work.
+    /// A call that a fault hits: fills in the fault's answer, or does the work while the fault changes the
+    /// state, or does nothing.
     void workUnder(const PlannedEffect &planned, Parameters parameters, const ResultPlace &result,
                    const Work &work);
     /// Puts the values of an effect's answer into the result and into what the call fills in.
@@ -137,7 +138,7 @@ private:
     void writeToTrace(OperationId operation, int target, Missing missing, Parameters parameters,
                       const ResultPlace &result, const CallTime &begun);
 
-    /// A refused text is empty, not null: its callers read it without asking.
+    /// A refused text is empty, not null: callers do not check for null.
     template <typename Result>
     static Result zero()
     {
@@ -157,8 +158,8 @@ private:
     const Objects objects;
     LinkTime link{{}, 0};
     UnitTime unitTime{{}};
-    std::string line;     ///< Text of the latest call; kept for its storage.
-    std::string heldText; ///< Text that the latest answer handed out.
+    std::string line;     ///< Text of the latest call; a member, so that its memory is used again.
+    std::string heldText; ///< A fault's answer that is a text; its caller points to it until the next one.
 };
 
 } // namespace veltrix_simulator

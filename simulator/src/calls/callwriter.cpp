@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// What of a call is written, in which order, whatever the form.
+// Which parts of a call are written and in which order, in the journal and in the trace alike.
 #include "calls/callwriter.h"
 
 #include "values/value.h"

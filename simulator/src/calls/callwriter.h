@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// What of a call is written, in which order, whatever the form.
+// Which parts of a call are written and in which order, in the journal and in the trace alike.
 #pragma once
 
 #include "calls/numbersat.h"
@@ -30,9 +30,9 @@ inline Number plainNumberAt(const ReadNumbers &numbers)
     return {member.kind, numbers.at(member)};
 }
 
-/// Hands a form what there is to write of a call: what its parameters bring, its result, and what it filled
-/// in. A form takes nullptr for what is missing, a Number, a text, an ObjectName, or ReadNumbers for a
-/// record.
+/// Goes through a call: what its parameters bring, its result, and what it filled in. The form, that of the
+/// journal or of the trace, writes each of them. It is given nullptr for what is missing, a Number, a text,
+/// an ObjectName, or ReadNumbers for a record.
 template <typename Form>
 class CallWriter
 {

@@ -16,8 +16,8 @@ namespace veltrix_simulator
 template <Kind kind>
 inline constexpr Member plainNumber{{}, kind, 0, sizeof(TypeOf<kind>), noRecord, {}};
 
-/// A number or the members of a record in memory, which may be missing, to be read. Every number of the
-/// contract is exact in a double.
+/// Reads a number, or the members of a record, where the caller keeps it; the caller's pointer may be null.
+/// Every number of the contract is exact in a double.
 class ReadNumbers
 {
 public:
@@ -25,7 +25,7 @@ public:
     explicit ReadNumbers(const T *memory) : bytes{reinterpret_cast<const char *>(memory)}
     {
         if constexpr (isRecord<T>) {
-            // Found by the compiler, not in every call.
+            // A constant: the search is done by the compiler and not in every call.
             constexpr Members found{membersOf<T>()};
             list = found;
         } else {
@@ -72,7 +72,7 @@ private:
     Members list{nullptr, 0};
 };
 
-/// The same where a call fills something in.
+/// Also writes there, for what a call fills in.
 class NumbersAt : public ReadNumbers
 {
 public:
@@ -82,7 +82,7 @@ public:
         static_assert(!std::is_const_v<T>, "what is filled in can be written");
     }
 
-    /// The number is one that the kind holds.
+    /// The member's kind has to be able to hold the number.
     void set(const Member &member, double number) const
     {
         switch (member.kind) {

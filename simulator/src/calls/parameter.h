@@ -54,7 +54,7 @@ struct OutNumber
     NumbersAt number;
 };
 
-/// A record that the call fills in, and what it brings into the call.
+/// A record that the call fills in, with the member that the caller has set before, such as Warp's stream.
 struct FilledRecord
 {
     template <typename Record>
@@ -137,8 +137,8 @@ using Parameters = std::initializer_list<Parameter>;
 /// The numbers that a call brings, NaN in the place of a text.
 NumberList numbersOf(Parameters parameters);
 
-/// Sets what the call fills in to zero, unless that is to stay. Whether everything is there that the call
-/// reads or fills in.
+/// Sets what the call fills in to zero, unless that is to stay. False when a pointer to what the call reads
+/// or fills in is null.
 inline bool prepare(Parameters parameters, bool leavesOutputs)
 {
     bool isAllThere{true};

@@ -23,7 +23,7 @@
 namespace veltrix_simulator
 {
 
-/// Each function is a whole call: it goes the way of all calls and works on the unit that the target selects.
+/// Each function is a whole call: it goes through CallPath and works on the unit that the target selects.
 class UnitAccess
 {
 public:
@@ -79,9 +79,9 @@ protected:
 
     /// A coordinate of a region; the field is that of the first region.
     std::uint32_t getRoi(OperationId operation, Field coordinate, std::uint32_t region);
-    /// The parameters are the pixels, the number of the region and the enables. A region is stored under its
-    /// number. The getters give two numbers to other regions than the setters do; nothing translates between
-    /// them.
+    /// The parameters are the pixels, the number of the region and the enables. A region is stored under the
+    /// number that the setter is given. The getters call other regions 1 and 2 than the setters do, and
+    /// nothing translates: what was set for region 1 is what a getter answers for its region 1.
     bool setRoi(OperationId operation, Field coordinate, std::int32_t region, Parameters parameters);
 
     /// The parameters are the stream and its coefficients.
@@ -95,7 +95,7 @@ protected:
     bool declare(OperationId operation, std::uint32_t column, std::uint32_t row, bool bad);
     bool save(OperationId operation, std::uint8_t kind);
 
-    /// Counts what leaves no other trace in the state.
+    /// Counts a command that changes nothing else in the state.
     bool count(Field field)
     {
         unit()[field] += 1;
@@ -103,7 +103,7 @@ protected:
     }
 
 private:
-    /// Fills a record from its fields, or from those that stand so much further.
+    /// Fills a record from its fields; `further` is the distance to the fields of another stream of Warp.
     void load(const NumbersAt &record, std::size_t further = 0);
 
     Unit &unit() { return state.addressed(); }

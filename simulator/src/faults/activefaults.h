@@ -22,7 +22,7 @@ namespace veltrix_simulator
 class ActiveFaults
 {
 public:
-    /// Forgets all faults; what those to come draw begins with the seed.
+    /// Forgets all faults. The seed settles the random numbers of those that are added from now on.
     void start(std::uint64_t itsSeed);
 
     /// The last fault added wins. Throws std::invalid_argument, beginning with the fault's origin, when it
@@ -44,12 +44,12 @@ private:
     /// A fault with what it has counted so far.
     struct ActiveFault
     {
-        /// Counts the call if the fault considers it; whether its counts and its chance let it hit.
+        /// Counts the call if the fault considers it. True when its counts and its chance let it hit.
         bool hits(OperationId operation, int target, const NumberList &numbers);
 
         FaultRule rule;
         std::bitset<static_cast<std::size_t>(OperationId::count)> operations;
-        std::string stream; ///< Name of what it draws.
+        std::string stream; ///< Name of its random numbers.
         Random chance;
         std::size_t considered{0};
         bool afterWasCalled{false};

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// The state as a fault wants it during the work of one call.
+// The changes that a fault makes to the state during the work of one call.
 #pragma once
 
 #include "faults/effects.h"
@@ -10,8 +10,8 @@
 namespace veltrix_simulator
 {
 
-/// While it lives, the state is as the effect of a fault wants it: other values, or stores that do not last.
-/// What takes longer does so when it is made.
+/// From its construction to its destruction a fault's effect is on: values are wrong, or what is stored is
+/// lost with the next power cycle. For a late call the constructor waits.
 class AlteredState
 {
 public:

@@ -30,11 +30,11 @@ struct EffectRow
     std::string_view name; ///< In a scenario.
     /// Whether the effect can happen to the operation; null: to every one.
     bool (*fits)(const Operation &operation);
-    std::string_view
-        misfit; ///< What an author reads behind the name of an operation that it cannot happen to.
-    /// Settles what the call answers in place of its work; null: zeros.
+    /// Why it cannot happen to an operation, for the author of a scenario; follows the operation's name.
+    std::string_view misfit;
+    /// Settles what the call answers in place of its work. Null: its work answers or, without any, zeros.
     void (*answer)(PlannedEffect &planned, const FaultRule &rule, const Operation &operation){nullptr};
-    /// Changes what the work of the call meets; null: the call does not work.
+    /// Changes the state while the call does its work; null: the work is not done.
     void (*alter)(Alterations &alterations, const PlannedEffect &planned){nullptr};
     /// Changes the state as soon as the call is hit, before its time passes; null: nothing.
     void (*strike)(State &state){nullptr};

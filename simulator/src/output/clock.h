@@ -9,7 +9,7 @@
 namespace veltrix_simulator
 {
 
-/// The unit that a written time ends with.
+/// The smallest unit of a written time.
 enum class Precision
 {
     Milliseconds,

@@ -36,8 +36,8 @@ struct GivenUp
 #pragma push_macro("NDEBUG")
 #undef NDEBUG
 #include <toml++/impl/preprocessor.h>
-// The functions that look for white space take some letters, such as umlauts, to places marked as
-// unreachable. There the answer is that it is no white space.
+// With some letters, such as umlauts, the parser's functions that look for white space come to places that it
+// marks as unreachable. They answer there that the letter is no white space.
 #pragma push_macro("TOML_UNREACHABLE")
 #undef TOML_UNREACHABLE
 #define TOML_UNREACHABLE return false

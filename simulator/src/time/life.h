@@ -47,7 +47,7 @@ public:
 
     bool passes() const { return !drifts.empty() || !counters.empty(); }
 
-    /// One call of the device, which took so long on the link.
+    /// Lets the time of one device call pass, which took this long on the link.
     void pass(std::chrono::microseconds onLink, State &state);
 
 private:
@@ -59,7 +59,7 @@ private:
         double halfTime; ///< Microseconds.
         UnitPlace place;
         double exact{0}; ///< The value before it is rounded to its kind.
-        double shown{0}; ///< What was set last. Another number in the unit has been set by a command.
+        double shown{0}; ///< What was stored last; if the unit holds another number, a command has set it.
         bool started{false};
     };
 

@@ -16,7 +16,7 @@ using std::chrono::microseconds;
 /// Start bit, eight bits, stop bit.
 constexpr std::int64_t bitsPerByte{10};
 constexpr std::int64_t microsecondsPerSecond{1'000'000};
-/// For a rate that is not above zero.
+/// Bits per second in the place of a rate that is 0 or below.
 constexpr std::int32_t slowRate{9600};
 
 microseconds transmission(std::uint32_t bytes, std::int32_t baudRate)

@@ -51,7 +51,7 @@ struct Allowed
     }
 };
 
-/// What is stored as it comes.
+/// For a value that is stored whatever it is.
 inline constexpr Allowed anything{0, 0, nullptr, 0, nullptr, nullptr, true};
 
 /// The numbers of a range, each moved up by the distance.

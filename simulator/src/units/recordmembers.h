@@ -43,7 +43,7 @@ using Records =
                veltrix_sdk::ZoomResolution, veltrix_sdk::VisibleAgc, veltrix_sdk::VisibleClhe,
                veltrix_sdk::Warp>;
 
-/// In the place of a record: none.
+/// Member::record of a number that belongs to no record.
 inline constexpr std::size_t noRecord{std::tuple_size_v<Records>};
 
 /// Whether the contract exchanges this type as a record.
@@ -101,7 +101,7 @@ struct Members
     constexpr const Member *end() const { return first + count; }
 };
 
-/// The members of a record that a call fills in or reads.
+/// The members of a record; of Warp those of the first stream.
 template <typename Record>
 constexpr Members membersOf()
 {
@@ -117,7 +117,7 @@ constexpr Members membersOf()
     return members;
 }
 
-/// Whether the members, from an offset on, are all that the record has, in its order, in fields that follow
+/// Whether the members fill the record from an offset on without a gap, in its order, and their fields follow
 /// each other.
 template <typename Record>
 constexpr bool holdsAllOf(std::size_t offset)
@@ -137,7 +137,7 @@ constexpr bool holdsAllOf(std::size_t offset)
     return (offset + alignment - 1) / alignment * alignment == sizeof(Record);
 }
 
-/// The bytes of the member that the caller brings, which stands first.
+/// Size in bytes of the member that the caller sets, the first of its record; 0 where there is none.
 template <typename Record>
 constexpr std::size_t broughtSize()
 {
@@ -156,7 +156,8 @@ constexpr bool holdsAllOfEach(const std::tuple<Each...> * /*records*/)
 
 static_assert(holdsAllOfEach(static_cast<const Records *>(nullptr)));
 
-/// Whether every stream has the same members, so that the fields of one are found from those of another.
+/// Whether the members of each stream follow those of the stream before, in the same order, so that the
+/// fields of a stream are those of the first one, so many places further.
 constexpr bool warpStreamsAreAlike()
 {
     const Members warp = membersOf<veltrix_sdk::Warp>();

@@ -20,10 +20,11 @@ namespace
 
 constexpr std::string_view communicationTypeKey{"communicationType"};
 
-/// Where a key leads.
+/// The configuration's only text.
 struct CommunicationTypePlace
 {
 };
+/// Where the value of a key is kept.
 using Place = std::variant<UnitPlace, ConfigurationField, Word, CommunicationTypePlace>;
 
 template <typename Table>

@@ -94,14 +94,14 @@ public:
     veltrix_sdk::ConfigurationWords &words;
 
 private:
-    /// A value from before a store that does not outlast the power.
+    /// A value that comes back when the device is opened again, because a fault lost the store over it.
     struct Lost
     {
         UnitPlace place;
         double earlier;
     };
 
-    /// Stores a number of the addressed unit, for good or not.
+    /// Stores a number of the addressed unit; with storesAreLost only until the device is opened again.
     void put(Field field, double number)
     {
         const UnitPlace place{static_cast<std::size_t>(target), field};
@@ -110,7 +110,7 @@ private:
         }
         (*this)[place] = number;
     }
-    /// Remembers what the place held if the store is lost later; forgets it if the store is for good.
+    /// Before a store: notes what the place holds if the store will be lost, else drops the note.
     void noteLost(const UnitPlace &place);
     std::vector<Lost>::iterator findLost(const UnitPlace &place);
 
