@@ -14,6 +14,7 @@
 #include <QTextStream>
 
 #include <algorithm>
+#include <cstdint>
 #include <functional>
 
 namespace

@@ -12,7 +12,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
-#include <vector>
 
 using namespace veltrix_sdk;
 

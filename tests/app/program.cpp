@@ -5,6 +5,7 @@
 
 #include <QFile>
 #include <QIODevice>
+#include <QProcess>
 #include <QProcessEnvironment>
 
 QProcessEnvironment programEnvironment()

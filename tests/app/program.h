@@ -3,7 +3,6 @@
 // The program as a process of its own.
 #pragma once
 
-#include <QProcess>
 #include <QProcessEnvironment>
 #include <QString>
 #include <QStringList>

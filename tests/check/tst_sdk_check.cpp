@@ -9,11 +9,17 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QtTest>
+#include <QJsonParseError>
+#include <QJsonValue>
+#include <QMap>
+#include <QObject>
+#include <QRegularExpression>
+#include <QString>
+#include <QStringList>
+#include <QTest>
 
 #include <cstddef>
 #include <cstdint>
-#include <sstream>
 
 using sdk_check::Options;
 

@@ -6,7 +6,11 @@
 #include "testclass.h"
 #include "values.h"
 
-#include <QtTest>
+#include <QByteArray>
+#include <QMetaType>
+#include <QObject>
+#include <QString>
+#include <QTest>
 
 #include <chrono>
 #include <cstddef>

@@ -5,15 +5,17 @@
 #include "simulatedcamera.h"
 #include "testclass.h"
 
-#include <QtTest>
+#include <QMetaType>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <QTest>
 
 #include <cstddef>
-#include <cstdint>
 #include <limits>
 #include <optional>
 #include <sstream>
 #include <string>
-#include <vector>
 
 using sdk_check::Options;
 using veltrix_simulator::Fault;

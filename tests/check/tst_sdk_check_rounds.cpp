@@ -4,11 +4,12 @@
 #include "checkrun.h"
 #include "testclass.h"
 
-#include <QtTest>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <QTest>
 
 #include <cstddef>
-#include <cstdint>
-#include <vector>
 
 using veltrix_simulator::Fault;
 using veltrix_simulator::Value;

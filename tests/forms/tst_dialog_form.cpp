@@ -9,14 +9,22 @@
 #include "ui_dialog.h"
 
 #include <QApplication>
+#include <QCoreApplication>
 #include <QDialog>
 #include <QLabel>
+#include <QLatin1String>
 #include <QLayout>
+#include <QMargins>
+#include <QObject>
 #include <QPushButton>
+#include <QRect>
 #include <QSignalSpy>
+#include <QSize>
 #include <QSizePolicy>
+#include <QString>
+#include <QStringList>
+#include <QTest>
 #include <QWidget>
-#include <QtTest>
 
 namespace
 {

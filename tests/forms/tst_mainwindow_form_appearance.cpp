@@ -7,6 +7,7 @@
 
 #include <QAbstractButton>
 #include <QBrush>
+#include <QByteArray>
 #include <QColor>
 #include <QDir>
 #include <QFile>
@@ -14,15 +15,21 @@
 #include <QIcon>
 #include <QImage>
 #include <QImageReader>
+#include <QLatin1String>
+#include <QList>
 #include <QMainWindow>
+#include <QObject>
 #include <QPalette>
 #include <QPushButton>
 #include <QSet>
 #include <QSignalSpy>
+#include <QSize>
 #include <QSizePolicy>
+#include <QString>
+#include <QStringList>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QWidget>
-#include <QtTest>
 
 #include <vector>
 

@@ -11,9 +11,16 @@
 #include <QHBoxLayout>
 #include <QLayout>
 #include <QLayoutItem>
+#include <QMap>
+#include <QMargins>
+#include <QObject>
+#include <QRect>
 #include <QRegularExpression>
+#include <QString>
+#include <QStringList>
+#include <QTest>
+#include <QVector>
 #include <QWidget>
-#include <QtTest>
 
 #include <array>
 #include <cstddef>

@@ -9,13 +9,16 @@
 #include <QComboBox>
 #include <QFile>
 #include <QLabel>
+#include <QObject>
+#include <QString>
+#include <QStringList>
 #include <QTabWidget>
+#include <QTest>
 #include <QTextBlock>
 #include <QTextCharFormat>
 #include <QTextDocument>
 #include <QTextFragment>
 #include <QWidget>
-#include <QtTest>
 
 #include <cstddef>
 #include <vector>

@@ -8,9 +8,13 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QObject>
+#include <QString>
+#include <QStringList>
 #include <QTabWidget>
+#include <QTest>
+#include <QVariant>
 #include <QWidget>
-#include <QtTest>
 
 namespace
 {

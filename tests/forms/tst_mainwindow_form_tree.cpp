@@ -5,10 +5,15 @@
 #include "form_fixture.h"
 #include "testclass.h"
 
+#include <QLatin1String>
 #include <QMainWindow>
+#include <QMap>
+#include <QObject>
+#include <QString>
+#include <QStringList>
 #include <QTabWidget>
+#include <QTest>
 #include <QWidget>
-#include <QtTest>
 
 #include <vector>
 

@@ -9,12 +9,19 @@
 #include <QAbstractScrollArea>
 #include <QAbstractSpinBox>
 #include <QComboBox>
+#include <QMetaType>
+#include <QObject>
 #include <QPushButton>
+#include <QSize>
 #include <QSlider>
 #include <QSpinBox>
+#include <QString>
+#include <QStringList>
 #include <QTabWidget>
+#include <QTest>
+#include <QVariant>
+#include <QVariantMap>
 #include <QWidget>
-#include <QtTest>
 
 #include <limits>
 

@@ -6,7 +6,6 @@
 #include "testclass.h"
 
 #include <QDialog>
-#include <QDir>
 #include <QObject>
 #include <QSpinBox>
 #include <QString>

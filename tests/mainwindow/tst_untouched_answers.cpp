@@ -12,6 +12,7 @@
 #include <QTest>
 
 #include <cstdint>
+#include <vector>
 
 using veltrix_simulator::Value;
 

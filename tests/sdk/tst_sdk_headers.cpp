@@ -4,9 +4,13 @@
 #include "testclass.h"
 #include "toolbox.h"
 
+#include <QByteArray>
 #include <QDir>
+#include <QObject>
+#include <QString>
+#include <QStringList>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 namespace
 {

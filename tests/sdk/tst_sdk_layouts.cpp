@@ -5,11 +5,15 @@
 #include "testclass.h"
 #include "toolbox.h"
 
+#include <QByteArray>
 #include <QMap>
+#include <QObject>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QString>
+#include <QStringList>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 #include <algorithm>
 

@@ -5,7 +5,9 @@
 #include "testclass.h"
 #include "veltrix_sdk/sdk.h"
 
-#include <QtTest>
+#include <QMetaType>
+#include <QObject>
+#include <QTest>
 
 #include <cstddef>
 #include <cstdint>

@@ -5,7 +5,10 @@
 #include "testclass.h"
 #include "veltrix_sdk/sdk.h"
 
-#include <QtTest>
+#include <QLatin1String>
+#include <QObject>
+#include <QString>
+#include <QTest>
 
 #include <algorithm>
 #include <cstddef>

@@ -9,8 +9,9 @@
 #include "veltrix_simulator/simulator.h"
 
 #include <QMap>
+#include <QObject>
 #include <QString>
-#include <QtTest>
+#include <QTest>
 
 #include <cstddef>
 #include <cstdint>

@@ -9,9 +9,11 @@
 #include "values.h"
 #include "veltrix_simulator/simulator.h"
 
+#include <QMetaType>
+#include <QObject>
 #include <QString>
 #include <QStringList>
-#include <QtTest>
+#include <QTest>
 
 #include <cstddef>
 #include <cstdint>

@@ -4,11 +4,17 @@
 #include "simulatedcamera.h"
 #include "testclass.h"
 
+#include <QByteArray>
 #include <QDir>
 #include <QFile>
+#include <QIODevice>
+#include <QObject>
 #include <QProcess>
+#include <QProcessEnvironment>
+#include <QString>
+#include <QStringList>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 #include <cstddef>
 #include <stdexcept>

@@ -6,9 +6,12 @@
 #include "scenarios/scenarioreader.h"
 #include "testclass.h"
 
-#include <QtTest>
+#include <QByteArray>
+#include <QChar>
+#include <QObject>
+#include <QString>
+#include <QTest>
 
-#include <string>
 #include <variant>
 
 using namespace veltrix_simulator;

@@ -6,9 +6,15 @@
 #include "testclass.h"
 #include "units/state.h"
 
+#include <QByteArray>
 #include <QFile>
+#include <QIODevice>
+#include <QMetaType>
+#include <QObject>
 #include <QRegularExpression>
-#include <QtTest>
+#include <QString>
+#include <QStringList>
+#include <QTest>
 
 #include <chrono>
 #include <cstdint>

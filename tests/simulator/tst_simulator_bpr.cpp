@@ -5,10 +5,15 @@
 #include "simulatedcamera.h"
 #include "testclass.h"
 
+#include <QByteArray>
 #include <QDir>
 #include <QFile>
+#include <QIODevice>
+#include <QObject>
+#include <QString>
+#include <QStringList>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 #include <array>
 #include <cstdint>

@@ -8,8 +8,11 @@
 #include "veltrix_sdk/extensions.h"
 
 #include <QLibrary>
+#include <QObject>
 #include <QRegularExpression>
-#include <QtTest>
+#include <QString>
+#include <QStringList>
+#include <QTest>
 
 #include <cstddef>
 #include <cstdint>

@@ -6,8 +6,11 @@
 #include "testclass.h"
 
 #include <QElapsedTimer>
+#include <QObject>
 #include <QRegularExpression>
-#include <QtTest>
+#include <QString>
+#include <QStringList>
+#include <QTest>
 
 #include <chrono>
 #include <cmath>

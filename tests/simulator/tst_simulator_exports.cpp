@@ -4,8 +4,11 @@
 #include "contents.h"
 #include "testclass.h"
 
+#include <QObject>
 #include <QRegularExpression>
-#include <QtTest>
+#include <QString>
+#include <QStringList>
+#include <QTest>
 
 namespace
 {

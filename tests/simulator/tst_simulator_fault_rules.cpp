@@ -4,11 +4,12 @@
 #include "scenariocamera.h"
 #include "testclass.h"
 
-#include <QtTest>
+#include <QObject>
+#include <QString>
+#include <QTest>
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <stdexcept>
 #include <string>
 #include <vector>

@@ -5,15 +5,17 @@
 #include "simulatedcamera.h"
 #include "testclass.h"
 
+#include <QMetaType>
+#include <QObject>
 #include <QRegularExpression>
-#include <QtTest>
+#include <QString>
+#include <QTest>
 
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
 #include <optional>
-#include <string>
 #include <vector>
 
 using namespace veltrix_sdk;

@@ -5,7 +5,9 @@
 #include "simulatedcamera.h"
 #include "testclass.h"
 
-#include <QtTest>
+#include <QObject>
+#include <QString>
+#include <QTest>
 
 #include <cstddef>
 #include <cstdint>

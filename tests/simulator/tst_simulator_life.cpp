@@ -4,7 +4,11 @@
 #include "scenariocamera.h"
 #include "testclass.h"
 
-#include <QtTest>
+#include <QMetaType>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <QTest>
 
 #include <chrono>
 #include <cstdint>

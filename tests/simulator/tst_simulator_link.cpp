@@ -6,7 +6,10 @@
 #include "time/link.h"
 
 #include <QElapsedTimer>
-#include <QtTest>
+#include <QMetaType>
+#include <QObject>
+#include <QString>
+#include <QTest>
 
 #include <chrono>
 #include <cstddef>

@@ -5,10 +5,16 @@
 
 #include <QDateTime>
 #include <QFile>
+#include <QIODevice>
+#include <QObject>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QRegularExpression>
+#include <QRegularExpressionMatch>
+#include <QString>
+#include <QStringList>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 namespace
 {

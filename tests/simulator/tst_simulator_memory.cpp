@@ -8,10 +8,14 @@
 #include "units/memoryfile.h"
 #include "veltrix_sdk/sdk.h"
 
+#include <QByteArray>
 #include <QFile>
+#include <QIODevice>
+#include <QObject>
 #include <QProcess>
+#include <QString>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 #include <cstddef>
 #include <cstdint>

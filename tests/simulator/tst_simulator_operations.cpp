@@ -6,12 +6,14 @@
 #include "testclass.h"
 #include "values/numberlist.h"
 
-#include <QtTest>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <QTest>
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <initializer_list>
 #include <limits>
 #include <string>

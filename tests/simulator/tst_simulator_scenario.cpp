@@ -5,11 +5,18 @@
 #include "testclass.h"
 
 #include <QBitArray>
+#include <QByteArray>
 #include <QDir>
 #include <QFile>
+#include <QIODevice>
+#include <QList>
+#include <QObject>
 #include <QProcess>
+#include <QProcessEnvironment>
+#include <QString>
+#include <QStringList>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 #include <chrono>
 #include <cstdint>

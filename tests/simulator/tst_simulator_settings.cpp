@@ -5,12 +5,12 @@
 #include "simulatedcamera.h"
 #include "testclass.h"
 
-#include <QtTest>
+#include <QObject>
+#include <QString>
+#include <QTest>
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <stdexcept>
 #include <string>
 #include <vector>
 

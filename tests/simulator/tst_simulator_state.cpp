@@ -5,8 +5,12 @@
 #include "testclass.h"
 
 #include <QFile>
-#include <QRegularExpression>
-#include <QtTest>
+#include <QIODevice>
+#include <QMetaType>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <QTest>
 
 #include <cmath>
 #include <cstddef>

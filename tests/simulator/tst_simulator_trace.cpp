@@ -5,15 +5,22 @@
 #include "simulatedcamera.h"
 #include "testclass.h"
 
+#include <QByteArray>
 #include <QDateTime>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QIODevice>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QObject>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QRegularExpression>
+#include <QRegularExpressionMatch>
+#include <QString>
+#include <QStringList>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 #include <cstdint>
 #include <limits>

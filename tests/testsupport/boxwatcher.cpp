@@ -9,8 +9,6 @@
 #include <QLatin1Char>
 #include <QMainWindow>
 #include <QMessageBox>
-#include <QPointer>
-#include <QPushButton>
 #include <QString>
 #include <QTest>
 #include <QTimer>

@@ -3,12 +3,9 @@
 // The scenarios that the library brings along, and where others come from.
 #include "scenarios/scenariolibrary.h"
 
-#include "faults/faultrule.h"
 #include "output/wording.h"
 #include "scenarios/limits.h"
 #include "scenarios/scenarioreader.h"
-#include "time/life.h"
-#include "veltrix_simulator/simulator.h"
 
 #include <cstddef>
 #include <cstdlib>
