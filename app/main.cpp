@@ -38,8 +38,8 @@ int main(int argc, char *argv[])
 
     followDesktopScaling();
     const QApplication application{argc, argv};
-    OperatorInput operatorInput;
     setAppearance();
+    OperatorInput operatorInput;
     MainWindow window{nullptr};
     window.setSequenceObserver([&operatorInput](bool running) { operatorInput.sequenceRuns(running); });
     const auto fitted = fitToScreen(window);
