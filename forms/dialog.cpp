@@ -12,7 +12,7 @@ Dialog::Dialog(QWidget *parent) : QDialog{parent}, ui{new Ui_Dialog{}}
 {
     ui->setupUi(this);
     ui->NomProduit->setText(QStringLiteral("Pilotel Blend Unit"));
-    ui->VersionProduit->setText(QStringLiteral("1.0.0"));
+    ui->VersionProduit->setText(QStringLiteral(PILOTEL_VERSION));
 }
 
 Dialog::~Dialog()
