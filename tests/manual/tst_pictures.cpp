@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // The pictures of the user guide show the window as it is.
+#include "appearance.h"
 #include "picture.h"
 #include "testclass.h"
 #include "testwindow.h"
@@ -96,6 +97,7 @@ void PicturesTest::initTestCase()
 {
     const QFont font{QStringLiteral("DejaVu Sans"), 9};
     QVERIFY2(QFontInfo{font}.family() == font.family(), "install the package fonts-dejavu-core");
+    setAppearance();
     QApplication::setFont(font);
     QApplication::setCursorFlashTime(0);
 }
