@@ -29,7 +29,7 @@ public:
 
     const Value &next() { return answer[place++]; }
 
-    void fill(const NumbersAt &numbers)
+    void fill(const NumbersToFill &numbers)
     {
         for (const Member &member : numbers.members()) {
             numbers.set(member, toNumber(next()));
@@ -136,7 +136,7 @@ std::optional<PlannedEffect> CallPath::plan(OperationId operation, Parameters pa
 void CallPath::fillInAnswer(const PlannedEffect &planned, Parameters parameters, const ResultPlace &result)
 {
     AnswerReader reader{*planned.answer};
-    if (const auto *const numbers = std::get_if<NumbersAt>(&result.content())) {
+    if (const auto *const numbers = std::get_if<NumbersToFill>(&result.content())) {
         reader.fill(*numbers);
     } else if (const auto *const text = std::get_if<ResultPlace::Text>(&result.content())) {
         heldText = std::get<std::string>(reader.next());
@@ -148,7 +148,7 @@ void CallPath::fillInAnswer(const PlannedEffect &planned, Parameters parameters,
         return;
     }
     for (const Parameter &parameter : parameters) {
-        if (const NumbersAt *const filled = parameter.filledMemory()) {
+        if (const NumbersToFill *const filled = parameter.filledMemory()) {
             reader.fill(*filled);
         }
     }

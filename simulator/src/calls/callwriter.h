@@ -24,7 +24,7 @@ struct ObjectName
 /// Appends a number in the shortest form that reads back; of a float in single precision.
 void appendNumber(std::string &line, const Number &number);
 
-inline Number plainNumberAt(const ReadNumbers &numbers)
+inline Number plainNumberAt(const NumbersToRead &numbers)
 {
     const Member &member = *numbers.members().begin();
     return {member.kind, numbers.at(member)};
@@ -32,7 +32,7 @@ inline Number plainNumberAt(const ReadNumbers &numbers)
 
 /// Goes through a call: what its parameters bring, its result, and what it filled in. The form, that of the
 /// journal or of the trace, writes each of them. It is given nullptr for what is missing, a Number, a text,
-/// an ObjectName, or ReadNumbers for a record.
+/// an ObjectName, or NumbersToRead for a record.
 template <typename Form>
 class CallWriter
 {
@@ -55,7 +55,7 @@ private:
     void writeArgument(const Parameter &parameter) const
     {
         const Parameter::Content &content = parameter.content();
-        const ReadNumbers *const memory = parameter.memory();
+        const NumbersToRead *const memory = parameter.memory();
         if (memory != nullptr && !memory->isThere()) {
             form.argument(nullptr);
         } else if (const auto *const number = std::get_if<Number>(&content)) {
@@ -74,7 +74,7 @@ private:
 
     void writeResult(const ResultPlace &place) const
     {
-        if (const auto *const numbers = std::get_if<NumbersAt>(&place.content())) {
+        if (const auto *const numbers = std::get_if<NumbersToFill>(&place.content())) {
             numbers->isPlainNumber() ? form.result(plainNumberAt(*numbers)) : form.result(*numbers);
         } else if (const auto *const text = std::get_if<ResultPlace::Text>(&place.content())) {
             *text->place != nullptr ? form.result(std::string_view{*text->place}) : form.result(nullptr);
@@ -86,7 +86,7 @@ private:
 
     void writeOutput(const Parameter &parameter) const
     {
-        const NumbersAt *const filled = parameter.filledMemory();
+        const NumbersToFill *const filled = parameter.filledMemory();
         if (filled == nullptr || !filled->isThere()) {
             return;
         }

@@ -48,7 +48,7 @@ public:
         line.push_back('}');
     }
 
-    void output(const ReadNumbers &record)
+    void output(const NumbersToRead &record)
     {
         line.push_back(' ');
         append(record);
@@ -80,7 +80,7 @@ private:
 
     void append(const ObjectName &object) { line.append(object.text); }
 
-    void append(const ReadNumbers &record)
+    void append(const NumbersToRead &record)
     {
         line.push_back('{');
         for (const Member &member : record.members()) {

@@ -18,11 +18,11 @@ inline constexpr Member plainNumber{{}, kind, 0, sizeof(TypeOf<kind>), noRecord,
 
 /// Reads a number, or the members of a record, where the caller keeps it; the caller's pointer may be null.
 /// Every number of the contract is exact in a double.
-class ReadNumbers
+class NumbersToRead
 {
 public:
     template <typename T>
-    explicit ReadNumbers(const T *memory) : bytes{reinterpret_cast<const char *>(memory)}
+    explicit NumbersToRead(const T *memory) : bytes{reinterpret_cast<const char *>(memory)}
     {
         if constexpr (isRecord<T>) {
             // A constant: the search is done by the compiler and not in every call.
@@ -73,11 +73,11 @@ private:
 };
 
 /// Also writes there, for what a call fills in.
-class NumbersAt : public ReadNumbers
+class NumbersToFill : public NumbersToRead
 {
 public:
     template <typename T>
-    explicit NumbersAt(T *memory) : ReadNumbers{memory}, writable{reinterpret_cast<char *>(memory)}
+    explicit NumbersToFill(T *memory) : NumbersToRead{memory}, writable{reinterpret_cast<char *>(memory)}
     {
         static_assert(!std::is_const_v<T>, "what is filled in can be written");
     }

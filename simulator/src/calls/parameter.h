@@ -40,7 +40,7 @@ struct SentRecord
     explicit SentRecord(const Record *memory) : record{memory}
     {}
 
-    ReadNumbers record;
+    NumbersToRead record;
 };
 
 /// A number that the call fills in, under the name that the journal shows.
@@ -51,7 +51,7 @@ struct OutNumber
     {}
 
     std::string_view name;
-    NumbersAt number;
+    NumbersToFill number;
 };
 
 /// A record that the call fills in, with the member that the caller has set before, such as Warp's stream.
@@ -67,7 +67,7 @@ struct FilledRecord
         }
     }
 
-    NumbersAt record;
+    NumbersToFill record;
     std::optional<Number> brought;
 };
 
@@ -108,14 +108,14 @@ public:
     const Content &content() const { return parameter; }
 
     /// Where the call reads a record, or fills in a number or a record; null for what it brings by value.
-    const ReadNumbers *memory() const
+    const NumbersToRead *memory() const
     {
         const auto *const sent = std::get_if<SentRecord>(&parameter);
         return sent != nullptr ? &sent->record : filledMemory();
     }
 
     /// Where the call fills something in; null for what it only brings.
-    const NumbersAt *filledMemory() const
+    const NumbersToFill *filledMemory() const
     {
         if (const auto *const out = std::get_if<OutNumber>(&parameter)) {
             return &out->number;
@@ -146,8 +146,8 @@ inline bool prepare(Parameters parameters, bool leavesOutputs)
         if (std::holds_alternative<Number>(parameter.content())) {
             continue;
         }
-        const ReadNumbers *const memory = parameter.memory();
-        const NumbersAt *const filled = parameter.filledMemory();
+        const NumbersToRead *const memory = parameter.memory();
+        const NumbersToFill *const filled = parameter.filledMemory();
         if (memory != nullptr && !memory->isThere()) {
             isAllThere = false;
         } else if (filled != nullptr && !leavesOutputs) {
@@ -175,13 +175,13 @@ public:
         void (*write)(void *place, const Objects *objects);
     };
 
-    using Content = std::variant<std::monostate, NumbersAt, Text, Object>;
+    using Content = std::variant<std::monostate, NumbersToFill, Text, Object>;
 
     /// An operation without a result.
     ResultPlace() = default;
 
     template <typename T, std::enable_if_t<!std::is_pointer_v<T>, int> = 0>
-    explicit ResultPlace(T *result) : target{NumbersAt{result}}
+    explicit ResultPlace(T *result) : target{NumbersToFill{result}}
     {}
     explicit ResultPlace(const char **result) : target{Text{result}} {}
     template <typename T>

@@ -69,7 +69,7 @@ public:
         appendMember(name, number);
     }
 
-    void output(const ReadNumbers &record)
+    void output(const NumbersToRead &record)
     {
         for (const Member &member : record.members()) {
             output(member.name, {member.kind, record.at(member)});
@@ -96,7 +96,7 @@ private:
 
     void append(const ObjectName &object) { appendJsonText(line, object.text); }
 
-    void append(const ReadNumbers &record)
+    void append(const NumbersToRead &record)
     {
         char separator{'{'};
         for (const Member &member : record.members()) {

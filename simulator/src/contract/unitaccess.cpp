@@ -56,7 +56,7 @@ Field warpField(std::int32_t stream)
 
 } // namespace
 
-void UnitAccess::load(const NumbersAt &record, std::size_t further)
+void UnitAccess::load(const NumbersToFill &record, std::size_t further)
 {
     for (const Member &member : record.members()) {
         record.set(member, unit()[member.field + further]);
@@ -90,7 +90,7 @@ veltrix_sdk::EdgeCorrection UnitAccess::getEdge(OperationId operation)
 {
     return call(operation, {}, [&] {
         veltrix_sdk::EdgeCorrection correction{};
-        load(NumbersAt{&correction});
+        load(NumbersToFill{&correction});
         return correction;
     });
 }
@@ -128,7 +128,7 @@ bool UnitAccess::getWarpOf(OperationId operation, veltrix_sdk::Warp *warp)
     return call(operation, {warp}, [&] {
         const bool known{isWarpStream(warp->stream)};
         if (known) {
-            load(NumbersAt{warp}, warpField(warp->stream) - Field::warp0A11);
+            load(NumbersToFill{warp}, warpField(warp->stream) - Field::warp0A11);
         }
         return known;
     });

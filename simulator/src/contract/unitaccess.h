@@ -53,7 +53,7 @@ protected:
     Result fill(OperationId operation, Field field, Parameters filled)
     {
         return call(operation, filled, [&] {
-            const NumbersAt &number = *filled.begin()->filledMemory();
+            const NumbersToFill &number = *filled.begin()->filledMemory();
             number.set(*number.members().begin(), unit()[field]);
             return Result{1};
         });
@@ -104,7 +104,7 @@ protected:
 
 private:
     /// Fills a record from its fields; `further` is the distance to the fields of another stream of Warp.
-    void load(const NumbersAt &record, std::size_t further = 0);
+    void load(const NumbersToFill &record, std::size_t further = 0);
 
     Unit &unit() { return state.addressed(); }
     BadPixelMemory &badPixels() { return unit().badPixels; }
