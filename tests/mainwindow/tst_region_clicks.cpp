@@ -17,7 +17,7 @@
 namespace
 {
 
-const char *const edited{"setRoiX1(300, 0, false, false, false) -> true"};
+const char *const editSent{"setRoiX1(300, 0, false, false, false) -> true"};
 
 /// A place in the window, in its own coordinates.
 QPoint placeOf(TestWindow &test, const QWidget &widget, const QPoint &place)
@@ -94,7 +94,7 @@ void RegionClicksTest::theArrowOfAnotherBoxStepsOnce()
     // An arrow that is held steps again after half a second.
     QTest::qWait(900);
     QCOMPARE(shown(test, "Roi0IncY1"), before + 1);
-    QCOMPARE(test.takeCalls(), QStringList{edited});
+    QCOMPARE(test.takeCalls(), QStringList{editSent});
 }
 
 void RegionClicksTest::aCheckBoxIsChecked()
@@ -110,7 +110,7 @@ void RegionClicksTest::aCheckBoxIsChecked()
     click(test, placeOf(test, box, {8, box.height() / 2}));
     QVERIFY(box.isChecked());
     QVERIFY(!box.isDown());
-    QCOMPARE(test.takeCalls(), (QStringList{edited, "setRoiX1(11, 1, true, false, false) -> true",
+    QCOMPARE(test.takeCalls(), (QStringList{editSent, "setRoiX1(11, 1, true, false, false) -> true",
                                             "setRoiX2(12, 1, true, false, false) -> true",
                                             "setRoiY1(13, 1, true, false, false) -> true",
                                             "setRoiY2(14, 1, true, false, false) -> true"}));
@@ -122,7 +122,7 @@ void RegionClicksTest::disconnectDisconnects()
     typeWrongOrder(test);
 
     click(test, middleOf(test, "disconnectDeviceButton"));
-    QCOMPARE(test.takeCalls(), (QStringList{edited, "closeDevice(device)", "get_instance() -> sdk",
+    QCOMPARE(test.takeCalls(), (QStringList{editSent, "closeDevice(device)", "get_instance() -> sdk",
                                             "releaseDeviceManager(manager)"}));
     QVERIFY(!test.child<QWidget>("paramSection").isEnabled());
     QVERIFY(!test.child<QAbstractButton>("disconnectDeviceButton").isDown());
@@ -135,7 +135,7 @@ void RegionClicksTest::readReads()
 
     click(test, middleOf(test, "readParamButtonUser"));
     const QStringList calls{test.takeCalls()};
-    QCOMPARE(calls.first(), QString{edited});
+    QCOMPARE(calls.first(), QString{editSent});
     QCOMPARE(calls.at(1), QStringLiteral("setTarget(0) -> true"));
     QCOMPARE(calls.count("startReading() -> true"), 2);
     QVERIFY(test.takeLog().contains("End reading camera parameters"));
@@ -155,7 +155,7 @@ void RegionClicksTest::aComboBoxOpens()
     // What the off-screen platform cannot do for the list.
     test.warnings.take();
     QCOMPARE(comboBox.currentIndex(), before);
-    QCOMPARE(test.takeCalls(), QStringList{edited});
+    QCOMPARE(test.takeCalls(), QStringList{editSent});
 }
 
 void RegionClicksTest::aPageOfTheCameraIsShown()
@@ -165,7 +165,7 @@ void RegionClicksTest::aPageOfTheCameraIsShown()
 
     click(test, tabOf(test, "KR_tab", 2));
     QCOMPARE(test.child<QTabWidget>("KR_tab").currentIndex(), 2);
-    QCOMPARE(test.takeCalls(), QStringList{edited});
+    QCOMPARE(test.takeCalls(), QStringList{editSent});
 }
 
 void RegionClicksTest::aPageOfTheWindowIsShown()
@@ -176,7 +176,7 @@ void RegionClicksTest::aPageOfTheWindowIsShown()
     click(test, tabOf(test, "Principal_tab", 0));
     QCOMPARE(test.child<QTabWidget>("Principal_tab").currentIndex(), 0);
     const QStringList calls{test.takeCalls()};
-    QCOMPARE(calls.mid(0, 2), (QStringList{edited, "setTarget(0) -> true"}));
+    QCOMPARE(calls.mid(0, 2), (QStringList{editSent, "setTarget(0) -> true"}));
     QCOMPARE(calls.size(), 3);
     QVERIFY(calls.last().startsWith("getTemperatures() -> true"));
 }
@@ -191,7 +191,7 @@ void RegionClicksTest::aSliderIsLetGo()
     // On its handle, which a release sends from.
     click(test, placeOf(test, slider, {4, slider.height() / 2}));
     QVERIFY(!slider.isSliderDown());
-    QCOMPARE(test.takeCalls(), (QStringList{edited, "setGamma(32768) -> true"}));
+    QCOMPARE(test.takeCalls(), (QStringList{editSent, "setGamma(32768) -> true"}));
 }
 
 void RegionClicksTest::aButtonThatIsHeldBeyondTheBoxIsNotReleased()
@@ -205,7 +205,7 @@ void RegionClicksTest::aButtonThatIsHeldBeyondTheBoxIsNotReleased()
     QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, place);
     QCoreApplication::processEvents();
     QVERIFY(test.child<QAbstractButton>("disconnectDeviceButton").isDown());
-    QCOMPARE(test.takeCalls(), QStringList{edited});
+    QCOMPARE(test.takeCalls(), QStringList{editSent});
 
     QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, place);
     QCOMPARE(test.takeCalls(),
