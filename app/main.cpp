@@ -13,6 +13,7 @@
 #include <QLibraryInfo>
 #include <QString>
 #include <QVersionNumber>
+#include <QtGlobal>
 
 #include <iostream>
 #include <string>
@@ -36,6 +37,11 @@ int main(int argc, char *argv[])
     const QString testLine{"Test log in debug"};
     std::cout << testLine.toUtf8().constData() << std::endl;
 
+    // Widgets alone draw the window; unless told otherwise, Qt would load OpenGL on X11 for nothing.
+    constexpr const char *openGl{"QT_XCB_GL_INTEGRATION"};
+    if (!qEnvironmentVariableIsSet(openGl)) {
+        qputenv(openGl, "none");
+    }
     followDesktopScaling();
     const QApplication application{argc, argv};
     setAppearance();

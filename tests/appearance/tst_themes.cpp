@@ -33,6 +33,7 @@ class ThemesTest : public QObject
 private slots:
     void theColoursAreTheStylesOwn_data();
     void theColoursAreTheStylesOwn();
+    void openGlIsLoadedWhereItIsAskedFor();
 };
 
 void ThemesTest::theColoursAreTheStylesOwn_data()
@@ -67,8 +68,24 @@ void ThemesTest::theColoursAreTheStylesOwn()
         "widgets #000000 #ffffff #000000 #efefef #000000 #ffffdc #000000",
         "tool tips #000000",
         "icon in 7 sizes",
+        "OpenGL is not loaded",
     };
     QCOMPARE(linesOf(directory.filePath("report")).join('\n'), ofFusion.join('\n'));
+}
+
+void ThemesTest::openGlIsLoadedWhereItIsAskedFor()
+{
+    const VirtualScreen screen{QSize{1920, 1080}, 40};
+    const QTemporaryDir directory;
+    QProcessEnvironment environment{programEnvironment()};
+    environment.insert("QT_QPA_PLATFORM", "xcb");
+    environment.insert("DISPLAY", screen.name());
+    environment.insert("QT_XCB_GL_INTEGRATION", "xcb_glx");
+    environment.insert("PILOTEL_TEST_REPORT", directory.filePath("report"));
+    // OpenGL's libraries leave memory behind, which the sanitizers tell by the exit status.
+    const Outcome outcome{run(PROGRAM, {"-plugin", "tellcolours"}, environment)};
+    QVERIFY2(outcome.exited, qPrintable(outcome.errors));
+    QCOMPARE(linesOf(directory.filePath("report")).value(3), QString{"OpenGL is loaded"});
 }
 
 PILOTEL_TEST_CLASS(ThemesTest)

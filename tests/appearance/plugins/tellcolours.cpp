@@ -1,11 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// A plugin that tells the colours that the program's window has, and closes it.
+// A plugin that tells the colours that the program's window has and whether OpenGL is loaded, and closes it.
 #include "tellcolours.h"
 
 #include "report.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QIcon>
 #include <QToolTip>
 
@@ -48,6 +49,11 @@ void TellColours::tellAndClose()
     lines.removeDuplicates();
     lines.append("tool tips " + QToolTip::palette().color(QPalette::ToolTipText).name());
     lines.append(QStringLiteral("icon in %1 sizes").arg(QApplication::windowIcon().availableSizes().size()));
+    QFile loaded{"/proc/self/maps"};
+    // Qt itself is linked with OpenGL; what costs is the plugin that starts it, with its drivers.
+    const bool hasOpenGl{loaded.open(QIODevice::ReadOnly) &&
+                         loaded.readAll().contains("libqxcb-glx-integration")};
+    lines.append(hasOpenGl ? "OpenGL is loaded" : "OpenGL is not loaded");
     report("PILOTEL_TEST_REPORT", lines);
     window->close();
 }
