@@ -47,6 +47,8 @@ int main(int argc, char *argv[])
     setAppearance();
     OperatorInput operatorInput;
     MainWindow window{nullptr};
+    // For every window. To read its sizes once more would cost a twentieth of the start.
+    QApplication::setWindowIcon(window.windowIcon());
     window.setSequenceObserver([&operatorInput](bool running) { operatorInput.sequenceRuns(running); });
     const auto fitted = fitToScreen(window);
     window.show();

@@ -6,7 +6,6 @@
 #include "markingstyle.h"
 
 #include <QApplication>
-#include <QIcon>
 #include <QPalette>
 #include <QStyleFactory>
 #include <QToolTip>
@@ -43,5 +42,4 @@ void setAppearance()
     const QPalette palette{lightPalette()};
     QApplication::setPalette(palette);
     QToolTip::setPalette(palette);
-    QApplication::setWindowIcon(QIcon{QStringLiteral(":/picture/camera.ico")});
 }

@@ -65,7 +65,6 @@ private slots:
     void framesHaveAllTheirLines_data();
     void framesHaveAllTheirLines();
     void darkColoursOfTheThemeAreDropped();
-    void everyWindowHasTheIcon();
 };
 
 void AppearanceTest::aPressedButtonCanBeTold_data()
@@ -147,15 +146,6 @@ void AppearanceTest::darkColoursOfTheThemeAreDropped()
     QCOMPARE(QApplication::palette(), light);
     QCOMPARE(QApplication::palette("QLineEdit"), light);
     QVERIFY(light.color(QPalette::Window).lightness() > light.color(QPalette::WindowText).lightness());
-}
-
-void AppearanceTest::everyWindowHasTheIcon()
-{
-    setAppearance();
-    const QWidget window;
-    const QList<QSize> sizes{window.windowIcon().availableSizes()};
-    QVERIFY(sizes.contains(QSize(64, 64)));
-    QVERIFY(sizes.contains(QSize(128, 128)) || sizes.contains(QSize(256, 256)));
 }
 
 PILOTEL_TEST_CLASS(AppearanceTest)
