@@ -1,12 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// Starts the program that lies beside it. Without its device library the program ends before its own first
-// line, and says so on a terminal only; this says it on the screen.
+// Starts the program that lies beside it. Without a whole device library the program ends before its own
+// first line, and says so on a terminal only; this says it on the screen.
 #include <QApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QString>
 #include <QStringList>
 
@@ -16,8 +17,8 @@
 namespace
 {
 
-/// What the loader misses, a line for each library or symbol; nothing when the program can be started.
-QStringList missingParts(const QString &program)
+/// What the loader says against a start, a line each; nothing when the program can be started.
+QStringList obstacles(const QString &program)
 {
     QProcessEnvironment environment{QProcessEnvironment::systemEnvironment()};
     // The loader then looks for everything, tells, and does not start the program.
@@ -29,24 +30,41 @@ QStringList missingParts(const QString &program)
     loader.setProcessChannelMode(QProcess::MergedChannels);
     loader.start(program, QStringList{});
     loader.waitForFinished();
-    const QStringList lines{QString::fromLocal8Bit(loader.readAll()).split('\n')};
-    return lines.filter("=> not found") + lines.filter("undefined symbol");
+    QStringList lines{QString::fromLocal8Bit(loader.readAll()).split('\n', Qt::SkipEmptyParts)};
+    // It goes on after what it does not find, but ends at a file that is no library or only a part of one.
+    if (loader.error() == QProcess::FailedToStart || loader.exitStatus() != QProcess::NormalExit) {
+        return lines << loader.errorString();
+    }
+    if (loader.exitCode() != 0) {
+        return lines;
+    }
+    return lines.filter("=> not found") + lines.filter("not found (required by") +
+           lines.filter("undefined symbol");
 }
 
-QString explanation(const QStringList &missing, const QString &folder)
+QString explanation(const QStringList &obstacles, const QFileInfo &program)
 {
-    const QString library{QStringLiteral("libveltrix.sdk.so")};
-    if (missing.filter("=> not found").filter(library).isEmpty()) {
-        return missing.filter("undefined symbol").filter("veltrix_sdk").isEmpty()
-                   ? QStringLiteral("Pilotel cannot start: a library that it needs is missing.")
-                   : QStringLiteral(
-                         "Pilotel cannot start: %1 is not a delivery that this program was made for. Ask "
-                         "the maker for the one that belongs to the camera.")
-                         .arg(library);
+    if (!program.isExecutable()) {
+        return QStringLiteral(
+                   "Pilotel cannot start: the program %1 is not in the folder %2, or may not be run.")
+            .arg(program.fileName(), program.absolutePath());
     }
-    return QStringLiteral(
-               "Pilotel cannot start: the camera's library %1 was not found. Put it into the folder %2.")
-        .arg(library, folder);
+    const QString library{QStringLiteral("libveltrix.sdk.so")};
+    if (!obstacles.filter("=> not found").filter(library).isEmpty()) {
+        return QStringLiteral(
+                   "Pilotel cannot start: the camera's library %1 was not found. Put it into the folder %2.")
+            .arg(library, program.absolutePath());
+    }
+    const bool isAnotherOne{!obstacles.filter("undefined symbol").filter("veltrix_sdk").isEmpty()};
+    const bool isNoLibrary{!obstacles.filter(library + ": file too short").isEmpty() ||
+                           !obstacles.filter(library + ": invalid ELF header").isEmpty()};
+    if (isAnotherOne || isNoLibrary) {
+        return QStringLiteral(
+                   "Pilotel cannot start: %1 is not a delivery that this program was made for. Ask the maker "
+                   "for the one that belongs to the camera.")
+            .arg(library);
+    }
+    return QStringLiteral("Pilotel cannot start: a library that it needs is missing or cannot be used.");
 }
 
 } // namespace
@@ -54,19 +72,18 @@ QString explanation(const QStringList &missing, const QString &folder)
 int main(int argc, char *argv[])
 {
     const QFileInfo self{QFile::symLinkTarget(QStringLiteral("/proc/self/exe"))};
-    const QString program{self.absolutePath() + QStringLiteral("/pilotel")};
-    QStringList missing{missingParts(program)};
-    if (missing.isEmpty()) {
-        const QByteArray path{QFile::encodeName(program)};
+    const QFileInfo program{self.absolutePath() + QStringLiteral("/pilotel")};
+    QStringList found{obstacles(program.filePath())};
+    if (found.isEmpty()) {
+        const QByteArray path{QFile::encodeName(program.filePath())};
         execv(path.constData(), argv);
-        missing.append(program);
+        found.append(program.filePath());
     }
 
     const QApplication application{argc, argv};
-    QMessageBox box{QMessageBox::Critical, QStringLiteral("Pilotel"),
-                    explanation(missing, self.absolutePath())};
+    QMessageBox box{QMessageBox::Critical, QStringLiteral("Pilotel"), explanation(found, program)};
     box.setTextFormat(Qt::PlainText);
-    box.setDetailedText(missing.join('\n'));
+    box.setDetailedText(found.join('\n'));
     box.exec();
     return EXIT_FAILURE;
 }

@@ -4,7 +4,9 @@
 #include "program.h"
 #include "testclass.h"
 
+#include <QByteArray>
 #include <QFile>
+#include <QIODevice>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
@@ -18,6 +20,9 @@ private slots:
     void startsTheProgram();
     void tellsThatTheLibraryIsMissing();
     void tellsThatTheLibraryIsAnotherOne();
+    void tellsThatTheLibraryCannotBeUsed_data();
+    void tellsThatTheLibraryCannotBeUsed();
+    void tellsThatTheProgramIsMissing();
 
 private:
     QStringList report() const { return linesOf(fileName).filter(QRegularExpression{"^(window|text) "}); }
@@ -71,6 +76,60 @@ void LauncherTest::tellsThatTheLibraryIsAnotherOne()
         "window QMessageBox Pilotel",
         "text Pilotel cannot start: libveltrix.sdk.so is not a delivery that this program was made for. Ask the maker "
         "for the one that belongs to the camera.",
+    };
+    QCOMPARE(report(), box);
+}
+
+void LauncherTest::tellsThatTheLibraryCannotBeUsed_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("text");
+    const QString notADelivery{
+        "text Pilotel cannot start: libveltrix.sdk.so is not a delivery that this program was made for. Ask the maker "
+        "for the one that belongs to the camera."};
+    QTest::newRow("empty") << QByteArray{} << notADelivery;
+    QTest::newRow("text") << QByteArray{"No library.\n"}.repeated(400) << notADelivery;
+    const QString unknown{"text Pilotel cannot start: a library that it needs is missing or cannot be used."};
+    QFile library{SDK_LIBRARY};
+    QVERIFY(library.open(QIODevice::ReadOnly));
+    QByteArray whole{library.readAll()};
+    // The loader dies of it without a word, so nobody can tell which library it was.
+    QTest::newRow("its first page") << whole.left(4096) << unknown;
+    QTest::newRow("made for a newer system") << whole.replace("GLIBCXX_3.", "GLIBCXX_9.") << unknown;
+}
+
+void LauncherTest::tellsThatTheLibraryCannotBeUsed()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, text);
+    const QTemporaryDir libraries;
+    QFile library{libraries.filePath("libveltrix.sdk.so")};
+    QVERIFY(library.open(QIODevice::WriteOnly));
+    QCOMPARE(library.write(content), qint64{content.size()});
+    library.close();
+    environment.insert("LD_LIBRARY_PATH", libraries.path());
+    fileName += QString{" with %1"}.arg(QTest::currentDataTag());
+    environment.insert("PILOTEL_TEST_REPORT", fileName);
+
+    const Outcome outcome{run(LAUNCHER, {"-plugin", "closewhenshown"}, environment)};
+    QVERIFY2(outcome.exited, qPrintable(outcome.errors));
+    QCOMPARE(outcome.status, 1);
+    const QStringList box{"window QMessageBox Pilotel", text};
+    QCOMPARE(report(), box);
+}
+
+void LauncherTest::tellsThatTheProgramIsMissing()
+{
+    const QTemporaryDir folder;
+    const QString alone{folder.filePath("pilotel-start")};
+    QVERIFY(QFile::copy(LAUNCHER, alone));
+    const Outcome outcome{run(alone, {"-plugin", "closewhenshown"}, environment)};
+    QVERIFY2(outcome.exited, qPrintable(outcome.errors));
+    QCOMPARE(outcome.status, 1);
+    const QStringList box{
+        "window QMessageBox Pilotel",
+        "text Pilotel cannot start: the program pilotel is not in the folder " + folder.path() +
+            ", or may not be run.",
     };
     QCOMPARE(report(), box);
 }
