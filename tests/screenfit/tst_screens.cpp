@@ -67,10 +67,16 @@ void ScreensTest::everyControlIsReached_data()
 {
     QTest::addColumn<QSize>("size");
     QTest::addColumn<QString>("scaling");
+    QTest::addColumn<QString>("icon");
     for (const QSize size : {QSize{1366, 768}, QSize{1280, 1024}, QSize{1920, 1080}}) {
-        for (const char *const scaling : {"1", "1.25", "1.5", "2"}) {
-            QTest::addRow("%dx%d at %s", size.width(), size.height(), scaling) << size << QString{scaling};
-        }
+        const auto row = [size](const char *scaling, const char *icon) {
+            QTest::addRow("%dx%d at %s", size.width(), size.height(), scaling)
+                << size << QString{scaling} << QString{icon};
+        };
+        row("1", "20x20@1");
+        row("1.25", "25x25@1.25");
+        row("1.5", "30x30@1.5");
+        row("2", "40x40@2");
     }
 }
 
@@ -78,6 +84,7 @@ void ScreensTest::everyControlIsReached()
 {
     QFETCH(QSize, size);
     QFETCH(QString, scaling);
+    QFETCH(QString, icon);
     QStringList found{findings(VirtualScreen{size, 40}, scaling)};
 
     const QRegularExpression places{"^(frame|content) "};
@@ -88,6 +95,9 @@ void ScreensTest::everyControlIsReached()
         "title Veltrix BU Pilotel",
         "scaling " + scaling,
         "the window is within the free part of the screen",
+        QString{"icons scanDeviceButton %1 connectDeviceButton %1 disconnectDeviceButton %1 "
+                "resetParamButtonUser %1"}
+            .arg(icon),
         everyControl,
         "the wheel comes to Clear Log",
     };

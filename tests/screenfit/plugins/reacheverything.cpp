@@ -9,9 +9,11 @@
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
+#include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QPixmap>
 #include <QPlainTextEdit>
 #include <QScreen>
 #include <QTabWidget>
@@ -100,6 +102,7 @@ void ReachEverything::goThroughTheWindow()
         tell("the window did not become active");
     }
     tellPlaces();
+    tellIcons();
     connectToTheCamera();
     goThroughThePages();
     turnTheWheel();
@@ -114,6 +117,22 @@ void ReachEverything::tellPlaces() const
     tell("content " + text(QRect{QPoint{}, content->size()}));
     const bool inside{window->screen()->availableGeometry().contains(window->frameGeometry())};
     tell(inside ? "the window is within the free part of the screen" : "the window sticks out");
+}
+
+void ReachEverything::tellIcons() const
+{
+    QString line{"icons"};
+    for (const char *const name :
+         {"scanDeviceButton", "connectDeviceButton", "disconnectDeviceButton", "resetParamButtonUser"}) {
+        const auto &button = *content->findChild<QAbstractButton *>(name);
+        const QPixmap icon{button.icon().pixmap(window->windowHandle(), button.iconSize())};
+        line += QStringLiteral(" %1 %2x%3@%4")
+                    .arg(name)
+                    .arg(icon.width())
+                    .arg(icon.height())
+                    .arg(icon.devicePixelRatio());
+    }
+    tell(line);
 }
 
 void ReachEverything::connectToTheCamera() const

@@ -10,9 +10,9 @@
 
 class QMainWindow;
 
-/// Connects to the simulated camera, goes through every page with the Tab key, turns the wheel over what is
-/// no control, and closes the window. What it finds is in the file that PILOTEL_TEST_REPORT names, a line
-/// each.
+/// Tells where the window is and how many pixels its icons have, connects to the simulated camera, goes
+/// through every page with the Tab key, turns the wheel over what is no control, and closes the window. What
+/// it finds is in the file that PILOTEL_TEST_REPORT names, a line each.
 class ReachEverything : public QObject
 {
     Q_OBJECT
@@ -26,6 +26,7 @@ private slots:
 
 private:
     void tellPlaces() const;
+    void tellIcons() const;
     void connectToTheCamera() const;
     void goThroughThePages();
     void goThroughOnePage();
