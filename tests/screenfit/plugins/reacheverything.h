@@ -37,7 +37,6 @@ private:
     QWidget *window{nullptr};
     QMainWindow *content{nullptr};
     QSet<QString> reached;
-    QSet<QString> hidden;
 };
 
 class ReachEverythingPlugin : public QGenericPlugin
