@@ -13,6 +13,7 @@
 #include <QSpinBox>
 #include <QStringList>
 #include <QTest>
+#include <QWidget>
 
 #include <array>
 #include <cstddef>
@@ -64,14 +65,20 @@ std::int64_t heldNumber(const TestWindow &test, const char *key)
     return std::get<std::int64_t>(test.simulator.get(key));
 }
 
-/// Types a number into a box and presses Enter.
-void type(const TestWindow &test, const QString &box, int number)
+/// Types a number into a box, and no more.
+void beginToType(const TestWindow &test, const QString &box, int number)
 {
     auto &spinBox = test.child<QAbstractSpinBox>(box);
     spinBox.setFocus();
     spinBox.selectAll();
     QTest::keyClicks(&spinBox, QString::number(number));
-    QTest::keyClick(&spinBox, Qt::Key_Return);
+}
+
+/// Types a number into a box and presses Enter.
+void type(const TestWindow &test, const QString &box, int number)
+{
+    beginToType(test, box, number);
+    QTest::keyClick(&test.child<QAbstractSpinBox>(box), Qt::Key_Return);
 }
 
 /// As the guide says: the second edges first.
@@ -104,6 +111,9 @@ private slots:
     void resetWithFusionOpenGoesToTheBlendUnit();
     void visibleAfterFusionGoesToTheBlendUnit();
     void zerosMeanThatAUnitHasStoppedAnswering();
+    void aNumberThatIsBegunIsSentWithTheSwitchToAnotherWindow();
+    void aNumberThatIsBegunIsSentWithTheEndOfTheProgram();
+    void theArrowsOfABoxSendOnceItIsLeft();
 };
 
 void GuideAdviceTest::aNewRegionIsTypedWithoutABox()
@@ -252,6 +262,45 @@ void GuideAdviceTest::zerosMeanThatAUnitHasStoppedAnswering()
     test.click(QStringLiteral("connectDeviceButton"));
     QCOMPARE(temperature.toPlainText(), QStringLiteral("23.65C"));
     QCOMPARE(gfid.value(), 250.0);
+}
+
+void GuideAdviceTest::aNumberThatIsBegunIsSentWithTheSwitchToAnotherWindow()
+{
+    TestWindow test;
+    test.beConnected();
+    turnToCamera(test, "LutSection");
+    beginToType(test, QStringLiteral("clheEdit"), 12);
+    QVERIFY(heldNumber(test, "camera.clhe") != 12);
+
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&other));
+    QCOMPARE(heldNumber(test, "camera.clhe"), std::int64_t{12});
+}
+
+void GuideAdviceTest::aNumberThatIsBegunIsSentWithTheEndOfTheProgram()
+{
+    TestWindow test;
+    test.beConnected();
+    turnToCamera(test, "LutSection");
+    beginToType(test, QStringLiteral("clheEdit"), 12);
+    QVERIFY(test.window().close());
+    QCOMPARE(heldNumber(test, "camera.clhe"), std::int64_t{12});
+}
+
+void GuideAdviceTest::theArrowsOfABoxSendOnceItIsLeft()
+{
+    TestWindow test;
+    test.beConnected();
+    turnToCamera(test, "LutSection");
+    type(test, QStringLiteral("clheEdit"), 12);
+    auto &box = test.child<QAbstractSpinBox>(QStringLiteral("clheEdit"));
+    QTest::keyClick(&box, Qt::Key_Up);
+    QCOMPARE(box.text(), QStringLiteral("13"));
+    QCOMPARE(heldNumber(test, "camera.clhe"), std::int64_t{12});
+    QTest::keyClick(&box, Qt::Key_Tab);
+    QCOMPARE(heldNumber(test, "camera.clhe"), std::int64_t{13});
 }
 
 PILOTEL_TEST_CLASS(GuideAdviceTest)
