@@ -63,8 +63,9 @@ private:
         waitsForPress = false;
         pressed = &widget;
         button = event.button();
-        release.reset(new QMouseEvent{QEvent::MouseButtonRelease, event.localPos(), event.windowPos(),
-                                      event.screenPos(), event.button(), Qt::NoButton, event.modifiers()});
+        release =
+            std::make_unique<QMouseEvent>(QEvent::MouseButtonRelease, event.localPos(), event.windowPos(),
+                                          event.screenPos(), event.button(), Qt::NoButton, event.modifiers());
         releaseOnceLetGo();
     }
 
