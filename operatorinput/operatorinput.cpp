@@ -5,12 +5,28 @@
 
 #include "wheel.h"
 
+#include <QAbstractSpinBox>
 #include <QCoreApplication>
+#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QSlider>
 #include <QWheelEvent>
 #include <QWindow>
+
+namespace
+{
+
+/// A menu borrows the focus of a spin box when it opens, and again when one of its lines is chosen, and gives
+/// it back. Told of that, the box would report that its edit is finished, with the value as far as it has
+/// been typed.
+bool isLentToMenu(const QObject &widget, const QFocusEvent &event)
+{
+    return event.reason() == Qt::PopupFocusReason &&
+           qobject_cast<const QAbstractSpinBox *>(&widget) != nullptr;
+}
+
+} // namespace
 
 OperatorInput::OperatorInput()
 {
@@ -63,6 +79,9 @@ bool OperatorInput::filterForWidget(QObject &widget, QEvent &event)
 {
     if (event.type() == QEvent::InputMethod) {
         return staleInput.takes(event);
+    }
+    if (event.type() == QEvent::FocusOut && isLentToMenu(widget, static_cast<QFocusEvent &>(event))) {
+        return true;
     }
     auto *const slider = qobject_cast<QSlider *>(&widget);
     if (slider == nullptr) {

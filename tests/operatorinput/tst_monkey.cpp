@@ -5,6 +5,7 @@
 #include "boxpresser.h"
 #include "camerapage.h"
 #include "controls.h"
+#include "menuhand.h"
 #include "operatorwindow.h"
 #include "testclass.h"
 
@@ -152,21 +153,22 @@ private:
         return (popup != nullptr ? popup : &test.window())->focusWidget();
     }
 
-    /// What the control around a widget may send now.
-    void askFor(const QWidget *widget)
+    /// What the control around a widget may send.
+    Asked askedFrom(const QWidget *widget) const
     {
         for (; widget != nullptr; widget = widget->parentWidget()) {
             if (controls.contains(widget->objectName()) && !qobject_cast<const QTabWidget *>(widget)) {
-                asked += controls[widget->objectName()];
-                return;
+                return controls[widget->objectName()];
             }
             // Pages are chosen on their bar, which has no name of its own.
             if (qobject_cast<const QTabBar *>(widget) != nullptr) {
-                asked += controls.value(widget->parentWidget()->objectName());
-                return;
+                return controls.value(widget->parentWidget()->objectName());
             }
         }
+        return {};
     }
+
+    void askFor(const QWidget *widget) { asked += askedFrom(widget); }
 
     /// A spin box that is left has finished its edit, and a slider is let go.
     void askForLeaving() { askFor(focus()); }
@@ -208,11 +210,26 @@ private:
     QString click()
     {
         const QPoint place{somewhere()};
+        const QString name{nameAt(place)};
+        if (random.bounded(4) == 0) {
+            return rightClick(place, name);
+        }
         askForLeaving();
         askFor(widgetAt(place));
-        const QString name{nameAt(place)};
         test.clickAt(place);
         return "click on " + name;
+    }
+
+    /// Moves the focus where it is elsewhere, opens a menu at most, and asks for nothing.
+    QString rightClick(const QPoint &place, const QString &name)
+    {
+        QWidget *const left{focus()};
+        const Asked byTheOneLeft{askedFrom(left)};
+        QTest::mouseClick(&test.native(), Qt::RightButton, Qt::NoModifier, place);
+        if (focus() != left) {
+            asked += byTheOneLeft;
+        }
+        return "right click on " + name;
     }
 
     QString drag()
@@ -283,6 +300,7 @@ void MonkeyTest::everyCommandWasAskedFor()
     constexpr quint32 seed{20261122};
     OperatorWindow test;
     BoxPresser presser{test.boxes};
+    MenuHand menus;
     test.beConnected();
     test.showPage("Veltrix_KR_tab");
     test.takeCalls();
@@ -324,11 +342,12 @@ void MonkeyTest::everyCommandWasAskedFor()
             test.simulator.clearJournal();
         }
         test.boxes.takeShown();
-        // What the off-screen platform cannot do for the lists of the combo boxes.
+        // What the off-screen platform cannot do for menus and the lists of the combo boxes.
         test.warnings.take();
     }
-    qInfo("%d acts, %d commands", acts, commands);
+    qInfo("%d acts, %d commands, %d menus", acts, commands, menus.count);
     // A monkey that reaches nothing proves nothing.
+    QVERIFY(menus.count > 0);
     QVERIFY(commands > acts / 20);
 }
 
