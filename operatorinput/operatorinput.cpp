@@ -26,6 +26,17 @@ bool isLentToMenu(const QObject &widget, const QFocusEvent &event)
            qobject_cast<const QAbstractSpinBox *>(&widget) != nullptr;
 }
 
+/// Enter ends an edit and answers a box, each time that it is pressed: held, it would send a stream, and
+/// answer a box that nobody has seen.
+bool isHeldEnter(const QEvent &event)
+{
+    if (event.type() != QEvent::KeyPress) {
+        return false;
+    }
+    const auto &key = static_cast<const QKeyEvent &>(event);
+    return key.isAutoRepeat() && (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter);
+}
+
 } // namespace
 
 OperatorInput::OperatorInput()
@@ -65,7 +76,7 @@ bool OperatorInput::eventFilter(QObject *watched, QEvent *event)
 
 bool OperatorInput::filterForWindow(QObject &window, QEvent &event)
 {
-    if (staleInput.takes(event)) {
+    if (staleInput.takes(event) || isHeldEnter(event)) {
         return true;
     }
     if (event.type() == QEvent::KeyRelease) {

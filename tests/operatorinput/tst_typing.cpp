@@ -11,10 +11,14 @@
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QCoreApplication>
+#include <QDialog>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QSpinBox>
 #include <QTest>
+#include <QWindow>
+#include <qtestspontaneevent.h>
 
 namespace
 {
@@ -42,6 +46,27 @@ void addBoxes()
     QTest::addColumn<QString>("call");
     for (const TypedBox &box : {plainBox, coupledBox}) {
         QTest::newRow(box.name) << box.page << box.name << box.call;
+    }
+}
+
+void addEnterKeys()
+{
+    QTest::addColumn<int>("key");
+    QTest::newRow("Return") << int{Qt::Key_Return};
+    QTest::newRow("Enter") << int{Qt::Key_Enter};
+}
+
+/// What a key that is held repeats, as it reaches a window.
+void repeatKey(QWindow &window, int key)
+{
+    constexpr int times{20};
+    for (int repeat{0}; repeat < times; ++repeat) {
+        // X11 tells a release before each repeated press, Windows does not.
+        for (const QEvent::Type type : {QEvent::KeyRelease, QEvent::KeyPress}) {
+            QKeyEvent event{type, key, Qt::NoModifier, QStringLiteral("\r"), true};
+            QSpontaneKeyEvent::setSpontaneous(&event);
+            QCoreApplication::instance()->notify(&window, &event);
+        }
     }
 }
 
@@ -88,6 +113,10 @@ private slots:
     void aMenuRaisesNoBoxAboutTheOrder();
     void aChoiceOfTheMenuIsAnEditLikeAnyOther();
     void leavingAfterAMenuSendsOnce();
+    void aHeldEnterSendsOnce_data() { addEnterKeys(); }
+    void aHeldEnterSendsOnce();
+    void aHeldEnterLeavesTheBoxOpen_data() { addEnterKeys(); }
+    void aHeldEnterLeavesTheBoxOpen();
 };
 
 void TypingTest::aMenuFinishesNoEdit()
@@ -217,6 +246,48 @@ void TypingTest::leavingAfterAMenuSendsOnce()
     test.clickAt(test.middleOf("logView"));
     QVERIFY(!test.child<QWidget>(coupledBox.name).hasFocus());
     QCOMPARE(test.takeCalls(), QStringList{callOf(coupledBox, 12)});
+}
+
+void TypingTest::aHeldEnterSendsOnce()
+{
+    QFETCH(const int, key);
+    OperatorWindow test;
+    openCameraPage(test, plainBox.page);
+    typeInto(test, plainBox.name, "12");
+    test.takeCallsAndRecords();
+
+    test.key(QEvent::KeyPress, static_cast<Qt::Key>(key));
+    repeatKey(test.native(), key);
+    test.key(QEvent::KeyRelease, static_cast<Qt::Key>(key));
+    QCOMPARE(test.takeCalls(), QStringList{callOf(plainBox, 12)});
+
+    // The next one is one more.
+    QTest::keyClick(&test.native(), static_cast<Qt::Key>(key));
+    QCOMPARE(test.takeCalls(), QStringList{callOf(plainBox, 12)});
+}
+
+void TypingTest::aHeldEnterLeavesTheBoxOpen()
+{
+    QFETCH(const int, key);
+    OperatorWindow test;
+    openRegion(test, 0);
+    show(test, "Roi0IncX2", 200);
+    typeInto(test, "Roi0IncX1", "300");
+    test.takeCallsAndRecords();
+
+    bool stillOpen{false};
+    test.boxes.expect([&](QDialog &box) {
+        repeatKey(*box.windowHandle(), key);
+        QCoreApplication::processEvents();
+        stillOpen = box.isVisible();
+        QTest::keyRelease(box.windowHandle(), static_cast<Qt::Key>(key));
+        // Pressed anew it answers the box.
+        QTest::keyClick(box.windowHandle(), static_cast<Qt::Key>(key));
+    });
+    QTest::keyPress(&test.native(), static_cast<Qt::Key>(key));
+    QVERIFY(stillOpen);
+    QCOMPARE(test.boxes.takeShown(), QStringList{orderBox(0, "X1")});
+    QCOMPARE(test.takeCalls(), QStringList{sent("X1", 300, 0, flagsOfOnly.at(0))});
 }
 
 PILOTEL_TEST_CLASS(TypingTest)
