@@ -278,8 +278,10 @@ private:
     SequenceObserver sequenceObserver;
     int sequenceDepth{0};          ///< Of sequences that run inside one another.
     QElapsedTimer sinceLogPainted; ///< Or since the sequence has begun.
-    /// Of the latest painting, in nanoseconds; before the first one what it may take.
-    qint64 logPaintingTime{1'000'000};
+    /// What the first painting of a sequence may take, in nanoseconds.
+    static constexpr qint64 supposedLogPaintingTime{1'000'000};
+    /// Of the latest painting in this sequence.
+    qint64 logPaintingTime{supposedLogPaintingTime};
     const SliderPair *typedPair{nullptr};   ///< While its slider follows a key typed into its box.
     const SliderPair *waitingPair{nullptr}; ///< What was typed into its box is not what its slider stands at.
     bool regionBoxOpen{false}; ///< While the box about the order of a region's coordinates is shown.

@@ -14,6 +14,8 @@ public:
     {
         if (window.sequenceDepth++ == 0) {
             window.sinceLogPainted.start();
+            // A slow painting of an earlier one, of a large log, keeps no first line waiting.
+            window.logPaintingTime = supposedLogPaintingTime;
             tell(true);
         }
     }

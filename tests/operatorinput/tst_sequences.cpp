@@ -89,6 +89,21 @@ private:
     QEvent::Type type;
 };
 
+/// Makes each painting of a widget slow while it lives.
+class SlowPainting : public QObject
+{
+public:
+    explicit SlowPainting(QWidget &painted) { painted.installEventFilter(this); }
+
+    bool eventFilter(QObject * /*watched*/, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint) {
+            QTest::qSleep(100);
+        }
+        return false;
+    }
+};
+
 int timesRead(const QStringList &calls)
 {
     // Once for each unit.
@@ -115,6 +130,7 @@ private slots:
     void thePointerSaysBusy();
     void aBoxHasTheOrdinaryPointerAndIsAnswered();
     void theFirstLineIsPaintedBeforeTheSecondCommandEnds();
+    void aSlowPaintingKeepsNoLaterSequenceWaiting();
     void aQuickSequencePaintsNothing();
     void lineAfterLineIsPaintedOnASlowLink();
     void aSingleCommandPaintsNothingByItself();
@@ -356,6 +372,36 @@ void SequencesTest::theFirstLineIsPaintedBeforeTheSecondCommandEnds()
 
     test.click("connectDeviceButton");
     // The second line comes after the second command.
+    QCOMPARE(painted.mid(0, 2), (QVector<int>{0, 1}));
+}
+
+void SequencesTest::aSlowPaintingKeepsNoLaterSequenceWaiting()
+{
+    OperatorWindow test;
+    test.beConnected();
+    rest();
+    auto &log = test.child<QPlainTextEdit>("logView");
+    QVector<int> painted;
+    EventCounter paintings{*log.viewport(), QEvent::Paint};
+    QObject::connect(log.document(), &QTextDocument::contentsChanged, &paintings, [&] {
+        painted.append(paintings.count);
+        if (painted.size() == 1) {
+            // The time of the first command, on a slow link.
+            QTest::qSleep(500);
+        }
+    });
+    {
+        const SlowPainting slow{*log.viewport()};
+        test.invoke("readAllParameters");
+        // Painted once at least, slowly, or nothing is shown below.
+        QVERIFY(painted.size() > 1);
+        QCOMPARE(painted.at(1), 1);
+    }
+    rest();
+
+    painted.clear();
+    paintings.count = 0;
+    test.invoke("readAllParameters");
     QCOMPARE(painted.mid(0, 2), (QVector<int>{0, 1}));
 }
 
