@@ -411,15 +411,23 @@ void SequencesTest::aQuickSequencePaintsNothing()
     openCameraPage(test, "LutSection");
     rest();
     EventCounter paintings{*test.child<QPlainTextEdit>("logView").viewport(), QEvent::Paint};
-    QElapsedTimer timer;
-    timer.start();
-    test.invoke("ApplyParamsUser");
-    // As the machine allows: nothing before 20 ms.
-    if (timer.elapsed() < 20) {
-        QCOMPARE(paintings.count, 0);
+    // Nothing is painted before 20 ms; a machine that is busy may take longer now and then.
+    bool quick{false};
+    for (int run{0}; run < 20 && !quick; ++run) {
+        paintings.count = 0;
+        QElapsedTimer timer;
+        timer.start();
+        test.invoke("ApplyParamsUser");
+        quick = timer.elapsed() < 20;
+        if (quick) {
+            QCOMPARE(paintings.count, 0);
+        }
+        rest();
+        QVERIFY(paintings.count > 0);
     }
-    rest();
-    QVERIFY(paintings.count > 0);
+    if (!quick) {
+        QSKIP("this machine takes 20 ms or more for a sequence, each of 20 times");
+    }
 }
 
 void SequencesTest::lineAfterLineIsPaintedOnASlowLink()
