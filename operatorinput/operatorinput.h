@@ -11,8 +11,8 @@
 
 /// While it lives, the wheel changes nothing by accident, a slider that was moved by a key, by the wheel or
 /// by a press beside its handle is released, a menu finishes no edit of a spin box, Enter counts once however
-/// long it is held, and what is clicked or typed during a sequence of commands is dropped. It sees every event
-/// of the application, and knows no window.
+/// long it is held, and what is clicked or typed during a sequence of commands is dropped. It sees every
+/// event of the application, and knows no window.
 class OperatorInput : public QObject
 {
 public:

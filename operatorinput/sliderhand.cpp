@@ -101,9 +101,14 @@ bool SliderHand::bringsHandle(QSlider &slider, QMouseEvent &event)
     // On its middle, also where the steps are so far apart that the press is still beside it: from here on it
     // is a drag like any other.
     const QPoint middle{partOf(slider, QStyle::SC_SliderHandle).center()};
+    event.accept();
+    if (!isOnHandle(slider, middle)) {
+        // A style whose handle cannot be taken hold of in its middle: it would be brought without end.
+        letGo(slider);
+        return true;
+    }
     QMouseEvent onHandle{QEvent::MouseButtonPress, middle,          slider.mapToGlobal(middle),
                          event.button(),           event.buttons(), event.modifiers()};
     QCoreApplication::sendEvent(&slider, &onHandle);
-    event.accept();
     return true;
 }

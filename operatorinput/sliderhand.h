@@ -20,8 +20,9 @@ public:
     /// The focus goes, and with it the release of a key that is still held.
     void left(QSlider &slider);
 
-    /// A left press beside the handle brings the handle there and takes hold of it. Says whether the press
-    /// was such a one; the slider must not get it then.
+    /// A left press beside the handle brings the handle there and takes hold of it; a handle that the style
+    /// does not let be held is let go at once. Says whether the press was such a one; the slider must not get
+    /// it then.
     static bool bringsHandle(QSlider &slider, QMouseEvent &event);
 
     /// Releases the slider as the end of a drag does. One that is being dragged has its own release.

@@ -6,6 +6,7 @@
 #include "operatorwindow.h"
 #include "testclass.h"
 
+#include <QProxyStyle>
 #include <QSignalSpy>
 #include <QSlider>
 #include <QTest>
@@ -34,6 +35,18 @@ QPoint placeAt(OperatorWindow &test, const QSlider &slider, double part)
     return slider.mapTo(&test.window(), {static_cast<int>(slider.width() * part), slider.height() / 2});
 }
 
+/// A style whose slider has a handle that no place belongs to.
+class StyleWithoutHandle : public QProxyStyle
+{
+public:
+    SubControl hitTestComplexControl(ComplexControl control, const QStyleOptionComplex *option,
+                                     const QPoint &place, const QWidget *widget) const override
+    {
+        const SubControl part{QProxyStyle::hitTestComplexControl(control, option, place, widget)};
+        return control == CC_Slider && part == SC_SliderHandle ? SC_SliderGroove : part;
+    }
+};
+
 } // namespace
 
 class SliderHandTest : public QObject
@@ -53,6 +66,7 @@ private slots:
     void aPressBesideTheHandleBringsItThereAndSendsOnce();
     void aPressBesideTheHandleGoesOnAsADrag();
     void aPressOnTheHandleMovesNothing();
+    void aHandleThatCannotBeHeldIsBroughtAndSent();
     void theOtherButtonsBringNothing();
     void aDisabledSliderStays();
 };
@@ -255,6 +269,23 @@ void SliderHandTest::aPressOnTheHandleMovesNothing()
     QCOMPARE(slider.value(), 500);
     test.release(place);
     QCOMPARE(test.takeCalls(), QStringList{gfid(500)});
+}
+
+void SliderHandTest::aHandleThatCannotBeHeldIsBroughtAndSent()
+{
+    StyleWithoutHandle style;
+    OperatorWindow test;
+    QSlider &slider{openGfid(test)};
+    slider.setStyle(&style);
+
+    test.press(placeAt(test, slider, 0.8));
+    const int brought{slider.value()};
+    QVERIFY(brought > 700);
+    QVERIFY(!slider.isSliderDown());
+    QCOMPARE(test.takeCalls(), QStringList{gfid(brought)});
+    test.release(placeAt(test, slider, 0.8));
+    QCOMPARE(slider.value(), brought);
+    QCOMPARE(test.takeCallsAndRecords(), QStringList{});
 }
 
 void SliderHandTest::theOtherButtonsBringNothing()
