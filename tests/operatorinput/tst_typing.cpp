@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Tests of what is typed into a spin box: only the end of the edit sends it.
 #include "camerapage.h"
+#include "fittedwindow.h"
 #include "menuhand.h"
 #include "operatorwindow.h"
 #include "regioncoordinates.h"
@@ -19,6 +20,8 @@
 #include <QTest>
 #include <QWindow>
 #include <qtestspontaneevent.h>
+
+#include <memory>
 
 namespace
 {
@@ -117,6 +120,8 @@ private slots:
     void aHeldEnterSendsOnce();
     void aHeldEnterLeavesTheBoxOpen_data() { addEnterKeys(); }
     void aHeldEnterLeavesTheBoxOpen();
+    void closingTheWindowSendsWhatIsTyped_data();
+    void closingTheWindowSendsWhatIsTyped();
 };
 
 void TypingTest::aMenuFinishesNoEdit()
@@ -288,6 +293,46 @@ void TypingTest::aHeldEnterLeavesTheBoxOpen()
     QVERIFY(stillOpen);
     QCOMPARE(test.boxes.takeShown(), QStringList{orderBox(0, "X1")});
     QCOMPARE(test.takeCalls(), QStringList{sent("X1", 300, 0, flagsOfOnly.at(0))});
+}
+
+void TypingTest::closingTheWindowSendsWhatIsTyped_data()
+{
+    QTest::addColumn<bool>("fitted");
+    QTest::addColumn<bool>("wrongOrder");
+    QTest::newRow("bare") << false << false;
+    QTest::newRow("bare, wrong order") << false << true;
+    QTest::newRow("fitted") << true << false;
+    QTest::newRow("fitted, wrong order") << true << true;
+}
+
+void TypingTest::closingTheWindowSendsWhatIsTyped()
+{
+    QFETCH(const bool, fitted);
+    QFETCH(const bool, wrongOrder);
+    OperatorWindow test;
+    openRegion(test, 0);
+    show(test, "Roi0IncX2", 200);
+    std::unique_ptr<FittedWindow> around;
+    if (fitted) {
+        test.window().hide();
+        around = std::make_unique<FittedWindow>(test.window());
+        test.window().show();
+        QVERIFY(QTest::qWaitForWindowActive(around.get()));
+    }
+    const int typed{wrongOrder ? 300 : 100};
+    type(test, "Roi0IncX1", typed);
+    test.takeCallsAndRecords();
+    if (wrongOrder) {
+        test.boxes.expect();
+    }
+
+    QWidget &top{fitted ? static_cast<QWidget &>(*around) : test.window()};
+    QCoreApplication::postEvent(top.windowHandle(), new QEvent{QEvent::Close});
+    QCoreApplication::processEvents();
+    QVERIFY(!top.isVisible());
+    QVERIFY(!test.window().isVisible());
+    QCOMPARE(test.boxes.takeShown(), wrongOrder ? QStringList{orderBox(0, "X1")} : QStringList{});
+    QCOMPARE(test.takeCalls(), QStringList{sent("X1", typed, 0, flagsOfOnly.at(0))});
 }
 
 PILOTEL_TEST_CLASS(TypingTest)
