@@ -24,7 +24,7 @@ bool isLight(const QPalette &palette)
 /// The colours of the style itself; those of Qt's own style where it is a dark one.
 QPalette lightPalette()
 {
-    const QPalette ofTheStyle{QApplication::style()->standardPalette()};
+    QPalette ofTheStyle{QApplication::style()->standardPalette()};
     if (isLight(ofTheStyle)) {
         return ofTheStyle;
     }
