@@ -107,7 +107,7 @@ void ResetDefaultsTest::isShown()
     QFETCH(const QString, control);
     QFETCH(const QByteArray, property);
     QFETCH(const double, shown);
-    TestWindow test;
+    TestWindow test{{}, TestWindow::Drawing::Off};
     openCameraPage(test, "LutSection");
     if (property == "checked") {
         test.child<QAbstractButton>(control).setChecked(!said.toBool());

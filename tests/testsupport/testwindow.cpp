@@ -4,6 +4,7 @@
 #include "testwindow.h"
 
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QLatin1Char>
 #include <QPlainTextEdit>
 #include <QSerialPortInfo>
@@ -55,6 +56,8 @@ TestWindow::TestWindow(const Preparation &prepare, Drawing drawing) : simulator{
     mainWindow->setUpdatesEnabled(drawing == Drawing::On);
     mainWindow->show();
     mainWindow->activateWindow();
+    // Qt Test sleeps before it handles the events that make the window active.
+    QCoreApplication::processEvents();
     if (!QTest::qWaitForWindowActive(mainWindow.get())) {
         QTest::qFail("the window did not become active", __FILE__, __LINE__);
     }
