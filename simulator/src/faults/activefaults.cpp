@@ -81,14 +81,14 @@ void ActiveFaults::add(FaultRule rule)
     demandApplicable(rule);
     rule.from = std::max<std::size_t>(rule.from, 1);
     rule.every = std::max<std::size_t>(rule.every, 1);
-    std::string stream = streamName(rule);
+    const std::string stream = streamName(rule);
     // Two equal faults get different random numbers.
     const auto isEqual = [&](const ActiveFault &earlier) {
         return streamName(earlier.rule) == stream;
     };
-    stream += '/' + std::to_string(std::count_if(faults.begin(), faults.end(), isEqual));
-    const Random chance{seed, stream + "/chance"};
-    ActiveFault fault{std::move(rule), {}, std::move(stream), chance};
+    const auto equals = std::count_if(faults.begin(), faults.end(), isEqual);
+    const Random random{seed, stream + '/' + std::to_string(equals) + '/'};
+    ActiveFault fault{std::move(rule), {}, random.forPart("chance"), random};
     for (const OperationId operation : fault.rule.operations) {
         fault.operations.set(static_cast<std::size_t>(operation));
     }
@@ -129,7 +129,7 @@ std::optional<PlannedEffect> ActiveFaults::match(OperationId operation, int targ
     }
     last->fired = true;
     return effectOf(last->rule, operationOf(operation),
-                    Random{seed, last->stream + '/' + std::to_string(last->considered)});
+                    last->hitting.forPart(std::to_string(last->considered)));
 }
 
 std::vector<std::string> ActiveFaults::unfired() const

@@ -49,8 +49,8 @@ private:
 
         FaultRule rule;
         std::bitset<static_cast<std::size_t>(OperationId::count)> operations;
-        std::string stream; ///< Name of its random numbers.
-        Random chance;
+        Random chance;  ///< Whether it hits.
+        Random hitting; ///< What a hit answers; each hit, by the number of the call, has its own part.
         std::size_t considered{0};
         bool afterWasCalled{false};
         bool fired{false};

@@ -15,11 +15,14 @@ namespace veltrix_simulator
 class Random
 {
 public:
-    Random(std::uint64_t seed, std::string_view purpose) : state{seed}
+    Random(std::uint64_t seed, std::string_view purpose) : state{seed} { takeIn(purpose); }
+
+    /// The numbers for a part of the purpose, if none was drawn yet: its name is what follows the purpose's.
+    Random forPart(std::string_view name) const
     {
-        for (const char character : purpose) {
-            state = mix(state + static_cast<unsigned char>(character) + increment);
-        }
+        Random part{*this};
+        part.takeIn(name);
+        return part;
     }
 
     std::uint64_t bits()
@@ -44,6 +47,13 @@ private:
         number = (number ^ (number >> 30)) * 0xBF58476D1CE4E5B9;
         number = (number ^ (number >> 27)) * 0x94D049BB133111EB;
         return number ^ (number >> 31);
+    }
+
+    void takeIn(std::string_view name)
+    {
+        for (const char character : name) {
+            state = mix(state + static_cast<unsigned char>(character) + increment);
+        }
     }
 
     std::uint64_t state;
