@@ -16,7 +16,7 @@ namespace
 {
 
 constexpr int measuredCalls{10'000};
-constexpr int batches{20};
+constexpr int timedBatches{20};
 
 using veltrix_sdk::IDeviceControl;
 
@@ -31,7 +31,7 @@ double microsecondsPerCall(const Measured &measured, IDeviceControl &device)
 {
     auto &simulator = veltrix_simulator::Simulator::instance();
     double quickest{std::numeric_limits<double>::max()};
-    for (int batch{0}; batch < batches; ++batch) {
+    for (int batch{0}; batch < timedBatches; ++batch) {
         int done{0};
         QElapsedTimer timer;
         timer.start();
