@@ -5,12 +5,17 @@
 
 #include "wheel.h"
 
+#include <QAbstractScrollArea>
 #include <QAbstractSpinBox>
 #include <QCoreApplication>
+#include <QCursor>
 #include <QFocusEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPlainTextEdit>
 #include <QSlider>
+#include <QTextEdit>
 #include <QWheelEvent>
 #include <QWindow>
 
@@ -35,6 +40,28 @@ bool isHeldEnter(const QEvent &event)
     }
     const auto &key = static_cast<const QKeyEvent &>(event);
     return key.isAutoRepeat() && (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter);
+}
+
+/// While the mouse is held outside a text, a timer of the text's moves the selection on. Where a selection
+/// was dragged out, the drag has kept the release for itself: the timer would begin one drag after the other.
+/// Says whether it was such a timer; the release is made up for then.
+bool endsForgottenDrag(QObject &widget)
+{
+    const bool isText{qobject_cast<QPlainTextEdit *>(&widget) != nullptr ||
+                      qobject_cast<QTextEdit *>(&widget) != nullptr};
+    if (!isText || QGuiApplication::mouseButtons().testFlag(Qt::LeftButton)) {
+        return false;
+    }
+    QWidget &viewport{*static_cast<QAbstractScrollArea &>(widget).viewport()};
+    const QPoint place{QCursor::pos()};
+    QMouseEvent release{QEvent::MouseButtonRelease,
+                        viewport.mapFromGlobal(place),
+                        place,
+                        Qt::LeftButton,
+                        Qt::NoButton,
+                        Qt::NoModifier};
+    QCoreApplication::sendEvent(&viewport, &release);
+    return true;
 }
 
 } // namespace
@@ -64,6 +91,7 @@ bool OperatorInput::eventFilter(QObject *watched, QEvent *event)
     case QEvent::TouchCancel:
     case QEvent::WindowBlocked:
     case QEvent::WindowUnblocked:
+    case QEvent::Timer:
         break;
     default:
         return false;
@@ -90,6 +118,9 @@ bool OperatorInput::filterForWidget(QObject &widget, QEvent &event)
 {
     if (event.type() == QEvent::InputMethod) {
         return staleInput.takes(event);
+    }
+    if (event.type() == QEvent::Timer) {
+        return endsForgottenDrag(widget);
     }
     if (event.type() == QEvent::FocusOut && isLentToMenu(widget, static_cast<QFocusEvent &>(event))) {
         return true;

@@ -20,6 +20,8 @@
 #include <QTabBar>
 #include <QTest>
 
+#include <algorithm>
+
 namespace
 {
 
@@ -331,6 +333,10 @@ void MonkeyTest::everyCommandWasAskedFor()
                                 .arg(monkey.asked.count)
                                 .arg(monkey.asked.operations.join(' '))};
         QVERIFY2(sent.size() <= monkey.asked.count, qPrintable(story));
+        const QList<QSlider *> sliders{test.window().findChildren<QSlider *>()};
+        QVERIFY2(std::none_of(sliders.begin(), sliders.end(),
+                              [](const QSlider *slider) { return slider->isSliderDown(); }),
+                 qPrintable(story));
         if (!monkey.asked.operations.contains(anyCommand)) {
             for (const QString &operation : qAsConst(sent)) {
                 QVERIFY2(monkey.asked.operations.contains(operation), qPrintable(story));
