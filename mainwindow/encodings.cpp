@@ -64,7 +64,11 @@ int roundToInt(double value)
     }
     const double lowest{std::numeric_limits<int>::min()};
     const double highest{std::numeric_limits<int>::max()};
-    return static_cast<int>(std::round(std::clamp(value, lowest, highest)));
+    const double within{std::clamp(value, lowest, highest)};
+    // Not std::round: that of mingw-w64 makes 1 of the last double below 0.5.
+    const double whole{std::trunc(within)};
+    const bool isNearerToNext{std::abs(within - whole) >= 0.5};
+    return static_cast<int>(isNearerToNext ? whole + std::copysign(1.0, within) : whole);
 }
 
 std::uint8_t toByte(int value)
