@@ -3,11 +3,13 @@
 // Writing a file so that it is never half written.
 #include "output/replacefile.h"
 
+#include <chrono>
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <ios>
 #include <system_error>
+#include <thread>
 
 #if defined(_WIN32)
 #include <io.h>
@@ -27,6 +29,8 @@ int openForFlush(const std::filesystem::path &path)
 }
 constexpr auto flush = _commit;
 constexpr auto closeAgain = _close;
+// There a file that another program has open keeps its name; one that looks for viruses has it for a moment.
+constexpr int attempts{50};
 #else
 int openForFlush(const std::filesystem::path &path)
 {
@@ -34,7 +38,9 @@ int openForFlush(const std::filesystem::path &path)
 }
 constexpr auto flush = fsync;
 constexpr auto closeAgain = close;
+constexpr int attempts{1};
 #endif
+constexpr std::chrono::milliseconds pauseBetweenAttempts{10};
 
 /// Waits until the disk has the file.
 bool flushToDisk(const std::filesystem::path &path)
@@ -72,6 +78,10 @@ std::optional<std::string> replaceFile(const std::string &name, std::string_view
     }
     std::error_code error;
     std::filesystem::rename(temporary, std::filesystem::u8path(name), error);
+    for (int attempt{1}; error && attempt < attempts; ++attempt) {
+        std::this_thread::sleep_for(pauseBetweenAttempts);
+        std::filesystem::rename(temporary, std::filesystem::u8path(name), error);
+    }
     if (error) {
         std::error_code ignored;
         std::filesystem::remove(temporary, ignored);
