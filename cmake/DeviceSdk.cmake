@@ -5,13 +5,16 @@
 #
 # The program is linked against pilotel::device_sdk only. Whichever library is linked here, another one with
 # the same contract and file name can take its place at run time.
-set(PILOTEL_DEVICE_SDK "" CACHE FILEPATH "The maker's veltrix.sdk (on Windows its import library); empty: the simulated SDK")
+set(PILOTEL_DEVICE_SDK "" CACHE FILEPATH "The maker's veltrix.sdk (with Visual Studio its import library); empty: the simulated SDK")
 
-if(PILOTEL_DEVICE_SDK)
-    if(NOT EXISTS "${PILOTEL_DEVICE_SDK}")
-        message(FATAL_ERROR "PILOTEL_DEVICE_SDK: ${PILOTEL_DEVICE_SDK} does not exist. "
-            "Name the maker's library, or leave the variable empty to build against the simulated SDK.")
-    endif()
+if(PILOTEL_DEVICE_SDK AND NOT EXISTS "${PILOTEL_DEVICE_SDK}")
+    message(FATAL_ERROR "PILOTEL_DEVICE_SDK: ${PILOTEL_DEVICE_SDK} does not exist. "
+        "Name the maker's library, or leave the variable empty to build against the simulated SDK.")
+endif()
+
+if(MINGW)
+    include(MicrosoftImports)
+elseif(PILOTEL_DEVICE_SDK)
     add_library(pilotel_device_sdk UNKNOWN IMPORTED GLOBAL)
     set_target_properties(pilotel_device_sdk PROPERTIES
         IMPORTED_LOCATION "${PILOTEL_DEVICE_SDK}"

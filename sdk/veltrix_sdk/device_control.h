@@ -4,6 +4,7 @@
 // those of numbers.h.
 #pragma once
 
+#include "veltrix_sdk/export.h"
 #include "veltrix_sdk/records.h"
 
 #include <cstdint>
@@ -90,7 +91,17 @@ public:
     virtual bool setMavlinkBaudRate(std::int32_t baudRate, bool permanent) = 0;
     /// 51: edgeTypeRange, edgeGainRange, edgeThresholdRange; gain and threshold are unscaled.
     virtual bool configureEdgeCorrection(std::uint8_t type, std::uint32_t gain, std::uint32_t threshold) = 0;
+#if !defined(VELTRIX_SDK_SPELLED_OUT)
     virtual EdgeCorrection getEdgeCorrection() = 0; ///< 52
+#else
+    /// 52: Microsoft's compiler passes the place of a result after the object, and returns that place.
+    virtual EdgeCorrection *getEdgeCorrectionInto(EdgeCorrection *result) = 0;
+    EdgeCorrection getEdgeCorrection()
+    {
+        EdgeCorrection result{};
+        return *getEdgeCorrectionInto(&result);
+    }
+#endif
 
 private:
     virtual void kept53() {}

@@ -4,6 +4,9 @@
 #pragma once
 
 #include "veltrix_sdk/export.h"
+#if defined(VELTRIX_SDK_SPELLED_OUT)
+#include "veltrix_sdk/microsoft_string.h"
+#endif
 
 #include <string>
 
@@ -29,7 +32,14 @@ class ILogger
 public:
     // The Microsoft ABI lays out adjacent overloads of one name in reverse order of declaration; the
     // text object has to come first in the table on both ABIs.
-#if defined(_MSC_VER)
+#if defined(VELTRIX_SDK_SPELLED_OUT)
+    virtual ILogger &insert(const MicrosoftString &text) = 0; ///< 1: appends text.
+    virtual ILogger &operator<<(const char *text) = 0;        ///< 2: appends NUL-terminated text.
+    ILogger &operator<<(const std::string &text)
+    {
+        return insert(MicrosoftString{text});
+    }
+#elif defined(_MSC_VER)
     virtual ILogger &operator<<(const char *text) = 0;        ///< 2: appends NUL-terminated text.
     virtual ILogger &operator<<(const std::string &text) = 0; ///< 1: appends text.
 #else

@@ -21,11 +21,19 @@ class LogRecord final : public ILogger
 public:
     explicit LogRecord(severity_level itsSeverity) : severity{itsSeverity} {}
 
+#if !defined(VELTRIX_SDK_SPELLED_OUT)
     ILogger &operator<<(const std::string &added) override
     {
         text += added;
         return *this;
     }
+#else
+    ILogger &insert(const MicrosoftString &added) override
+    {
+        text += added.view();
+        return *this;
+    }
+#endif
 
     ILogger &operator<<(const char *added) override
     {

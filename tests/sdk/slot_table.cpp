@@ -63,6 +63,30 @@ InterfaceTable table(const char *name, std::size_t places, std::vector<Operation
     return {name, places, placeOf(&Extended<Interface>::appended), std::move(operations)};
 }
 
+// What differs where the ABI is spelled out.
+#if defined(VELTRIX_SDK_SPELLED_OUT)
+Operation edgeCorrection()
+{
+    return entry<EdgeCorrection *(EdgeCorrection *)>(52, "getEdgeCorrectionInto",
+                                                     &IDeviceControl::getEdgeCorrectionInto);
+}
+
+Operation insertionOfText()
+{
+    return entry<ILogger &(const MicrosoftString &)>(1, "insert", &ILogger::insert);
+}
+#else
+Operation edgeCorrection()
+{
+    return entry<EdgeCorrection()>(52, "getEdgeCorrection", &IDeviceControl::getEdgeCorrection);
+}
+
+Operation insertionOfText()
+{
+    return entry<ILogger &(const std::string &)>(1, "operator<<(const std::string &)", &ILogger::operator<<);
+}
+#endif
+
 std::vector<Operation> rootOperations()
 {
     return {
@@ -189,7 +213,7 @@ std::vector<Operation> deviceOperations()
         entry<bool(std::int32_t, bool)>(50, "setMavlinkBaudRate", &IDeviceControl::setMavlinkBaudRate),
         entry<bool(std::uint8_t, std::uint32_t, std::uint32_t)>(51, "configureEdgeCorrection",
                                                                 &IDeviceControl::configureEdgeCorrection),
-        entry<EdgeCorrection()>(52, "getEdgeCorrection", &IDeviceControl::getEdgeCorrection),
+        edgeCorrection(),
         entry<bool(const ZoomConfig *)>(55, "configureZoom", &IDeviceControl::configureZoom),
         entry<bool(ZoomConfig *)>(56, "getZoomConfig", &IDeviceControl::getZoomConfig),
         entry<bool(ZoomResolution *)>(57, "getZoomResolution", &IDeviceControl::getZoomResolution),
@@ -242,7 +266,7 @@ std::vector<Operation> deviceOperations()
 std::vector<Operation> loggerOperations()
 {
     return {
-        entry<ILogger &(const std::string &)>(1, "operator<<(const std::string &)", &ILogger::operator<<),
+        insertionOfText(),
         entry<ILogger &(const char *)>(2, "operator<<(const char *)", &ILogger::operator<<),
     };
 }

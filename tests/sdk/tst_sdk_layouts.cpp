@@ -224,7 +224,7 @@ void SdkLayoutsTest::brokenTableIsNoticed_data()
                 << QString{target} << QString{header} << before << after << QString{difference};
         }
     };
-    row("insertion operators swapped", "logger.h", "#if defined(_MSC_VER)", "#if !defined(_MSC_VER)",
+    row("insertion operators swapped", "logger.h", "#elif defined(_MSC_VER)", "#elif !defined(_MSC_VER)",
         "ILogger: at 1 stands operator<<(const char *), not operator<<(const std::string &)");
     row("kept place dropped", "device_control.h", "virtual void kept54() {}", "",
         "IDeviceControl: at 54 stands configureZoom(const veltrix_sdk::ZoomConfig *), not kept54");

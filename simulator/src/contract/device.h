@@ -143,10 +143,6 @@ public:
     {
         return configureEdge(OperationId::configureEdgeCorrection, {type, gain, threshold});
     }
-    veltrix_sdk::EdgeCorrection getEdgeCorrection() override
-    {
-        return getEdge(OperationId::getEdgeCorrection);
-    }
     bool configureZoom(const veltrix_sdk::ZoomConfig *zoom) override
     {
         return set(OperationId::configureZoom, {zoom});
@@ -292,6 +288,18 @@ public:
     {
         return call(OperationId::processNucRequest, {}, [&] { return count(Field::nucRequests); });
     }
+#if !defined(VELTRIX_SDK_SPELLED_OUT)
+    veltrix_sdk::EdgeCorrection getEdgeCorrection() override
+    {
+        return getEdge(OperationId::getEdgeCorrection);
+    }
+#else
+    veltrix_sdk::EdgeCorrection *getEdgeCorrectionInto(veltrix_sdk::EdgeCorrection *result) override
+    {
+        *result = getEdge(OperationId::getEdgeCorrection);
+        return result;
+    }
+#endif
 };
 
 } // namespace veltrix_simulator
