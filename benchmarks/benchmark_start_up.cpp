@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// What a start costs until the window is shown: as the program starts, and the window alone.
+// What a start costs until the window is painted: as the program starts, the window alone, and an empty
+// window as Qt shows it.
 #include "appearance.h"
 #include "fittedwindow.h"
 #include "mainwindow.h"
@@ -9,29 +10,36 @@
 
 #include <QApplication>
 #include <QByteArray>
+#include <QElapsedTimer>
+#include <QEvent>
+#include <QEventLoop>
 #include <QFile>
 #include <QList>
+#include <QMainWindow>
+#include <QMap>
+#include <QObject>
 #include <QProcess>
 #include <QString>
 #include <QStringList>
 #include <QTextStream>
-#include <QTimer>
+#include <QWidget>
 
 #include <algorithm>
 #include <ctime>
-#include <memory>
-#include <optional>
 
 namespace
 {
 
 constexpr int starts{31};
 
-/// A start as a process of its own.
+/// What is started, each as a process of its own with this word as its argument.
+const QStringList kinds{QStringLiteral("program"), QStringLiteral("window"), QStringLiteral("empty")};
+
 struct Start
 {
-    double milliseconds; ///< Of processor time.
-    double kilobytes;    ///< Of memory that is resident.
+    double milliseconds;          ///< From the start of the process until its window has been painted.
+    double processorMilliseconds; ///< Of those, what the processor worked.
+    double kilobytes;             ///< Of memory that is resident; 0 where the system does not tell.
 };
 
 double residentKilobytes()
@@ -48,44 +56,80 @@ double residentKilobytes()
     return 0;
 }
 
-/// The process that is measured. It tells what it took once its window is shown.
-int start(int argc, char *argv[], bool asTheProgram)
+/// Notes the first painting of any window.
+class FirstPainting : public QObject
 {
-    qputenv("QT_XCB_GL_INTEGRATION", "none");
-    if (asTheProgram) {
-        followDesktopScaling();
+public:
+    FirstPainting() { QCoreApplication::instance()->installEventFilter(this); }
+
+    bool eventFilter(QObject * /*watched*/, QEvent *event) override
+    {
+        came = came || event->type() == QEvent::Paint;
+        return false;
     }
-    const QApplication application{argc, argv};
-    std::optional<OperatorInput> operatorInput;
-    if (asTheProgram) {
-        setAppearance();
-        operatorInput.emplace();
-    }
-    MainWindow window{nullptr};
-    std::unique_ptr<FittedWindow> fitted;
-    if (asTheProgram) {
-        QApplication::setWindowIcon(window.windowIcon());
-        window.setSequenceObserver([&operatorInput](bool running) { operatorInput->sequenceRuns(running); });
-        fitted = fitToScreen(window);
-    }
+
+    bool came{false};
+};
+
+/// Shows a window and tells what that took until it has been painted.
+int showAndTell(QWidget &window)
+{
+    const FirstPainting painting;
     window.show();
-    QCoreApplication::processEvents();
+    while (!painting.came) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
     QTextStream{stdout} << 1000.0 * static_cast<double>(std::clock()) / CLOCKS_PER_SEC << ' '
                         << residentKilobytes() << '\n';
     return 0;
 }
 
+int startEmpty(int argc, char *argv[])
+{
+    const QApplication application{argc, argv};
+    QMainWindow window;
+    return showAndTell(window);
+}
+
+int startProgram(int argc, char *argv[])
+{
+    qputenv("QT_XCB_GL_INTEGRATION", "none");
+    followDesktopScaling();
+    const QApplication application{argc, argv};
+    setAppearance();
+    OperatorInput operatorInput;
+    MainWindow window{nullptr};
+    QApplication::setWindowIcon(window.windowIcon());
+    window.setSequenceObserver([&operatorInput](bool running) { operatorInput.sequenceRuns(running); });
+    const auto fitted = fitToScreen(window);
+    return showAndTell(window);
+}
+
+int startWindow(int argc, char *argv[])
+{
+    qputenv("QT_XCB_GL_INTEGRATION", "none");
+    const QApplication application{argc, argv};
+    MainWindow window{nullptr};
+    return showAndTell(window);
+}
+
 Start measure(const QString &kind)
 {
+    QElapsedTimer sinceStart;
+    sinceStart.start();
     QProcess process;
     process.start(QCoreApplication::applicationFilePath(), {kind});
+    QByteArray told;
+    while (!told.contains('\n') && process.waitForReadyRead()) {
+        told += process.readAllStandardOutput();
+    }
+    const auto nanoseconds = static_cast<double>(sinceStart.nsecsElapsed());
     process.waitForFinished();
-    const QStringList lines{QString::fromUtf8(process.readAllStandardOutput()).trimmed().split('\n')};
-    const QStringList figures{lines.last().split(' ')};
+    const QStringList figures{QString::fromUtf8(told).trimmed().split('\n').last().split(' ')};
     if (figures.size() != 2) {
         qFatal("a start failed: %s", process.readAllStandardError().constData());
     }
-    return {figures.first().toDouble(), figures.last().toDouble()};
+    return {nanoseconds / 1e6, figures.first().toDouble(), figures.last().toDouble()};
 }
 
 double median(QList<Start> all, double Start::*figure)
@@ -101,22 +145,35 @@ double median(QList<Start> all, double Start::*figure)
 
 int main(int argc, char *argv[])
 {
-    const QString program{QStringLiteral("program")};
-    if (argc > 1) {
-        return start(argc, argv, argv[1] == program);
+    const QString kind{argc > 1 ? argv[1] : ""};
+    if (kind == kinds[0]) {
+        return startProgram(argc, argv);
+    }
+    if (kind == kinds[1]) {
+        return startWindow(argc, argv);
+    }
+    if (kind == kinds[2]) {
+        return startEmpty(argc, argv);
     }
     const QCoreApplication application{argc, argv};
-    QList<Start> asTheProgram;
-    QList<Start> alone;
+    QMap<QString, QList<Start>> taken;
     for (int run{0}; run < starts; ++run) {
-        asTheProgram.append(measure(program));
-        alone.append(measure(QStringLiteral("window")));
+        for (const QString &each : kinds) {
+            taken[each].append(measure(each));
+        }
     }
     QTextStream out{stdout};
-    out << "                    processor [ms]   memory [kB]\n";
-    out << "as the program      " << median(asTheProgram, &Start::milliseconds) << "   "
-        << median(asTheProgram, &Start::kilobytes) << '\n';
-    out << "the window alone    " << median(alone, &Start::milliseconds) << "   "
-        << median(alone, &Start::kilobytes) << '\n';
+    out.setRealNumberNotation(QTextStream::FixedNotation);
+    out.setRealNumberPrecision(1);
+    out << "        painted after [ms]   processor [ms]   memory [kB]   time / that of an empty window\n";
+    const double empty{median(taken[kinds[2]], &Start::milliseconds)};
+    for (const QString &each : kinds) {
+        const QList<Start> &all{taken[each]};
+        const double shown{median(all, &Start::milliseconds)};
+        out << Qt::left << qSetFieldWidth(10) << each << Qt::right << qSetFieldWidth(16) << shown
+            << qSetFieldWidth(17) << median(all, &Start::processorMilliseconds) << qSetFieldWidth(14)
+            << qRound(median(all, &Start::kilobytes)) << qSetRealNumberPrecision(2) << qSetFieldWidth(33)
+            << shown / empty << qSetRealNumberPrecision(1) << qSetFieldWidth(0) << '\n';
+    }
     return 0;
 }
