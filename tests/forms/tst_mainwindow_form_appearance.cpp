@@ -6,9 +6,12 @@
 #include "testclass.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemModel>
+#include <QAbstractItemView>
 #include <QBrush>
 #include <QByteArray>
 #include <QColor>
+#include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QFont>
@@ -127,6 +130,7 @@ private slots:
     void window();
     void scanButtonSizePolicy();
     void resolutionFieldsHaveALocaleOfTheirOwn();
+    void listsAreBuiltWhenTheyAreOpened();
 };
 
 void MainWindowFormAppearanceTest::resourceIsAPicture_data()
@@ -350,6 +354,19 @@ void MainWindowFormAppearanceTest::resolutionFieldsHaveALocaleOfTheirOwn()
     for (const char *name :
          {"xResolutionZoomLabel", "xResolutionZoomEdit", "yResolutionZoomLabel", "yResolutionZoomEdit"}) {
         QVERIFY2(actual.contains(QLatin1String{name}), qPrintable(actual.join(' ')));
+    }
+}
+
+void MainWindowFormAppearanceTest::listsAreBuiltWhenTheyAreOpened()
+{
+    MainForm form;
+    QVERIFY(form.ui.selectDeviceComboBox->findChildren<QAbstractItemView *>().isEmpty());
+    QVERIFY(form.ui.lutColorEdit->findChildren<QAbstractItemView *>().isEmpty());
+    const QList<QComboBox *> boxes{form.window.findChildren<QComboBox *>()};
+    QCOMPARE(boxes.size(), 12);
+    for (QComboBox *const box : boxes) {
+        QCOMPARE(box->view()->font(), box->font());
+        QCOMPARE(box->view()->model()->rowCount(), box->count());
     }
 }
 
