@@ -6,6 +6,7 @@
 #include "faults/activefaults.h"
 #include "faults/faultrule.h"
 #include "operations/operations.h"
+#include "output/process.h"
 #include "scenarios/scenariolibrary.h"
 #include "time/life.h"
 #include "units/port.h"
@@ -14,7 +15,6 @@
 
 #include <cstdint>
 #include <cstdlib>
-#include <iostream>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -42,7 +42,7 @@ Simulation::Simulation()
 void Simulation::refuseToOpen(const char *reason)
 {
     log.write(veltrix_sdk::severity_error, reason);
-    std::cerr << "veltrix.sdk: " << reason << '\n' << std::flush;
+    writeToStandardError(std::string{"veltrix.sdk: "} + reason + '\n');
     Scenario refused;
     refused.name = "refused";
     for (Port &port : refused.ports) {
@@ -111,7 +111,7 @@ void Simulation::reportUnfired()
     for (const std::string &origin : path.activeFaults().unfired()) {
         const std::string report = origin + ": this fault never happened";
         log.write(veltrix_sdk::severity_warning, report);
-        std::cerr << "veltrix.sdk: " << report << '\n' << std::flush;
+        writeToStandardError("veltrix.sdk: " + report + '\n');
     }
 }
 

@@ -5,11 +5,11 @@
 
 #include "calls/traceline.h"
 #include "output/clock.h"
+#include "output/process.h"
 
 #include <chrono>
-#include <cstdlib>
 #include <filesystem>
-#include <iostream>
+#include <ios>
 #include <system_error>
 
 namespace veltrix_simulator
@@ -20,13 +20,13 @@ namespace
 constexpr std::string_view beginning{R"({"trace":1,)"};
 
 /// Whether writing there destroys nothing but an earlier trace.
-bool isTraceOrNothing(const std::string &name)
+bool isTraceOrNothing(const std::filesystem::path &path)
 {
     std::error_code error;
-    if (!std::filesystem::is_regular_file(name, error)) {
+    if (!std::filesystem::is_regular_file(path, error)) {
         return true;
     }
-    std::ifstream existing{name, std::ios::binary};
+    std::ifstream existing{path, std::ios::binary};
     std::string bytes(beginning.size(), '\0');
     existing.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     return existing.gcount() == 0 || bytes == beginning;
@@ -36,8 +36,7 @@ bool isTraceOrNothing(const std::string &name)
 
 void Trace::start(std::string_view scenario, std::uint64_t seed)
 {
-    const char *const variable = std::getenv("VELTRIX_SIMULATOR_TRACE");
-    const std::string name{variable != nullptr ? variable : ""};
+    const std::string name{environmentVariable("VELTRIX_SIMULATOR_TRACE")};
     if (name != fileName) {
         open(name);
     }
@@ -69,16 +68,16 @@ void Trace::open(const std::string &name)
     if (name.empty()) {
         return;
     }
+    const std::filesystem::path path{std::filesystem::u8path(name)};
     // Whoever mixes up two variables must not lose a scenario or a memory.
-    if (!isTraceOrNothing(name)) {
-        std::cerr
-            << "veltrix.sdk: \"" << name
-            << "\" is no trace, and is left as it is; set VELTRIX_SIMULATOR_TRACE to another file, or delete "
-               "this one. The program goes on without a trace.\n"
-            << std::flush;
+    if (!isTraceOrNothing(path)) {
+        writeToStandardError(
+            "veltrix.sdk: \"" + name +
+            "\" is no trace, and is left as it is; set VELTRIX_SIMULATOR_TRACE to another file, or delete "
+            "this one. The program goes on without a trace.\n");
         return;
     }
-    file.open(name, std::ios::binary | std::ios::trunc);
+    file.open(path, std::ios::binary | std::ios::trunc);
     on = file.is_open();
     if (!on) {
         refuse();
@@ -89,10 +88,10 @@ void Trace::refuse()
 {
     on = false;
     file.close();
-    std::cerr << "veltrix.sdk: cannot write the trace file \"" << fileName
-              << "\"; set VELTRIX_SIMULATOR_TRACE to a file that can be written. The program goes on without "
-                 "a trace.\n"
-              << std::flush;
+    writeToStandardError(
+        "veltrix.sdk: cannot write the trace file \"" + fileName +
+        "\"; set VELTRIX_SIMULATOR_TRACE to a file that can be written. The program goes on without "
+        "a trace.\n");
 }
 
 } // namespace veltrix_simulator

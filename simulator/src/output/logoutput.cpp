@@ -4,12 +4,13 @@
 #include "output/logoutput.h"
 
 #include "output/clock.h"
+#include "output/process.h"
 
 #include <array>
 #include <chrono>
 #include <cstddef>
-#include <cstdlib>
-#include <iostream>
+#include <filesystem>
+#include <ios>
 
 namespace veltrix_simulator
 {
@@ -39,12 +40,12 @@ std::string format(veltrix_sdk::severity_level severity, std::string_view text)
 
 void LogOutput::write(veltrix_sdk::severity_level severity, std::string_view text)
 {
-    const char *const name = std::getenv("VELTRIX_SIMULATOR_LOG");
-    if (name == nullptr || *name == '\0') {
+    const std::string name{environmentVariable("VELTRIX_SIMULATOR_LOG")};
+    if (name.empty()) {
         return;
     }
-    if (name == std::string_view{"-"}) {
-        std::cerr << format(severity, text) << std::flush;
+    if (name == "-") {
+        writeToStandardError(format(severity, text));
         return;
     }
     if (fileName != name) {
@@ -58,12 +59,11 @@ void LogOutput::open(const std::string &name)
     fileName = name;
     file.close();
     file.clear();
-    file.open(name, std::ios::app);
+    file.open(std::filesystem::u8path(name), std::ios::app | std::ios::binary);
     if (!file) {
-        std::cerr
-            << "veltrix.sdk: cannot write the log file \"" << name
-            << "\"; set VELTRIX_SIMULATOR_LOG to a file that can be written, or to - for standard error.\n"
-            << std::flush;
+        writeToStandardError(
+            "veltrix.sdk: cannot write the log file \"" + name +
+            "\"; set VELTRIX_SIMULATOR_LOG to a file that can be written, or to - for standard error.\n");
     }
 }
 

@@ -3,12 +3,12 @@
 // The scenarios that the library brings along, and where others come from.
 #include "scenarios/scenariolibrary.h"
 
+#include "output/process.h"
 #include "output/wording.h"
 #include "scenarios/limits.h"
 #include "scenarios/scenarioreader.h"
 
 #include <cstddef>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <optional>
@@ -31,8 +31,9 @@ bool isPath(std::string_view nameOrPath)
 
 /// The bytes of a file, of a file that is too large only a few more than are allowed; nothing when it cannot
 /// be read.
-std::optional<std::string> bytesOf(const std::string &path)
+std::optional<std::string> bytesOf(const std::string &name)
 {
+    const std::filesystem::path path{std::filesystem::u8path(name)};
     // Reading a pipe could wait for ever.
     std::error_code error;
     if (!std::filesystem::is_regular_file(path, error)) {
@@ -88,8 +89,8 @@ std::variant<Scenario, std::string> findScenario(const std::string &nameOrPath)
 
 std::variant<Scenario, std::string> chosenScenario()
 {
-    const char *const chosen = std::getenv("VELTRIX_SIMULATOR_SCENARIO");
-    if (chosen == nullptr || *chosen == '\0') {
+    const std::string chosen{environmentVariable("VELTRIX_SIMULATOR_SCENARIO")};
+    if (chosen.empty()) {
         return Scenario{};
     }
     return findScenario(chosen);
