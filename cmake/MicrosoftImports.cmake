@@ -1,13 +1,14 @@
 # SPDX-FileCopyrightText: 2026 The Pilotel Developers
 # SPDX-License-Identifier: MIT
 # pilotel::device_sdk for mingw-w64: programs import the contract under the names that Microsoft's compiler exports.
-# The simulated SDK exports them as well, so one and the same program starts with either library.
+# The simulated SDK exports them as well, so one and the same program starts with either library. It is loaded by the first
+# call, so that a program can tell what is wrong with it (launcher/librarynotice.cpp).
 set(definition ${PROJECT_SOURCE_DIR}/sdk/veltrix.sdk.def)
 set(import_library ${CMAKE_ARCHIVE_OUTPUT_DIRECTORY}/libveltrix.sdk.contract.a)
 file(MAKE_DIRECTORY ${CMAKE_ARCHIVE_OUTPUT_DIRECTORY})
 add_custom_command(
     OUTPUT ${import_library}
-    COMMAND ${CMAKE_DLLTOOL} --input-def ${definition} --output-lib ${import_library}
+    COMMAND ${CMAKE_DLLTOOL} --input-def ${definition} --output-delaylib ${import_library}
     DEPENDS ${definition}
     VERBATIM
 )

@@ -94,6 +94,13 @@ void ExecutableTest::hasNoConsoleOnWindows()
                                    "IDI_ICON1 ICON \"../picture/camera.ico\""}) {
         QVERIFY2(resource.contains(line), line);
     }
+    const QString numbers{QString{PROJECT_VERSION}.replace('.', ',') + ",0"};
+    const QString text{'"' + QString{PROJECT_VERSION} + ".0\""};
+    for (const QString &line :
+         {"FILEVERSION " + numbers, "PRODUCTVERSION " + numbers, "            VALUE \"FileVersion\", " + text,
+          "            VALUE \"ProductVersion\", " + text}) {
+        QVERIFY2(resource.contains(line), qPrintable(line));
+    }
 }
 
 PILOTEL_TEST_CLASS(ExecutableTest)
