@@ -33,7 +33,7 @@ Result run(const QString &folder, const QString &program, const QStringList &arg
         return {-1, process.errorString()};
     }
     return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-            QString::fromUtf8(process.readAll().replace("\r\n", "\n"))};
+            QString::fromUtf8(process.readAll())};
 }
 
 /// The lines of the checks, without the times of the operations.

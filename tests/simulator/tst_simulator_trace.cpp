@@ -331,7 +331,12 @@ void SimulatorTraceTest::isWholeAfterACrash()
     const QTemporaryDir directory;
     const QString name = directory.filePath("calls.trace");
     const Run run{{{variable, name}}, {QStringLiteral("abort")}};
+#if defined(Q_OS_WIN)
+    // There abort() is an exit with this code.
+    QCOMPARE(run.process.exitCode(), 3);
+#else
     QCOMPARE(run.process.exitStatus(), QProcess::CrashExit);
+#endif
     const QStringList lines = linesOf(name);
     // The header, nine calls, a hundred times the gamma and the log record.
     QCOMPARE(lines.size(), 1 + 9 + 100 + 1);
@@ -353,6 +358,9 @@ void SimulatorTraceTest::sameCallsMakeTheSameTrace()
 
 void SimulatorTraceTest::documentedFilterComparesTraces()
 {
+#if defined(Q_OS_WIN)
+    QSKIP("The documented filter is a command for the shell of another system.");
+#endif
     const QTemporaryDir directory;
     const QString first = directory.filePath("first.trace");
     const QString second = directory.filePath("second.trace");
