@@ -6,7 +6,7 @@
 ; which name every file. With QUICK nothing is compressed.
 ;
 ; Options: /S silent; /ALLUSERS for all users, started as administrator; /SDK=FILE the camera maker's veltrix.sdk.dll;
-; /D=FOLDER where to, the last one and without quotes.
+; /D=FOLDER where to. In quotes when there is a space in it; a /D without quotes is the last one and takes all that follows.
 ; Exit codes of both: 0 done; 2 the program runs; 3 for all users, but not started as administrator; 4 /SDK names no library
 ; for 64-bit Windows; 5 installed in another folder than /D says; 6 the older version could not be removed. With 2 to 5
 ; nothing was touched.
@@ -177,10 +177,18 @@ FunctionEnd
 
 Function .onInit
     SetRegView 64
+    Push "/SDK="
+    Call valueOf
+    Pop $Maker
+    ; NSIS reads the one without quotes.
     StrCpy $GivenFolder $INSTDIR
-    ${GetParameters} $0
-    ${GetOptions} $0 "/SDK=" $Maker
+    ${If} $GivenFolder == ""
+        Push "/D="
+        Call valueOf
+        Pop $GivenFolder
+    ${EndIf}
     StrCpy $AllUsers 0
+    ${GetParameters} $0
     ClearErrors
     ${GetOptions} $0 "/ALLUSERS" $1
     ${IfNot} ${Errors}
@@ -206,6 +214,46 @@ Function .onInit
             ${EndIf}
         ${EndIf}
     ${EndIf}
+FunctionEnd
+
+; Takes the name of an option from the stack and leaves its value; empty when it is not on the command line. The option as a
+; whole, or its value, may be in quotes.
+Function valueOf
+    Pop $0
+    StrLen $1 $0
+    StrCpy $2 0 ; the place in the command line
+    StrCpy $3 "" ; the character before it
+    StrCpy $5 "" ; the value
+    ${Do}
+        StrCpy $4 $CMDLINE $1 $2
+        ${If} $4 == ""
+            Push ""
+            Return
+        ${EndIf}
+        ${If} $4 == $0
+            ${ExitDo}
+        ${EndIf}
+        StrCpy $3 $4 1
+        IntOp $2 $2 + 1
+    ${Loop}
+    IntOp $2 $2 + $1
+    StrCpy $4 $CMDLINE 1 $2
+    ${If} $4 == '"'
+        StrCpy $3 '"'
+        IntOp $2 $2 + 1
+    ${ElseIf} $3 != '"'
+        StrCpy $3 " "
+    ${EndIf}
+    ${Do}
+        StrCpy $4 $CMDLINE 1 $2
+        ${If} $4 == ""
+        ${OrIf} $4 == $3
+            ${ExitDo}
+        ${EndIf}
+        StrCpy $5 $5$4
+        IntOp $2 $2 + 1
+    ${Loop}
+    Push $5
 FunctionEnd
 
 ; Where it goes: where it is installed already, else where /D says, else where programs go.
