@@ -3,7 +3,7 @@
 ; The installer for 64-bit Windows.
 ;
 ; scripts/parts/windows-installer defines OUTPUT, VERSION, KILOBYTES and FILES: a folder with install.nsh and uninstall.nsh,
-; which name every file. With QUICK nothing is compressed.
+; which name every file, and side.bmp. With QUICK nothing is compressed; with MAKER_INCLUDED the maker's library is in FILES.
 ;
 ; Options: /S silent; /ALLUSERS for all users, started as administrator; /SDK=FILE the camera maker's veltrix.sdk.dll;
 ; /D=FOLDER where to. In quotes when there is a space in it; a /D without quotes is the last one and takes all that follows.
@@ -69,6 +69,7 @@ Page custom showUsersPage leaveUsersPage
 !insertmacro MUI_PAGE_DIRECTORY
 Page custom showLibraryPage leaveLibraryPage
 !insertmacro MUI_PAGE_INSTFILES
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${FILES}/side.bmp"
 !define MUI_FINISHPAGE_RUN
 !define MUI_FINISHPAGE_RUN_TEXT "Start Pilotel"
 !define MUI_FINISHPAGE_RUN_FUNCTION startProgram

@@ -9,6 +9,7 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QDir>
+#include <QDirIterator>
 #include <QDoubleSpinBox>
 #include <QFile>
 #include <QLocale>
@@ -486,11 +487,17 @@ void UserGuideTest::hasLinksThatLead()
             QVERIFY2(anchors.contains(target), qPrintable(target));
         } else {
             QVERIFY2(QFile::exists(QStringLiteral(DOCS "/") + target), qPrintable(target));
-            pictures.append(target.section(QLatin1Char{'/'}, -1));
+            pictures.append(target);
         }
     }
+    QStringList files;
+    QDirIterator file{QStringLiteral(DOCS "/pictures"), QDir::Files, QDirIterator::Subdirectories};
+    while (file.hasNext()) {
+        files.append(QDir{QStringLiteral(DOCS)}.relativeFilePath(file.next()));
+    }
     pictures.sort();
-    QCOMPARE(pictures, QDir{QStringLiteral(DOCS "/pictures")}.entryList(QDir::Files, QDir::Name));
+    files.sort();
+    QCOMPARE(pictures, files);
 }
 
 PILOTEL_TEST_CLASS(UserGuideTest)
