@@ -13,11 +13,9 @@
 #include <QFileInfo>
 #include <QIODevice>
 #include <QLatin1Char>
-#include <QList>
 #include <QObject>
 #include <QPlainTextEdit>
 #include <QProcess>
-#include <QSerialPortInfo>
 #include <QString>
 #include <QStringList>
 #include <QTest>
@@ -28,12 +26,6 @@
 #include <vector>
 
 using veltrix_simulator::Simulator;
-
-/// Stands in for the host's own: it has none, so that the ports are those of the scenario on every machine.
-QList<QSerialPortInfo> QSerialPortInfo::availablePorts()
-{
-    return {};
-}
 
 namespace
 {
@@ -188,6 +180,9 @@ void ShippedScenariosTest::everyStoryHasItsScenario()
 
 void ShippedScenariosTest::everyScenarioIsListed()
 {
+#if defined(Q_OS_WIN)
+    QSKIP("scripts/run is for the shell of another system.");
+#endif
     QStringList expected;
     const QDir folder{QStringLiteral(SCENARIOS)};
     for (const QFileInfo &info : folder.entryInfoList({QStringLiteral("*.toml")})) {
@@ -227,6 +222,9 @@ void ShippedScenariosTest::anUnknownNameIsAnsweredWithTheNearest_data()
 
 void ShippedScenariosTest::anUnknownNameIsAnsweredWithTheNearest()
 {
+#if defined(Q_OS_WIN)
+    QSKIP("scripts/run is for the shell of another system.");
+#endif
     QFETCH(QString, asked);
     QFETCH(QString, nearest);
     QProcess run;
