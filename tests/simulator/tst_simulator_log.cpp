@@ -16,6 +16,10 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#if defined(Q_OS_WIN)
+#include <windows.h>
+#endif
+
 namespace
 {
 
@@ -73,6 +77,9 @@ private slots:
     void dashIsStandardError();
     void fileIsAppendedTo();
     void unwritableFileIsNamedOnce();
+#if defined(Q_OS_WIN)
+    void debuggerIsToldWithoutAConsole();
+#endif
 };
 
 void SimulatorLogTest::nothingIsWrittenUnasked()
@@ -106,6 +113,51 @@ void SimulatorLogTest::unwritableFileIsNamedOnce()
         "veltrix.sdk: cannot write the log file \"" + name +
             "\"; set VELTRIX_SIMULATOR_LOG to a file that can be written, or to - for standard error.\n");
 }
+
+#if defined(Q_OS_WIN)
+void SimulatorLogTest::debuggerIsToldWithoutAConsole()
+{
+    // What listens to all processes of the session has a page, and two events that say whose turn it is.
+    struct Page
+    {
+        DWORD process;
+        char text[4096 - sizeof(DWORD)];
+    };
+    const HANDLE file{
+        CreateFileMappingW(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0, sizeof(Page), L"DBWIN_BUFFER")};
+    const HANDLE free{CreateEventW(nullptr, FALSE, TRUE, L"DBWIN_BUFFER_READY")};
+    const HANDLE filled{CreateEventW(nullptr, FALSE, FALSE, L"DBWIN_DATA_READY")};
+    const auto *const page =
+        static_cast<const Page *>(MapViewOfFile(file, FILE_MAP_READ, 0, 0, sizeof(Page)));
+    QVERIFY(page != nullptr);
+
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("VELTRIX_SIMULATOR_LOG"), QStringLiteral("-"));
+    process.setProcessEnvironment(environment);
+    process.setCreateProcessArgumentsModifier([](QProcess::CreateProcessArguments *arguments) {
+        arguments->flags = (arguments->flags & ~DWORD{CREATE_NO_WINDOW}) | DETACHED_PROCESS;
+    });
+    process.start(QStringLiteral(LOG_WRITER), QStringList{});
+    const DWORD number{static_cast<DWORD>(process.processId())};
+    QString told;
+    constexpr DWORD milliseconds{10'000};
+    while (!told.contains("error: late") && WaitForSingleObject(filled, milliseconds) == WAIT_OBJECT_0) {
+        if (page->process == number) {
+            told += QString::fromLocal8Bit(page->text);
+        }
+        SetEvent(free);
+    }
+    QVERIFY(process.waitForFinished());
+    UnmapViewOfFile(page);
+    for (const HANDLE handle : {file, free, filled}) {
+        CloseHandle(handle);
+    }
+
+    QCOMPARE(withoutTimes(told), expectedLines());
+    QCOMPARE(withoutTimes(QString::fromUtf8(process.readAllStandardError())), expectedLines());
+}
+#endif
 
 PILOTEL_TEST_CLASS(SimulatorLogTest)
 #include "tst_simulator_log.moc"
