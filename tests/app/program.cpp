@@ -52,6 +52,21 @@ QProcessEnvironment programEnvironment()
     return environment;
 }
 
+QString withLibrary(const QString &program, [[maybe_unused]] const QString &folder,
+                    [[maybe_unused]] const QString &directory,
+                    [[maybe_unused]] QProcessEnvironment &environment)
+{
+#if defined(Q_OS_WIN)
+    const QString library{"/veltrix.sdk.dll"};
+    const QString copy{directory + '/' + QFileInfo{program}.fileName()};
+    const bool copied{QFile::copy(program, copy) && QFile::copy(folder + library, directory + library)};
+    return copied ? copy : "nothing";
+#else
+    environment.insert("LD_LIBRARY_PATH", folder);
+    return program;
+#endif
+}
+
 Outcome run(const QString &program, const QStringList &arguments, const QProcessEnvironment &environment,
             const QString &directory)
 {

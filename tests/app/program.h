@@ -20,6 +20,11 @@ struct Outcome
 /// decides which SDK library is loaded.
 QProcessEnvironment programEnvironment();
 
+/// A program that finds the SDK library of a folder first: itself with another environment; on Windows, where
+/// a program looks beside itself, a copy in the directory with a copy of the library.
+QString withLibrary(const QString &program, const QString &folder, const QString &directory,
+                    QProcessEnvironment &environment);
+
 /// Runs a program to its end, in the directory of this process or in another; gives up after half a minute.
 Outcome run(const QString &program, const QStringList &arguments, const QProcessEnvironment &environment,
             const QString &directory = {});

@@ -55,29 +55,12 @@ public:
     /// From now on the program finds the SDK library of that folder.
     void useLibrary(const QString &folder)
     {
-#if defined(Q_OS_WIN)
-        // There it looks beside itself first.
-        const QString library{"/veltrix.sdk.dll"};
-        program = fileName("pilotel.exe");
-        QVERIFY(QFile::copy(PROGRAM, program));
-        QVERIFY(QFile::copy(folder + library, directory.path() + library));
-#else
-        environment.insert("LD_LIBRARY_PATH", folder);
-#endif
+        program = withLibrary(PROGRAM, folder, directory.path(), environment);
     }
 
-    QString fileName(const QString &name) const
-    {
-        return directory.filePath(name);
-    }
-    QStringList report() const
-    {
-        return linesOf(fileName("report"));
-    }
-    QStringList journal() const
-    {
-        return linesOf(fileName("journal"));
-    }
+    QString fileName(const QString &name) const { return directory.filePath(name); }
+    QStringList report() const { return linesOf(fileName("report")); }
+    QStringList journal() const { return linesOf(fileName("journal")); }
 
     QProcessEnvironment environment{programEnvironment()};
     QString directoryOfRun;
