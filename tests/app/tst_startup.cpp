@@ -105,6 +105,7 @@ private slots:
     void leavesUnknownArgumentsToQt();
     void scansThePortsOfTheHostThenThoseOfTheSimulator();
     void writesNoFileOfItsOwn();
+    void startsInAFolderWithAnyLetters();
     void worksWithAnotherLibraryOfTheSameContract();
     void endsWithTheLoadersMessageWithoutALibrary();
     void endsWithTheLoadersMessageWithAnIncompleteLibrary();
@@ -284,6 +285,29 @@ void StartupTest::writesNoFileOfItsOwn()
     left.sort();
     const QStringList asBefore{"home", "runtime", "temporary", "work"};
     QCOMPARE(left, asBefore);
+}
+
+void StartupTest::startsInAFolderWithAnyLetters()
+{
+    const QTemporaryDir directory;
+    const QDir folder{directory.filePath(QStringLiteral("Wärme und Kälte, тепло 温度"))};
+    QVERIFY(folder.mkpath("."));
+    const QString program{folder.filePath(QFileInfo{PROGRAM}.fileName())};
+    QVERIFY(QFile::copy(PROGRAM, program));
+    QVERIFY(QFile::copy(SDK_LIBRARY, folder.filePath(QFileInfo{SDK_LIBRARY}.fileName())));
+    QProcessEnvironment environment{programEnvironment()};
+    environment.insert("QT_SCALE_FACTOR", "0.25"); // Room for the window's first size.
+    environment.insert("PILOTEL_TEST_REPORT", folder.filePath(QStringLiteral("für später")));
+    environment.insert("VELTRIX_SIMULATOR_LOG", QStringLiteral("запись 録"));
+    const Outcome outcome{run(program, {"-plugin", "closewhenshown"}, environment, folder.path())};
+
+    QVERIFY2(outcome.exited, qPrintable(outcome.errors));
+    QCOMPARE(outcome.status, 0);
+    QCOMPARE(outcome.output, banner());
+    QVERIFY(linesOf(folder.filePath(QStringLiteral("für später")))
+                .contains("window MainWindow Veltrix BU Pilotel"));
+    const QStringList log{linesOf(folder.filePath(QStringLiteral("запись 録")))};
+    QCOMPARE(log.filter("trace: QT Version ").size(), 1);
 }
 
 void StartupTest::worksWithAnotherLibraryOfTheSameContract()

@@ -29,7 +29,8 @@ void setHostPorts(int count)
 }
 
 #if defined(Q_OS_WIN)
-// There a function of a DLL is called through a pointer of this name, which the linker otherwise takes from Qt.
+// There a function of a DLL is called through a pointer of this name, which the linker otherwise takes from
+// Qt.
 extern QList<QSerialPortInfo> (*const importedList)() __asm__("__imp__ZN15QSerialPortInfo14availablePortsEv");
 QList<QSerialPortInfo> (*const importedList)(){told};
 #else
