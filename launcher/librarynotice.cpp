@@ -4,7 +4,7 @@
 // standard error, and with TELLS_IN_A_BOX in a box as well.
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
-// Needs what that declares.
+// These come after it, since one of them uses what it declares.
 #include <cstdlib>
 #include <delayimp.h>
 #include <string>

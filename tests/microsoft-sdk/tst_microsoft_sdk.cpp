@@ -66,6 +66,7 @@ private slots:
     void programsAreTheSame();
     void everyCheckPasses();
     void tourIsTheSame();
+    void missingLibraryOfTheMakersIsTold();
 };
 
 void MicrosoftSdkTest::libraryIsAnotherOne()
@@ -116,6 +117,21 @@ void MicrosoftSdkTest::tourIsTheSame()
     const QStringList pictures{QDir{simulatedPictures.path()}.entryList(QDir::Files)};
     QVERIFY(!pictures.isEmpty());
     QCOMPARE(QDir{microsoftPictures.path()}.entryList(QDir::Files), pictures);
+}
+
+void MicrosoftSdkTest::missingLibraryOfTheMakersIsTold()
+{
+    // The library alone, without the one behind it.
+    const QTemporaryDir folder;
+    for (const char *const file : {"/veltrix.sdk.dll", "/pilotel-sdk-check.exe"}) {
+        QVERIFY(QFile::copy(QStringLiteral(MICROSOFT_FOLDER) + file, folder.path() + file));
+    }
+    const Result check{run(folder.path(), QStringLiteral("pilotel-sdk-check"),
+                           {QStringLiteral("--port"), QStringLiteral("SIM1")})};
+    QCOMPARE(check.exitCode, 1);
+    QCOMPARE(check.output,
+             QStringLiteral("The program cannot start: a library that veltrix.sdk.dll needs was not "
+                            "found. Install what its maker ships with it.\n"));
 }
 
 PILOTEL_TEST_CLASS(MicrosoftSdkTest)
