@@ -187,6 +187,13 @@ Function .onInit
         Push "/D="
         Call valueOf
         Pop $GivenFolder
+        ${Do}
+            StrCpy $0 $GivenFolder 1 -1
+            ${If} $0 != "\"
+                ${ExitDo}
+            ${EndIf}
+            StrCpy $GivenFolder $GivenFolder -1
+        ${Loop}
     ${EndIf}
     StrCpy $AllUsers 0
     ${GetParameters} $0
@@ -344,7 +351,7 @@ Function leaveUsersPage
         ${If} $0 = 0
             ; The same again as administrator, which skips this page.
             ClearErrors
-            ExecShell runas "$EXEPATH" "/ALLUSERS"
+            ExecShell runas "$EXEPATH" '/ALLUSERS /SDK="$Maker"'
             ${If} ${Errors}
                 Abort
             ${EndIf}
