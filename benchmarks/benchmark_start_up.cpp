@@ -125,6 +125,7 @@ Start measure(const QString &kind)
     }
     const auto nanoseconds = static_cast<double>(sinceStart.nsecsElapsed());
     process.waitForFinished();
+    told += process.readAllStandardOutput();
     const QStringList figures{QString::fromUtf8(told).trimmed().split('\n').last().split(' ')};
     if (figures.size() != 2) {
         qFatal("a start failed: %s", process.readAllStandardError().constData());

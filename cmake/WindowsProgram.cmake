@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Pilotel Developers
 # SPDX-License-Identifier: MIT
-# What makes our programs and our library at home on Windows: icon, manifest, version, and what happens before main().
+# What the programs and the simulated library bring along on Windows: icon, manifest, version, and what is done before main().
 include_guard(GLOBAL)
 
 if(WIN32)
@@ -38,7 +38,7 @@ function(pilotel_windows_resource target file)
 endfunction()
 
 # pilotel_windows_program(<target> DESCRIPTION <text> [WINDOW])
-# Of a program; with WINDOW it has the icon, and what keeps it from starting is told in a box as well. Does nothing on other
+# Gives a program its resource. With WINDOW it has the icon, and what keeps it from starting is told in a box as well. Does nothing on other
 # systems.
 function(pilotel_windows_program target)
     if(NOT WIN32)
@@ -46,6 +46,10 @@ function(pilotel_windows_program target)
     endif()
     pilotel_windows_resource(${target} ${target}.exe ${ARGN})
     set(sources ${PROJECT_SOURCE_DIR}/launcher/lineends.cpp)
+    if(MSVC)
+        # Its linker would write a manifest of its own beside the one of the resource.
+        target_link_options(${target} PRIVATE /MANIFEST:NO)
+    endif()
     if(MINGW)
         list(APPEND sources ${PROJECT_SOURCE_DIR}/launcher/librarynotice.cpp)
     endif()
@@ -58,7 +62,7 @@ function(pilotel_windows_program target)
 endfunction()
 
 # pilotel_windows_library(<target> <file> DESCRIPTION <text>)
-# The same of a library.
+# Gives a library its resource.
 function(pilotel_windows_library target file)
     if(WIN32)
         pilotel_windows_resource(${target} ${file} LIBRARY ${ARGN})

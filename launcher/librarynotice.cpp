@@ -73,5 +73,5 @@ FARPROC WINAPI tellAndEnd(unsigned notification, PDelayLoadInfo failure)
 
 } // namespace
 
-// What the loading at the first call calls when it fails.
+// The loader of the device library calls this when it fails.
 PfnDliHook __pfnDliFailureHook2{tellAndEnd};

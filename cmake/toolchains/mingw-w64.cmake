@@ -10,6 +10,7 @@ set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
 if(NOT QT_WIN64)
     set(QT_WIN64 "$ENV{QT_WIN64}")
 endif()
+get_filename_component(QT_WIN64 "${QT_WIN64}" ABSOLUTE BASE_DIR ${CMAKE_SOURCE_DIR})
 if(NOT EXISTS "${QT_WIN64}/lib/cmake/Qt5/Qt5Config.cmake")
     message(FATAL_ERROR "QT_WIN64 (\"${QT_WIN64}\") holds no Qt 5 for Windows: name its folder in the environment or "
                         "with -DQT_WIN64, or let scripts/windows build one.")

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstring>
+#include <string>
 #include <string_view>
 
 namespace veltrix_sdk
@@ -15,7 +16,7 @@ namespace veltrix_sdk
 class MicrosoftString
 {
 public:
-    explicit MicrosoftString(std::string_view text)
+    explicit MicrosoftString(const std::string &text)
         : size{text.size()}, capacity{size < placeForText ? placeForText - 1 : size}
     {
         static_assert(sizeof(MicrosoftString) == 32);

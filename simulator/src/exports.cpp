@@ -8,6 +8,7 @@
 #include "veltrix_sdk/sdk.h"
 
 #include <memory>
+#include <new>
 #include <string>
 
 namespace veltrix_sdk
@@ -73,6 +74,14 @@ ILogger &SDKLogger::GetILogger()
 {
     return *recordIn(storage);
 }
+
+#if defined(VELTRIX_SDK_SPELLED_OUT)
+/// The constructor for programs of Microsoft's compiler, which expect the object as its result.
+extern "C" void *veltrix_sdk_construct_logger(void *place, int severity)
+{
+    return new (place) SDKLogger{static_cast<severity_level>(severity)};
+}
+#endif
 
 } // namespace veltrix_sdk
 

@@ -17,7 +17,7 @@ inline void *operator new(std::size_t /*size*/, void *place) noexcept
 extern "C" {
 // The simulated SDK; the names are those of core.def.
 __declspec(dllimport) IVeltrixSdk *core_instance();
-__declspec(dllimport) void core_open_record(void *logger, int severity);
+__declspec(dllimport) void *core_open_record(void *logger, int severity);
 __declspec(dllimport) void core_close_record(void *logger);
 __declspec(dllimport) ILogger *core_record(void *logger);
 __declspec(dllimport) const char *const *core_additional_ports();
@@ -153,7 +153,10 @@ IVeltrixSdk *VeltrixSdk::get_instance()
 SDKLogger::SDKLogger(severity_level severity)
 {
     static_assert(sizeof(Record) <= 4 * sizeof(void *));
-    core_open_record(this, severity);
+    // Microsoft's compiler goes on with what a constructor returns.
+    if (core_open_record(this, severity) != this) {
+        __builtin_trap();
+    }
     auto *const record = new (storage + 4) Record;
     record->inner = core_record(this);
 }

@@ -29,7 +29,7 @@ const QString logName{QStringLiteral("Aufzeichnung für später, запись �
 const QString traceName{QStringLiteral("Spur für später, след 跡.trace")};
 
 /// What the scenario player found and told.
-struct Run
+struct Playing
 {
     QString found;
     QString errors;
@@ -50,7 +50,7 @@ private slots:
     void parametersAndPixelsAreKept();
 
 private:
-    Run play(const QString &scenario, const QString &log = {}, const QString &trace = {}) const;
+    Playing play(const QString &scenario, const QString &log = {}, const QString &trace = {}) const;
 
     const QTemporaryDir directory;
     QString folder;
@@ -69,7 +69,7 @@ void FileNamesTest::initTestCase()
     scenario.write("port = [{ name = \"COM12\" }]\nmemory.file = \"" + memoryName.toUtf8() + "\"\n");
 }
 
-Run FileNamesTest::play(const QString &scenario, const QString &log, const QString &trace) const
+Playing FileNamesTest::play(const QString &scenario, const QString &log, const QString &trace) const
 {
     QProcessEnvironment environment{QProcessEnvironment::systemEnvironment()};
     environment.insert("VELTRIX_SIMULATOR_SCENARIO", scenario);
@@ -96,7 +96,7 @@ void FileNamesTest::processPlaysScenario_data()
 void FileNamesTest::processPlaysScenario()
 {
     QFETCH(const bool, wholePath);
-    const Run run{play(wholePath ? folder + '/' + scenarioName : scenarioName)};
+    const Playing run{play(wholePath ? folder + '/' + scenarioName : scenarioName)};
     QCOMPARE(run.found, QStringLiteral("expert mode on, COM12 opens"));
     QCOMPARE(run.errors, QString{});
 }
@@ -104,7 +104,7 @@ void FileNamesTest::processPlaysScenario()
 void FileNamesTest::processWritesLogAndTrace()
 {
     // A scenario that does not exist is told in the log.
-    const Run run{play(memoryName + '/', logName, folder + '/' + traceName)};
+    const Playing run{play(memoryName + '/', logName, folder + '/' + traceName)};
     QCOMPARE(run.found, QStringLiteral("expert mode on, SIM1 stays shut"));
     const QByteArray log{contentOf(folder + '/' + logName)};
     QVERIFY2(log.contains(" error: the scenario file \"" + memoryName.toUtf8() + "/\" is no file"),
@@ -119,7 +119,7 @@ void FileNamesTest::processWritesLogAndTrace()
 
 void FileNamesTest::missingFilesAreNamed()
 {
-    const Run run{play("./no " + scenarioName, folderName + '/' + logName)};
+    const Playing run{play("./no " + scenarioName, folderName + '/' + logName)};
     QCOMPARE(run.errors.section('\n', 0, 0),
              "veltrix.sdk: cannot write the log file \"" + folderName + '/' + logName +
                  "\"; set VELTRIX_SIMULATOR_LOG to a file that can be written, or to - for standard error.");

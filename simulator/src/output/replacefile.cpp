@@ -29,7 +29,8 @@ int openForFlush(const std::filesystem::path &path)
 }
 constexpr auto flush = _commit;
 constexpr auto closeAgain = _close;
-// There a file that another program has open keeps its name; one that looks for viruses has it for a moment.
+// Windows does not replace a file that another program has open. One that looks for viruses has it open for a
+// moment.
 constexpr int attempts{50};
 #else
 int openForFlush(const std::filesystem::path &path)
