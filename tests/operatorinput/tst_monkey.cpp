@@ -313,7 +313,8 @@ void MonkeyTest::everyCommandWasAskedFor()
     int acts{0};
     int commands{0};
     QStringList latest;
-    while (sinceStart.elapsed() < millisecondsAtTheWindow()) {
+    // A monkey that reaches nothing proves nothing, so on a slow machine it stays until it has found a menu.
+    while (sinceStart.elapsed() < millisecondsAtTheWindow() || menus.count == 0) {
         const QString act{monkey.act()};
         QCoreApplication::processEvents();
         ++acts;
@@ -352,8 +353,6 @@ void MonkeyTest::everyCommandWasAskedFor()
         test.warnings.take();
     }
     qInfo("%d acts, %d commands, %d menus", acts, commands, menus.count);
-    // A monkey that reaches nothing proves nothing.
-    QVERIFY(menus.count > 0);
     QVERIFY(commands > acts / 20);
 }
 
