@@ -45,7 +45,7 @@ function(pilotel_windows_program target)
         return()
     endif()
     pilotel_windows_resource(${target} ${target}.exe ${ARGN})
-    set(sources ${PROJECT_SOURCE_DIR}/launcher/lineends.cpp)
+    set(sources ${PROJECT_SOURCE_DIR}/launcher/standardoutput.cpp)
     if(MSVC)
         # Its linker would write a manifest of its own beside the one of the resource.
         target_link_options(${target} PRIVATE /MANIFEST:NO)

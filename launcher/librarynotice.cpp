@@ -5,6 +5,7 @@
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
 // These come after it, since one of them uses what it declares.
+#include <array>
 #include <cstdlib>
 #include <delayimp.h>
 #include <string>
@@ -27,6 +28,35 @@ bool isThere()
     return SearchPathW(nullptr, library.c_str(), nullptr, 0, nullptr, nullptr) != 0;
 }
 
+/// What a number that Windows gives when it cannot load the library means for it.
+struct LoadError
+{
+    DWORD number;
+    const wchar_t *text; ///< without the name of the library, which comes before it
+};
+
+const std::array<LoadError, 4> loadErrors{{
+    {ERROR_ACCESS_DENIED,
+     L" may not be read by this account. Ask the administrator; a virus scanner may hold it, too."},
+    {ERROR_SHARING_VIOLATION, L" is held by another program. Close that program and start again."},
+    {ERROR_PROC_NOT_FOUND,
+     L" does not fit a library that it needs. Install what its maker ships with it, all of one "
+     L"delivery."},
+    {ERROR_DLL_INIT_FAILED,
+     L" cannot get itself ready. Install it, and what its maker ships with it, once more."},
+}};
+
+/// What Windows itself says of a number, in the language of the system, and the number.
+std::wstring wordsOfWindows(DWORD number)
+{
+    std::wstring text(512, L'\0');
+    text.resize(FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, number, 0,
+                               text.data(), static_cast<DWORD>(text.size()), nullptr));
+    // It ends with a line end.
+    text.resize(text.find_last_not_of(L"\r\n ") + 1);
+    return text + L" (error " + std::to_wstring(number) + L')';
+}
+
 std::wstring explanation(unsigned notification, const DelayLoadInfo &failure)
 {
     const std::wstring otherDelivery{
@@ -47,7 +77,12 @@ std::wstring explanation(unsigned notification, const DelayLoadInfo &failure)
     if (failure.dwLastError == ERROR_MOD_NOT_FOUND) {
         return L"a library that " + library + L" needs was not found. Install what its maker ships with it.";
     }
-    return library + L" cannot be loaded: error " + std::to_wstring(failure.dwLastError) + L" of Windows.";
+    for (const LoadError &error : loadErrors) {
+        if (error.number == failure.dwLastError) {
+            return library + error.text;
+        }
+    }
+    return library + L" cannot be loaded. Windows says: " + wordsOfWindows(failure.dwLastError);
 }
 
 void writeToStandardError(const std::wstring &text)

@@ -20,6 +20,12 @@
 #include <QTest>
 #include <QVersionNumber>
 
+#if defined(Q_OS_WIN)
+// What Windows declares comes last.
+#define WIN32_LEAN_AND_MEAN
+#include <windows.h>
+#endif
+
 namespace
 {
 
@@ -112,6 +118,8 @@ private slots:
 #if defined(Q_OS_WIN)
     void tellsThatTheLibraryIsNone_data();
     void tellsThatTheLibraryIsNone();
+    void tellsThatTheLibraryRefusesToBeLoaded();
+    void tellsThatTheLibraryIsHeldByAnotherProgram();
 #endif
 };
 
@@ -398,6 +406,40 @@ void StartupTest::tellsThatTheLibraryIsNone()
         QString{
             "The program cannot start: veltrix.sdk.dll is not a delivery that this program was made for. Ask the maker for "
             "the one that belongs to the camera.\n\nIt is no library for 64-bit Windows, or not a whole one.\n"});
+}
+
+void StartupTest::tellsThatTheLibraryRefusesToBeLoaded()
+{
+    Session session;
+    session.useLibrary(SDK_VARIANTS_DIRECTORY "/failing");
+    const Outcome outcome{session.run()};
+
+    QVERIFY(outcome.exited);
+    QCOMPARE(outcome.status, 1);
+    QCOMPARE(
+        outcome.errors,
+        QString{
+            "The program cannot start: veltrix.sdk.dll cannot get itself ready. Install it, and what its maker "
+            "ships with it, once more.\n"});
+}
+
+void StartupTest::tellsThatTheLibraryIsHeldByAnotherProgram()
+{
+    Session session;
+    session.useLibrary(QFileInfo{SDK_LIBRARY}.path());
+    const QString library{session.fileName("veltrix.sdk.dll")};
+    // Qt opens files so that others may read them; this lets nobody.
+    const HANDLE holder{CreateFileW(qUtf16Printable(QDir::toNativeSeparators(library)), GENERIC_READ, 0,
+                                    nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr)};
+    QVERIFY(holder != INVALID_HANDLE_VALUE);
+    const Outcome outcome{session.run()};
+    CloseHandle(holder);
+
+    QVERIFY(outcome.exited);
+    QCOMPARE(outcome.status, 1);
+    QCOMPARE(outcome.errors,
+             QString{"The program cannot start: veltrix.sdk.dll is held by another program. Close that "
+                     "program and start again.\n"});
 }
 #endif
 
