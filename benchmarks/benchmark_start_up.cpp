@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // What a start costs until the window is painted: as the program starts, the window alone, and an empty
-// window as Qt shows it.
+// window as Qt shows it. benchmark_start_up [STARTS] starts each so many times, in turn.
 #include "appearance.h"
 #include "fittedwindow.h"
 #include "mainwindow.h"
@@ -30,8 +30,6 @@
 namespace
 {
 
-constexpr int starts{31};
-
 /// What is started, each as a process of its own with this word as its argument.
 const QStringList kinds{QStringLiteral("program"), QStringLiteral("window"), QStringLiteral("empty")};
 
@@ -44,6 +42,7 @@ struct Start
 
 double residentKilobytes()
 {
+#if defined(Q_OS_LINUX)
     QFile status{QStringLiteral("/proc/self/status")};
     if (!status.open(QIODevice::ReadOnly)) {
         return 0;
@@ -53,6 +52,7 @@ double residentKilobytes()
             return line.mid(6).trimmed().split(' ').first().toDouble();
         }
     }
+#endif
     return 0;
 }
 
@@ -157,6 +157,10 @@ int main(int argc, char *argv[])
         return startEmpty(argc, argv);
     }
     const QCoreApplication application{argc, argv};
+    const int starts{kind.isEmpty() ? 31 : kind.toInt()};
+    if (starts <= 0) {
+        qFatal("%s is neither a number of starts nor one of: %s", argv[1], qPrintable(kinds.join(' ')));
+    }
     QMap<QString, QList<Start>> taken;
     for (int run{0}; run < starts; ++run) {
         for (const QString &each : kinds) {
