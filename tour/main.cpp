@@ -12,6 +12,7 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QStringList>
 #include <QStyleFactory>
 #include <QTabBar>
 #include <QTabWidget>
@@ -152,7 +153,7 @@ QString lastLogLine(const MainWindow &window)
 bool writeLog(const MainWindow &window, const QString &fileName)
 {
     QFile file{fileName};
-    return file.open(QIODevice::WriteOnly | QIODevice::Text) &&
+    return file.open(QIODevice::WriteOnly) &&
            file.write(child<QPlainTextEdit>(window, "logView").toPlainText().toUtf8()) >= 0;
 }
 
@@ -167,11 +168,15 @@ int main(int argc, char *argv[])
 
     QTextStream out{stdout};
     QTextStream errors{stderr};
-    if (argc != 2) {
+    out.setCodec("UTF-8");
+    errors.setCodec("UTF-8");
+    // As Qt reads them, so that a folder may have any letters on Windows too.
+    const QStringList arguments{QApplication::arguments()};
+    if (arguments.size() != 2) {
         errors << "usage: pilotel-tour DIRECTORY   (where the pictures and the log go)\n";
         return 2;
     }
-    const QDir directory{QString::fromLocal8Bit(argv[1])};
+    const QDir directory{arguments.at(1)};
     if (!directory.mkpath(QStringLiteral("."))) {
         errors << "pilotel-tour: cannot make the directory " << directory.path()
                << "; name one that can be written\n";

@@ -106,8 +106,9 @@ void MicrosoftSdkTest::everyCheckPasses()
 
 void MicrosoftSdkTest::tourIsTheSame()
 {
-    const QTemporaryDir simulatedPictures;
-    const QTemporaryDir microsoftPictures;
+    const QString name{QDir::tempPath() + QStringLiteral("/Führung 1, обход XXXXXX")};
+    const QTemporaryDir simulatedPictures{name};
+    const QTemporaryDir microsoftPictures{name};
     const Result simulated{run(SIMULATED_FOLDER, QStringLiteral("pilotel-tour"), {simulatedPictures.path()})};
     const Result microsoft{run(MICROSOFT_FOLDER, QStringLiteral("pilotel-tour"), {microsoftPictures.path()})};
     QVERIFY2(microsoft.exitCode == 0, qPrintable(microsoft.output));
@@ -117,6 +118,11 @@ void MicrosoftSdkTest::tourIsTheSame()
     const QStringList pictures{QDir{simulatedPictures.path()}.entryList(QDir::Files)};
     QVERIFY(!pictures.isEmpty());
     QCOMPARE(QDir{microsoftPictures.path()}.entryList(QDir::Files), pictures);
+    // The one that Linux writes.
+    const QByteArray log{contentOf(QStringLiteral(TOUR_LOG))};
+    QCOMPARE(log.count('\n'), 259);
+    QCOMPARE(contentOf(simulatedPictures.filePath(QStringLiteral("log.txt"))), log);
+    QCOMPARE(contentOf(microsoftPictures.filePath(QStringLiteral("log.txt"))), log);
 }
 
 void MicrosoftSdkTest::missingLibraryOfTheMakersIsTold()
