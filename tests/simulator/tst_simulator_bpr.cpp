@@ -4,6 +4,7 @@
 #include "contents.h"
 #include "simulatedcamera.h"
 #include "testclass.h"
+#include "workingdirectory.h"
 
 #include <QByteArray>
 #include <QDir>
@@ -12,7 +13,6 @@
 #include <QObject>
 #include <QString>
 #include <QStringList>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <array>
@@ -26,22 +26,6 @@ namespace
 constexpr int headerSize{28};
 constexpr int fileSize{headerSize + 640 * 480 / 8};
 const QString cameraFile{QStringLiteral("bpr_SN10417.bin")};
-
-/// A working directory of its own, for as long as it lives.
-class WorkingDirectory
-{
-public:
-    WorkingDirectory() { QDir::setCurrent(directory.path()); }
-    ~WorkingDirectory() { QDir::setCurrent(previous); }
-    WorkingDirectory(const WorkingDirectory &) = delete;
-    WorkingDirectory &operator=(const WorkingDirectory &) = delete;
-
-    QStringList files() const { return QDir{directory.path()}.entryList(QDir::Files, QDir::Name); }
-
-private:
-    const QString previous{QDir::currentPath()};
-    const QTemporaryDir directory;
-};
 
 bool read(const SimulatedCamera &c)
 {
