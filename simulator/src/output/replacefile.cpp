@@ -32,6 +32,12 @@ constexpr auto closeAgain = _close;
 // Windows does not replace a file that another program has open. One that looks for viruses has it open for a
 // moment.
 constexpr int attempts{50};
+
+/// Of such a file Windows says no more than that access to it is denied.
+std::string hintFor(const std::error_code &error)
+{
+    return error == std::errc::permission_denied ? "; another program may have it open" : "";
+}
 #else
 int openForFlush(const std::filesystem::path &path)
 {
@@ -40,6 +46,11 @@ int openForFlush(const std::filesystem::path &path)
 constexpr auto flush = fsync;
 constexpr auto closeAgain = close;
 constexpr int attempts{1};
+
+std::string hintFor(const std::error_code & /*error*/)
+{
+    return {};
+}
 #endif
 constexpr std::chrono::milliseconds pauseBetweenAttempts{10};
 
@@ -86,7 +97,7 @@ std::optional<std::string> replaceFile(const std::string &name, std::string_view
     if (error) {
         std::error_code ignored;
         std::filesystem::remove(temporary, ignored);
-        return "the file \"" + name + "\" cannot be replaced: " + error.message();
+        return "the file \"" + name + "\" cannot be replaced: " + error.message() + hintFor(error);
     }
     return std::nullopt;
 }

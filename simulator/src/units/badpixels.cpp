@@ -36,11 +36,12 @@ bool refuse(LogOutput &log, const std::string &name, const std::string &reason)
 bool save(const BprTable &table, std::uint32_t serialNumber, LogOutput &log)
 {
     const std::string name = bprFileName(serialNumber);
-    const bool written{!replaceFile(name, formatBprFile({serialNumber, table}))};
-    if (!written) {
-        log.write(veltrix_sdk::severity_warning, "BPR file " + name + " cannot be written in this directory");
+    const auto problem = replaceFile(name, formatBprFile({serialNumber, table}));
+    if (problem) {
+        log.write(veltrix_sdk::severity_warning,
+                  "BPR file " + name + " cannot be written in this directory: " + *problem);
     }
-    return written;
+    return !problem;
 }
 
 std::optional<BprTable> load(std::uint32_t serialNumber, LogOutput &log)
