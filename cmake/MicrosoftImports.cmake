@@ -33,7 +33,11 @@ execute_process(
 if(NOT status EQUAL 0)
     message(FATAL_ERROR "PILOTEL_DEVICE_SDK: ${PILOTEL_DEVICE_SDK} is no library of Windows: ${error}")
 endif()
-file(STRINGS ${definition} imports REGEX " == ")
+if(NOT exports MATCHES "pei-x86-64")
+    message(FATAL_ERROR "PILOTEL_DEVICE_SDK: ${PILOTEL_DEVICE_SDK} is no library for 64-bit Windows. Name the maker's "
+        "veltrix.sdk.dll for it; there is no program for 32-bit Windows.")
+endif()
+file(STRINGS ${definition} imports REGEX "^[^;].* == ")
 foreach(import IN LISTS imports)
     string(REGEX REPLACE ".* == " "" name "${import}")
     string(FIND "${exports}" "${name}" place)
