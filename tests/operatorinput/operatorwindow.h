@@ -30,6 +30,17 @@ inline void turnWheelOver(QWidget &widget, const QPoint &place, int notches)
     QCoreApplication::instance()->notify(widget.windowHandle(), &event);
 }
 
+/// One event of a key, as the window system tells a native window, or repeats it while the key is held. Qt
+/// Test's own function works off what waits afterwards: on Windows the loop of a box that the key has closed
+/// would then sleep until something else happens.
+inline void sendKey(QWindow &window, QEvent::Type type, int key, bool repeated = false,
+                    const QString &text = {})
+{
+    QKeyEvent event{type, key, Qt::NoModifier, text, repeated};
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    QCoreApplication::instance()->notify(&window, &event);
+}
+
 /// The window as the program runs it. All places are those of the window; events come by way of its native
 /// window, as the window system sends them.
 class OperatorWindow : public TestWindow
@@ -72,12 +83,9 @@ public:
         turnWheelOver(window(), place, notches);
     }
 
-    /// One event of a key, as the window system repeats it while the key is held.
     void key(QEvent::Type type, Qt::Key key, bool repeated = false)
     {
-        QKeyEvent event{type, key, Qt::NoModifier, QString{}, repeated};
-        QSpontaneKeyEvent::setSpontaneous(&event);
-        QCoreApplication::instance()->notify(&native(), &event);
+        sendKey(native(), type, key, repeated);
     }
 
 private:

@@ -343,7 +343,7 @@ void SequencesTest::aBoxHasTheOrdinaryPointerAndIsAnswered()
         busyInTheBox = saysBusy();
         duringTheSequence(test, [&] { busyAfterwards = saysBusy(); });
         // By way of the window system, as the operator answers it.
-        QTest::keyClick(box.windowHandle(), Qt::Key_Return);
+        sendKey(*box.windowHandle(), QEvent::KeyPress, Qt::Key_Return);
     });
 
     test.clickAt(test.middleOf("readParamButtonUser"));

@@ -66,9 +66,7 @@ void repeatKey(QWindow &window, int key)
     for (int repeat{0}; repeat < times; ++repeat) {
         // X11 tells a release before each repeated press, Windows does not.
         for (const QEvent::Type type : {QEvent::KeyRelease, QEvent::KeyPress}) {
-            QKeyEvent event{type, key, Qt::NoModifier, QStringLiteral("\r"), true};
-            QSpontaneKeyEvent::setSpontaneous(&event);
-            QCoreApplication::instance()->notify(&window, &event);
+            sendKey(window, type, key, true, QStringLiteral("\r"));
         }
     }
 }
@@ -285,11 +283,12 @@ void TypingTest::aHeldEnterLeavesTheBoxOpen()
         repeatKey(*box.windowHandle(), key);
         QCoreApplication::processEvents();
         stillOpen = box.isVisible();
-        QTest::keyRelease(box.windowHandle(), static_cast<Qt::Key>(key));
-        // Pressed anew it answers the box.
-        QTest::keyClick(box.windowHandle(), static_cast<Qt::Key>(key));
+        sendKey(*box.windowHandle(), QEvent::KeyRelease, key);
+        // Pressed anew it answers the box, and is let go over the window.
+        sendKey(*box.windowHandle(), QEvent::KeyPress, key);
     });
     QTest::keyPress(&test.native(), static_cast<Qt::Key>(key));
+    test.key(QEvent::KeyRelease, static_cast<Qt::Key>(key));
     QVERIFY(stillOpen);
     QCOMPARE(test.boxes.takeShown(), QStringList{orderBox(0, "X1")});
     QCOMPARE(test.takeCalls(), QStringList{sent("X1", 300, 0, flagsOfOnly.at(0))});
