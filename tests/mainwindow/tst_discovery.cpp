@@ -113,8 +113,8 @@ void DiscoveryTest::unlocksConnectWithTheFirstPort()
 void DiscoveryTest::showsPortNamesAsTheyAre_data()
 {
     QTest::addColumn<QString>("port");
-    for (const char *const port :
-         {"<b>COM7</b>", "COM%2", "%1", "a&b", "COM 7", "port \xC3\xA9\xE2\x82\xAC"}) {
+    for (const char *const port : {"<b>COM7</b>", "COM%2", "%1", "a&b", "COM 7", "COM9", "COM10", "COM256",
+                                   "port \xC3\xA9\xE2\x82\xAC"}) {
         QTest::newRow(port) << QString::fromUtf8(port);
     }
 }

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// Names of files and folders with spaces and with letters of several scripts: of the program, its library,
-// its working directory, and of all that the library reads and writes.
+// Names of files and folders with spaces and with letters of several scripts, and paths of more letters than
+// Windows once allowed: of the program, its library, its working directory, and of all that the library reads
+// and writes.
 #include "contents.h"
 #include "simulatedcamera.h"
 #include "testclass.h"
@@ -19,6 +20,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <cstdint>
+
 namespace
 {
 
@@ -27,6 +30,33 @@ const QString scenarioName{QStringLiteral("glühend heiß, жара 雪.toml")};
 const QString memoryName{QStringLiteral("Gedächtnis, память 記憶.json")};
 const QString logName{QStringLiteral("Aufzeichnung für später, запись 録.log")};
 const QString traceName{QStringLiteral("Spur für später, след 跡.trace")};
+
+/// The longest path that a program could use on Windows once, with what ends it.
+constexpr int longestOnce{260};
+
+/// Makes a folder below another until its path has more letters than that.
+QString makeDeepFolder(QString folder)
+{
+    while (folder.size() <= longestOnce) {
+        folder += '/' + folderName;
+    }
+    return QDir{}.mkpath(folder) ? folder : QString{};
+}
+
+/// Makes a folder whose path is that long.
+QString makeFolderOfLength(const QString &above, int length)
+{
+    const QString folder{above + '/' + QString{length - above.size() - 1, 'x'}};
+    return QDir{}.mkpath(folder) ? folder : QString{};
+}
+
+bool writeScenario(const QString &name, const QString &memoryFile)
+{
+    const QByteArray content{"port = [{ name = \"COM12\" }]\nmemory.file = \"" + memoryFile.toUtf8() +
+                             "\"\n"};
+    QFile scenario{name};
+    return scenario.open(QIODevice::WriteOnly) && scenario.write(content) == content.size();
+}
 
 /// What the scenario player found and told.
 struct Playing
@@ -48,6 +78,8 @@ private slots:
     void processWritesLogAndTrace();
     void missingFilesAreNamed();
     void parametersAndPixelsAreKept();
+    void processUsesLongPaths();
+    void longPathsAreKept();
 
 private:
     Playing play(const QString &scenario, const QString &log = {}, const QString &trace = {}) const;
@@ -64,9 +96,7 @@ void FileNamesTest::initTestCase()
     program = folder + '/' + QFileInfo{SCENARIO_PLAYER}.fileName();
     QVERIFY(QFile::copy(SCENARIO_PLAYER, program));
     QVERIFY(QFile::copy(SIMULATOR_LIBRARY, folder + '/' + QFileInfo{SIMULATOR_LIBRARY}.fileName()));
-    QFile scenario{folder + '/' + scenarioName};
-    QVERIFY(scenario.open(QIODevice::WriteOnly));
-    scenario.write("port = [{ name = \"COM12\" }]\nmemory.file = \"" + memoryName.toUtf8() + "\"\n");
+    QVERIFY(writeScenario(folder + '/' + scenarioName, memoryName));
 }
 
 Playing FileNamesTest::play(const QString &scenario, const QString &log, const QString &trace) const
@@ -150,6 +180,68 @@ void FileNamesTest::parametersAndPixelsAreKept()
     QVERIFY2(memory.contains(R"("gamma")"), memory.constData());
     QVERIFY(!memory.contains('\r'));
     QVERIFY(contentOf(folder + "/bpr_SN10417.bin").startsWith("VLTXBPR\n"));
+}
+
+void FileNamesTest::processUsesLongPaths()
+{
+    const QString deep{makeDeepFolder(folder)};
+    QVERIFY(deep.size() > longestOnce);
+    QVERIFY(writeScenario(deep + '/' + scenarioName, deep + '/' + memoryName));
+    const Playing run{play(deep + '/' + scenarioName, deep + '/' + logName, deep + '/' + traceName)};
+    QCOMPARE(run.found, QStringLiteral("expert mode on, COM12 opens"));
+    QCOMPARE(run.errors, QString{});
+    const QByteArray trace{contentOf(deep + '/' + traceName)};
+    QVERIFY2(trace.contains(R"("operation":"openDevice","arguments":["COM12"])"), trace.constData());
+
+    const Playing refused{play(deep + "/no " + scenarioName, deep + '/' + logName)};
+    // Of a name so long the beginning is told.
+    const QString reason{"the scenario file \"" + folder + '/'};
+    QVERIFY2(refused.errors.startsWith("veltrix.sdk: " + reason), qPrintable(refused.errors));
+    const QByteArray log{contentOf(deep + '/' + logName)};
+    QVERIFY2(log.contains(" error: " + reason.toUtf8()), log.constData());
+}
+
+void FileNamesTest::longPathsAreKept()
+{
+    const QString deep{makeDeepFolder(folder)};
+    const QString scenario{deep + '/' + scenarioName};
+    const QString memory{deep + '/' + memoryName};
+    QVERIFY(writeScenario(scenario, memory));
+    // Windows has no longer working directory; the names of its files make the path too long.
+    const QString workplace{makeFolderOfLength(folder, 245)};
+    const QString pixels{workplace + "/bpr_SN10417.bin"};
+    QVERIFY(pixels.size() > longestOnce);
+    const QString before{QDir::currentPath()};
+    QVERIFY(QDir::setCurrent(workplace));
+    SimulatedCamera c;
+    c.simulator.loadScenario(scenario.toStdString());
+    c.device = c.sdk.getDeviceManager()->openDevice("COM12");
+    c.device->setTarget(cameraTarget);
+    // The second time each file is replaced.
+    QStringList failed;
+    for (const std::uint32_t gamma : {50'000U, 70'000U}) {
+        if (!c.device->setGamma(gamma) || !c.device->saveBlendUnitParameters(0)) {
+            failed.append("save");
+        }
+        if (!c.device->readBprTable(4096, 16384, 9)) {
+            failed.append("read");
+        }
+    }
+    if (!c.device->addBadPixel(1, 1) || !c.device->writeBprTable(4096, 16384, 8)) {
+        failed.append("write");
+    }
+    c.simulator.loadScenario(scenario.toStdString());
+    const QString gamma{toText(c.simulator.get("camera.gamma"))};
+    c.simulator.reset();
+    QDir::setCurrent(before);
+
+    QCOMPARE(failed, QStringList{});
+    QCOMPARE(gamma, QStringLiteral("70000"));
+    QVERIFY2(contentOf(memory).contains(R"("gamma": 70000)"), contentOf(memory).constData());
+    QVERIFY(contentOf(pixels).startsWith("VLTXBPR\n"));
+    for (const QString &file : {memory, pixels}) {
+        QVERIFY2(!QFile::exists(file + ".tmp"), qPrintable(file));
+    }
 }
 
 PILOTEL_TEST_CLASS(FileNamesTest)
