@@ -14,6 +14,7 @@
 #include <QProcessEnvironment>
 #include <QRegularExpression>
 #include <QSerialPortInfo>
+#include <QSettings>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -116,6 +117,7 @@ private slots:
     void endsWithTheLoadersMessageWithoutALibrary();
     void endsWithTheLoadersMessageWithAnIncompleteLibrary();
 #if defined(Q_OS_WIN)
+    void scansPortsAboveNine();
     void tellsThatTheLibraryIsNone_data();
     void tellsThatTheLibraryIsNone();
     void tellsThatTheLibraryRefusesToBeLoaded();
@@ -377,6 +379,36 @@ void StartupTest::endsWithTheLoadersMessageWithAnIncompleteLibrary()
 }
 
 #if defined(Q_OS_WIN)
+void StartupTest::scansPortsAboveNine()
+{
+    // Where drivers tell Windows of their ports.
+    QSettings ports{R"(HKEY_LOCAL_MACHINE\HARDWARE\DEVICEMAP\SERIALCOMM)", QSettings::NativeFormat};
+    const QStringList names{"COM9", "COM10", "COM12", "COM256"};
+    for (const QString &name : names) {
+        ports.setValue("PilotelTest" + name, name);
+    }
+    ports.sync();
+    const bool told{ports.status() == QSettings::NoError};
+    Session session;
+    session.environment.insert("PILOTEL_TEST_SCAN", "1");
+    const Outcome outcome{session.run()};
+    const QStringList expected{scannedPorts({"SIM1"})};
+    for (const QString &name : names) {
+        ports.remove("PilotelTest" + name);
+    }
+    ports.sync();
+
+    if (!told) {
+        QSKIP("It takes an administrator to tell Windows of a port.");
+    }
+    QCOMPARE(outcome.status, 0);
+    QCOMPARE(session.report().filter(QRegularExpression{"^(port|box) "}), expected);
+    // As Windows names them, and as the library is asked to open them.
+    for (const QString &name : names) {
+        QCOMPARE(session.report().count("port " + name), 1);
+    }
+}
+
 void StartupTest::tellsThatTheLibraryIsNone_data()
 {
     QTest::addColumn<QByteArray>("content");
