@@ -67,7 +67,7 @@ void ThemesTest::theColoursAreTheStylesOwn()
     const QStringList ofFusion{
         "widgets #000000 #ffffff #000000 #efefef #000000 #ffffdc #000000",
         "tool tips #000000",
-        "icon in 7 sizes",
+        "icon in 5 sizes",
         "OpenGL is not loaded",
     };
     QCOMPARE(linesOf(directory.filePath("report")).join('\n'), ofFusion.join('\n'));
