@@ -3,6 +3,7 @@
 // Starts the program that lies beside it. Without a whole device library the program ends before its own
 // first line, and says so on a terminal only; this says it on the screen.
 #include <QApplication>
+#include <QByteArray>
 #include <QFile>
 #include <QFileInfo>
 #include <QMessageBox>
@@ -73,9 +74,11 @@ int main(int argc, char *argv[])
 {
     const QFileInfo self{QFile::symLinkTarget(QStringLiteral("/proc/self/exe"))};
     const QFileInfo program{self.absolutePath() + QStringLiteral("/pilotel")};
+    QByteArray path{QFile::encodeName(program.filePath())};
+    // Qt names windows after it. A desktop tells by that name to which icon of its menu a window belongs.
+    argv[0] = path.data();
     QStringList found{obstacles(program.filePath())};
     if (found.isEmpty()) {
-        const QByteArray path{QFile::encodeName(program.filePath())};
         execv(path.constData(), argv);
         found.append(program.filePath());
     }

@@ -3,11 +3,14 @@
 // Starting the program from an icon: with its device library, without it, and with one that is not whole.
 #include "program.h"
 #include "testclass.h"
+#include "virtualscreen.h"
 
 #include <QByteArray>
 #include <QFile>
 #include <QIODevice>
+#include <QProcess>
 #include <QRegularExpression>
+#include <QSize>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -18,6 +21,8 @@ class LauncherTest : public QObject
 private slots:
     void init();
     void startsTheProgram();
+    void windowsBelongToTheDesktopEntry_data();
+    void windowsBelongToTheDesktopEntry();
     void tellsThatTheLibraryIsMissing();
     void tellsThatTheLibraryIsAnotherOne();
     void tellsThatTheLibraryCannotBeUsed_data();
@@ -47,6 +52,39 @@ void LauncherTest::startsTheProgram()
     QCOMPARE(outcome.status, 0);
     QVERIFY(outcome.output.startsWith("Start QT veltrix command application\n"));
     QCOMPARE(report(), QStringList{"window MainWindow Veltrix BU Pilotel"});
+}
+
+void LauncherTest::windowsBelongToTheDesktopEntry_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::addColumn<QString>("library");
+    QTest::addColumn<QString>("title");
+    QTest::newRow("window of the program") << PROGRAM << ""
+                                           << "Veltrix BU Pilotel";
+    QTest::newRow("window of the program, started by the launcher") << LAUNCHER << ""
+                                                                    << "Veltrix BU Pilotel";
+    QTest::newRow("box of the launcher") << LAUNCHER << SDK_VARIANTS_DIRECTORY "/incomplete"
+                                         << "Pilotel";
+}
+
+void LauncherTest::windowsBelongToTheDesktopEntry()
+{
+    QFETCH(QString, program);
+    QFETCH(QString, library);
+    QFETCH(QString, title);
+    const QStringList entry{linesOf(DESKTOP_ENTRY).filter("StartupWMClass=")};
+    QCOMPARE(entry, QStringList{"StartupWMClass=pilotel"});
+
+    const VirtualScreen screen{QSize{1920, 1080}, 40};
+    environment.insert("DISPLAY", screen.name());
+    environment.insert("QT_QPA_PLATFORM", "xcb");
+    environment.insert("LD_LIBRARY_PATH", library);
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(program, QStringList{});
+    QCOMPARE(screen.classOfWindow(title), QString{R"(WM_CLASS(STRING) = "pilotel", "pilotel")"});
+    process.terminate();
+    QVERIFY(process.waitForFinished());
 }
 
 void LauncherTest::tellsThatTheLibraryIsMissing()

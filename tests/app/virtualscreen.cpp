@@ -3,7 +3,9 @@
 // A screen of any size that nobody sees.
 #include "virtualscreen.h"
 
-#include "program.h"
+#include <QElapsedTimer>
+#include <QProcessEnvironment>
+#include <QThread>
 
 VirtualScreen::VirtualScreen(QSize size, int panelHeight)
 {
@@ -30,11 +32,30 @@ bool VirtualScreen::tellDensity(int dotsPerInch) const
     return setProperty("RESOURCE_MANAGER", "8s", QStringLiteral("Xft.dpi:\t%1\n").arg(dotsPerInch));
 }
 
-bool VirtualScreen::setProperty(const QString &name, const QString &format, const QString &value) const
+QString VirtualScreen::classOfWindow(const QString &title) const
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < 30000) {
+        const Outcome outcome{askXprop({"-name", title, "WM_CLASS"})};
+        if (outcome.exited && outcome.status == 0) {
+            return outcome.output.trimmed();
+        }
+        QThread::msleep(50);
+    }
+    return {};
+}
+
+Outcome VirtualScreen::askXprop(const QStringList &arguments) const
 {
     QProcessEnvironment environment{programEnvironment()};
     environment.insert("DISPLAY", display);
-    const Outcome outcome{run(XPROP, {"-root", "-f", name, format, "-set", name, value}, environment)};
+    return run(XPROP, arguments, environment);
+}
+
+bool VirtualScreen::setProperty(const QString &name, const QString &format, const QString &value) const
+{
+    const Outcome outcome{askXprop({"-root", "-f", name, format, "-set", name, value})};
     return outcome.exited && outcome.status == 0;
 }
 

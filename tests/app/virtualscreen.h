@@ -3,9 +3,12 @@
 // A screen of any size that nobody sees.
 #pragma once
 
+#include "program.h"
+
 #include <QProcess>
 #include <QSize>
 #include <QString>
+#include <QStringList>
 
 /// An X server of its own with one screen of 100 dots per inch, as long as the object lives.
 class VirtualScreen
@@ -23,8 +26,12 @@ public:
 
     /// The value of DISPLAY, such as ":5"; empty when the server did not start.
     QString name() const { return display; }
+    /// What a desktop knows a window by, WM_CLASS as xprop writes it, once there is one with that title;
+    /// empty after half a minute.
+    QString classOfWindow(const QString &title) const;
 
 private:
+    Outcome askXprop(const QStringList &arguments) const;
     bool setProperty(const QString &name, const QString &format, const QString &value) const;
 
     QProcess server;
