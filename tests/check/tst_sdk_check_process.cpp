@@ -17,6 +17,7 @@
 #include <QObject>
 #include <QProcess>
 #include <QProcessEnvironment>
+#include <QRegularExpression>
 #include <QSerialPortInfo>
 #include <QString>
 #include <QStringList>
@@ -41,6 +42,19 @@ QStringList scannedPorts()
         names.append(port.portName());
     }
     return names;
+}
+
+/// The long options in a text, each once, in alphabetical order.
+QStringList options(const QString &text)
+{
+    static const QRegularExpression option{"--[a-z]+"};
+    QStringList found;
+    for (auto match = option.globalMatch(text); match.hasNext();) {
+        found.append(match.next().captured());
+    }
+    found.sort();
+    found.removeDuplicates();
+    return found;
 }
 
 #if defined(Q_OS_UNIX)
@@ -106,6 +120,7 @@ private slots:
     void refusesWrongArguments_data();
     void refusesWrongArguments();
     void helps();
+    void hasEveryOptionInItsManualPage();
     void writesJson();
     void namesAPortThatDoesNotOpen();
 #if defined(Q_OS_UNIX)
@@ -252,6 +267,16 @@ void SdkCheckProcessTest::helps()
                                    "readBprTable", "writeBprTable", "addBadPixel", "removeBadPixel"}) {
         QVERIFY2(outcome.output.contains(text), text);
     }
+}
+
+void SdkCheckProcessTest::hasEveryOptionInItsManualPage()
+{
+    const Outcome outcome{run(PROGRAM, {"--help"}, programEnvironment())};
+    const QStringList known{options(outcome.output)};
+    QVERIFY(known.contains("--repeat"));
+    const QString page{linesOf(MANUAL_PAGE).join('\n').replace("\\-", "-")};
+    QCOMPARE(options(page.section(".SH OPTIONS", 1).section(".SH ", 0, 0)), known);
+    QCOMPARE(options(page.section(".SH SYNOPSIS", 1).section(".SH ", 0, 0)), known);
 }
 
 void SdkCheckProcessTest::writesJson()
