@@ -12,6 +12,18 @@ if(PILOTEL_DEVICE_SDK AND NOT EXISTS "${PILOTEL_DEVICE_SDK}")
         "Name the maker's library, or leave the variable empty to build against the simulated SDK.")
 endif()
 
+if(UNIX AND NOT APPLE)
+    # The programs find the maker's library as in an installation: through the folder for what an administrator adds.
+    set(folder ${PROJECT_BINARY_DIR}/local/lib/pilotel)
+    file(REMOVE_RECURSE ${folder})
+    if(PILOTEL_DEVICE_SDK)
+        file(MAKE_DIRECTORY ${folder})
+        cmake_path(GET PILOTEL_DEVICE_SDK FILENAME name)
+        cmake_path(ABSOLUTE_PATH PILOTEL_DEVICE_SDK BASE_DIRECTORY ${CMAKE_BINARY_DIR} OUTPUT_VARIABLE library)
+        file(CREATE_LINK ${library} ${folder}/${name} SYMBOLIC)
+    endif()
+endif()
+
 if(MINGW)
     include(MicrosoftImports)
 elseif(PILOTEL_DEVICE_SDK)

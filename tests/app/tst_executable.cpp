@@ -58,8 +58,9 @@ void ExecutableTest::findsLibrariesBesideItself()
 {
     // A RUNPATH comes after LD_LIBRARY_PATH, so that another library can take the simulated one's place.
     QCOMPARE(dynamicEntries("RPATH"), QStringList{});
-    const QStringList besideAndInLib{"$ORIGIN:$ORIGIN/../lib"};
-    QCOMPARE(dynamicEntries("RUNPATH"), besideAndInLib);
+    const QStringList places{
+        "$ORIGIN:$ORIGIN/../local/lib/pilotel:$ORIGIN/../lib:$ORIGIN/../" INSTALLED_LIBDIR "/pilotel"};
+    QCOMPARE(dynamicEntries("RUNPATH"), places);
 }
 
 void ExecutableTest::takesTheContractsFourFunctions()
