@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // Prints the serial number of the unit behind a port.
-#include <veltrix_sdk/numbers.h>
-#include <veltrix_sdk/sdk.h>
+#include "veltrix_sdk/sdk.h"
 
 #include <iostream>
 
