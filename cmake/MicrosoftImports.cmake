@@ -37,6 +37,8 @@ if(NOT exports MATCHES "pei-x86-64")
     message(FATAL_ERROR "PILOTEL_DEVICE_SDK: ${PILOTEL_DEVICE_SDK} is no library for 64-bit Windows. Name the maker's "
         "veltrix.sdk.dll for it; there is no program for 32-bit Windows.")
 endif()
+# What it imports itself stands before this.
+string(REGEX REPLACE ".*\\[Ordinal/Name Pointer\\] Table" "" exports "${exports}")
 file(STRINGS ${definition} imports REGEX "^[^;].* == ")
 foreach(import IN LISTS imports)
     string(REGEX REPLACE ".* == " "" name "${import}")
