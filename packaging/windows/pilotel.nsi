@@ -74,6 +74,7 @@ Var GivenFolder   ; what /D says
 Var Installed     ; the folder where it is installed already, else empty
 Var Other         ; where it is installed for this user when it is to be for all users, and the other way round
 Var Maker         ; the maker's library that the operator names, else empty
+Var MakerGiven    ; /SDK is there
 Var Unpacked      ; where the new files lie before they go to their places; empty before that
 Var NewFolder     ; 1: the folder was made by this installer
 Var Held          ; a file that somebody else uses
@@ -340,6 +341,11 @@ Function .onInit
     SetRegView 64
     Push "/SDK="
     Call valueOf
+    ${If} ${Errors}
+        StrCpy $MakerGiven 0
+    ${Else}
+        StrCpy $MakerGiven 1
+    ${EndIf}
     Call fullName
     Pop $Maker
     ; NSIS reads the one without quotes.
@@ -369,7 +375,11 @@ Function .onInit
     Call findFolder
     ${If} ${Silent}
         Call leaveWhenElsewhere
-        ${If} $Maker != ""
+        ${If} $MakerGiven = 1
+        ${AndIf} $Maker == ""
+            ; As in a script with a variable that nobody has set.
+            !insertmacro Leave "" ${ERROR_NO_LIBRARY} "/SDK names nothing."
+        ${ElseIf} $Maker != ""
             Push $Maker
             Call isLibrary
             Pop $0
@@ -405,18 +415,20 @@ Function fullName
     Push $R0
 FunctionEnd
 
-; Takes the name of an option from the stack and leaves its value; empty when it is not on the command line. The option as a
-; whole, or its value, may be in quotes.
+; Takes the name of an option from the stack and leaves its value; empty, with the error flag, when it is not on the command
+; line. The option as a whole, or its value, may be in quotes.
 Function valueOf
     Pop $0
     StrLen $1 $0
     StrCpy $2 0 ; the place in the command line
     StrCpy $3 "" ; the character before it
     StrCpy $5 "" ; the value
+    ClearErrors
     ${Do}
         StrCpy $4 $CMDLINE $1 $2
         ${If} $4 == ""
             Push ""
+            SetErrors
             Return
         ${EndIf}
         ${If} $4 == $0
