@@ -88,7 +88,7 @@ install(
 )
 
 install(
-    FILES docs/user-guide.md docs/sdk-check.md
+    FILES CHANGELOG.md docs/user-guide.md docs/sdk-check.md
     DESTINATION ${documentation_root}/pilotel
     COMPONENT pilotel-doc
 )
