@@ -51,6 +51,26 @@ install(
     PATTERN "*.toml"
 )
 
+# What a desktop shows, and the manual pages, each with what it tells of.
+install(FILES packaging/linux/pilotel.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT pilotel)
+install(FILES packaging/linux/com.example.pilotel.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo COMPONENT pilotel)
+install(DIRECTORY packaging/linux/icons/hicolor DESTINATION ${CMAKE_INSTALL_DATADIR}/icons COMPONENT pilotel)
+install(
+    FILES packaging/linux/man/pilotel.1 packaging/linux/man/pilotel-start.1
+    DESTINATION ${CMAKE_INSTALL_MANDIR}/man1
+    COMPONENT pilotel
+)
+install(
+    FILES packaging/linux/man/pilotel-sdk-check.1
+    DESTINATION ${CMAKE_INSTALL_MANDIR}/man1
+    COMPONENT pilotel-tools
+)
+install(
+    FILES packaging/linux/man/pilotel-scenario.5
+    DESTINATION ${CMAKE_INSTALL_MANDIR}/man5
+    COMPONENT libveltrix-sdk-simulator
+)
+
 install(
     DIRECTORY sdk/veltrix_sdk
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
