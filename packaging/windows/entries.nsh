@@ -3,6 +3,20 @@
 ; The entries of the start menu and of the list of programs.
 Var Entry ; the entry of the start menu
 
+; Whichever of the two there is.
+!macro DeleteMenuEntries
+    Delete "$SMPROGRAMS\Pilotel.lnk"
+    Delete "$SMPROGRAMS\Pilotel (simulated camera).lnk"
+!macroend
+
+; A value of the entry of the list of programs.
+!macro ListText NAME TEXT
+    WriteRegStr SHCTX "${UNINSTALL_KEY}" ${NAME} '${TEXT}'
+!macroend
+!macro ListNumber NAME NUMBER
+    WriteRegDWORD SHCTX "${UNINSTALL_KEY}" ${NAME} ${NUMBER}
+!macroend
+
 ; The start menu and the list of programs.
 Function makeEntries
     StrCpy $Entry "Pilotel"
@@ -10,8 +24,7 @@ Function makeEntries
     ${If} $Simulated > 0
         StrCpy $Entry "Pilotel (simulated camera)"
     ${EndIf}
-    Delete "$SMPROGRAMS\Pilotel.lnk"
-    Delete "$SMPROGRAMS\Pilotel (simulated camera).lnk"
+    !insertmacro DeleteMenuEntries
     ClearErrors
     ; It starts in the folder of documents: what the library writes goes to its working directory.
     SetOutPath "$DOCUMENTS"
@@ -22,16 +35,16 @@ Function makeEntries
     ${EndIf}
 
     ClearErrors
-    WriteRegStr SHCTX "${UNINSTALL_KEY}" DisplayName "Pilotel"
-    WriteRegStr SHCTX "${UNINSTALL_KEY}" DisplayVersion "${VERSION}"
-    WriteRegStr SHCTX "${UNINSTALL_KEY}" Publisher "${PUBLISHER}"
-    WriteRegStr SHCTX "${UNINSTALL_KEY}" DisplayIcon "$INSTDIR\pilotel.exe"
-    WriteRegStr SHCTX "${UNINSTALL_KEY}" InstallLocation "$INSTDIR"
-    WriteRegStr SHCTX "${UNINSTALL_KEY}" UninstallString '"$INSTDIR\uninstall.exe"'
-    WriteRegStr SHCTX "${UNINSTALL_KEY}" QuietUninstallString '"$INSTDIR\uninstall.exe" /S'
-    WriteRegDWORD SHCTX "${UNINSTALL_KEY}" EstimatedSize ${KILOBYTES}
-    WriteRegDWORD SHCTX "${UNINSTALL_KEY}" NoModify 1
-    WriteRegDWORD SHCTX "${UNINSTALL_KEY}" NoRepair 1
+    !insertmacro ListText DisplayName "Pilotel"
+    !insertmacro ListText DisplayVersion "${VERSION}"
+    !insertmacro ListText Publisher "${PUBLISHER}"
+    !insertmacro ListText DisplayIcon "$INSTDIR\pilotel.exe"
+    !insertmacro ListText InstallLocation "$INSTDIR"
+    !insertmacro ListText UninstallString '"$INSTDIR\uninstall.exe"'
+    !insertmacro ListText QuietUninstallString '"$INSTDIR\uninstall.exe" /S'
+    !insertmacro ListNumber EstimatedSize ${KILOBYTES}
+    !insertmacro ListNumber NoModify 1
+    !insertmacro ListNumber NoRepair 1
     ${If} ${Errors}
         StrCpy $Missing "The entry of the list of programs"
     ${EndIf}

@@ -23,16 +23,18 @@ FunctionEnd
 !insertmacro UserFunctions ""
 !insertmacro UserFunctions "un."
 
+; RESULT is the folder that the list of programs in ROOT names, empty when it is not there.
+!macro InstalledIn ROOT RESULT
+    ReadRegStr ${RESULT} ${ROOT} "${UNINSTALL_KEY}" InstallLocation
+    ${IfNot} ${FileExists} "${RESULT}\uninstall.exe"
+        StrCpy ${RESULT} ""
+    ${EndIf}
+!macroend
+
 ; Where it goes: where it is installed already, else where /D says, else where programs go.
 Function findFolder
-    ReadRegStr $0 HKCU "${UNINSTALL_KEY}" InstallLocation
-    ${IfNot} ${FileExists} "$0\uninstall.exe"
-        StrCpy $0 ""
-    ${EndIf}
-    ReadRegStr $1 HKLM "${UNINSTALL_KEY}" InstallLocation
-    ${IfNot} ${FileExists} "$1\uninstall.exe"
-        StrCpy $1 ""
-    ${EndIf}
+    !insertmacro InstalledIn HKCU $0
+    !insertmacro InstalledIn HKLM $1
     ${If} $AllUsers = 1
         SetShellVarContext all
         StrCpy $INSTDIR "$PROGRAMFILES64\Pilotel"

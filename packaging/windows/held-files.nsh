@@ -43,22 +43,18 @@ Function ${UN}tryAll
     !insertmacro Try "${UN}" pilotel-sdk-check.exe
     !insertmacro EachFile Try "${UN}"
 !if "${UN}" == ""
-    Push "$INSTDIR\uninstall.exe"
-    Call try
+    !insertmacro Try "" uninstall.exe
 !endif
     ${If} $Held == ""
     ${AndIf} ${FileExists} "$INSTDIR\veltrix.sdk.dll"
-        Push "$INSTDIR\veltrix.sdk.dll"
-        Call ${UN}sumOf
-        Pop $0
+        !insertmacro SumOf "${UN}" "$INSTDIR\veltrix.sdk.dll" $0
         Call ${UN}isSimulated
         ${If} $0 == ""
             ; Nobody knows whose it is.
             StrCpy $Held "$INSTDIR\veltrix.sdk.dll"
         ${ElseIf} $Simulated > 0
         ${OrIf} $Maker != ""
-            Push "$INSTDIR\veltrix.sdk.dll"
-            Call ${UN}try
+            !insertmacro Try "${UN}" veltrix.sdk.dll
         ${EndIf}
     ${EndIf}
 FunctionEnd

@@ -13,15 +13,11 @@ Var Previous    ; where the one before it went, empty when there was none
 ; it, as in a folder that comes from the archive; else to 0.
 Function ${UN}isSimulated
     StrCpy $Simulated 0
-    Push "$INSTDIR\veltrix.sdk.dll"
-    Call ${UN}sumOf
-    Pop $0
+    !insertmacro SumOf "${UN}" "$INSTDIR\veltrix.sdk.dll" $0
     ${If} $0 == ""
         Return
     ${EndIf}
-    Push "$INSTDIR\simulated\veltrix.sdk.dll"
-    Call ${UN}sumOf
-    Pop $1
+    !insertmacro SumOf "${UN}" "$INSTDIR\simulated\veltrix.sdk.dll" $1
     ${If} $0 == $1
         StrCpy $Simulated 1
     ${EndIf}
@@ -52,6 +48,15 @@ FunctionEnd
 !macroend
 !insertmacro LibraryFunctions ""
 !insertmacro LibraryFunctions "un."
+
+; RESULT is 1 when FILE is a library.
+!macro IsLibrary FILE RESULT
+    Push "${FILE}"
+    Call isLibrary
+    Pop ${RESULT}
+!macroend
+
+!define TEXT_NO_LIBRARY "$Maker is no library for 64-bit Windows."
 
 ; Takes the name of a file from the stack and leaves 1 when it is a program or library for 64-bit Windows, else 0.
 Function isLibrary
@@ -87,12 +92,8 @@ Function swapLibrary
     ${If} $Maker == ""
         Return
     ${EndIf}
-    Push "$INSTDIR\veltrix.sdk.dll"
-    Call sumOf
-    Pop $8
-    Push "$Unpacked\operator\veltrix.sdk.dll"
-    Call sumOf
-    Pop $9
+    !insertmacro SumOf "" "$INSTDIR\veltrix.sdk.dll" $8
+    !insertmacro SumOf "" "$Unpacked\operator\veltrix.sdk.dll" $9
     ${If} $8 == $9
         Return
     ${EndIf}
@@ -110,20 +111,14 @@ Function swapLibrary
             ${EndWhile}
             StrCpy $Previous "$INSTDIR\veltrix.sdk.dll.previous-$0"
         ${EndIf}
-        Push "$INSTDIR\veltrix.sdk.dll"
-        Push $Previous
-        Call move
-        Pop $0
+        !insertmacro Move "$INSTDIR\veltrix.sdk.dll" $Previous $0
         ${If} $0 = 0
             !insertmacro Leave "" ${ERROR_LIBRARY} \
                 "$INSTDIR\veltrix.sdk.dll cannot be renamed. Nothing was touched."
         ${EndIf}
     ${EndIf}
     StrCpy $Swapped 1
-    Push "$Unpacked\operator\veltrix.sdk.dll"
-    Push "$INSTDIR\veltrix.sdk.dll"
-    Call move
-    Pop $0
+    !insertmacro Move "$Unpacked\operator\veltrix.sdk.dll" "$INSTDIR\veltrix.sdk.dll" $0
     ${If} $0 = 0
         Call swapBack
         !insertmacro Leave "" ${ERROR_LIBRARY} \
@@ -134,10 +129,7 @@ FunctionEnd
 Function swapBack
     ${If} $Swapped = 1
         ${If} $Previous != ""
-            Push $Previous
-            Push "$INSTDIR\veltrix.sdk.dll"
-            Call move
-            Pop $0
+            !insertmacro Move $Previous "$INSTDIR\veltrix.sdk.dll" $0
         ${Else}
             Delete "$INSTDIR\veltrix.sdk.dll"
         ${EndIf}
@@ -149,9 +141,7 @@ Function putLibrary
     Call isSimulated
     ${If} $Simulated > 0
     ${OrIfNot} ${FileExists} "$INSTDIR\veltrix.sdk.dll"
-        Push "$Unpacked\library\veltrix.sdk.dll"
-        Push "$INSTDIR\veltrix.sdk.dll"
-        Call put
+        !insertmacro PutFrom library veltrix.sdk.dll
         ${If} $Simulated = 2
             StrCpy $NoteOfOther 1
         ${EndIf}
@@ -161,9 +151,7 @@ Function putLibrary
     ${EndIf}
 !ifdef MAKER_INCLUDED
     ; What the maker's library needs is for that one alone; where another is, the operator has seen to it.
-    Push "$INSTDIR\veltrix.sdk.dll"
-    Call sumOf
-    Pop $0
+    !insertmacro SumOf "" "$INSTDIR\veltrix.sdk.dll" $0
     ${If} $0 == ${LIBRARY_SUM}
         !insertmacro EachMakerFile PutMakerFile ""
     ${EndIf}

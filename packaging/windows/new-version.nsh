@@ -29,16 +29,12 @@ Function unpack
         !insertmacro Leave "" ${ERROR_HELD} "You may not write to $INSTDIR. Nothing was touched."
     ${EndIf}
     ${If} $Maker != ""
-        Push $Maker
-        Call sumOf
-        Pop $8
+        !insertmacro SumOf "" $Maker $8
         ${If} $8 == ""
             !insertmacro Leave "" ${ERROR_NO_LIBRARY} "$Maker cannot be read. Nothing was touched."
         ${EndIf}
         CopyFiles /SILENT "$Maker" "$Unpacked\operator\veltrix.sdk.dll"
-        Push "$Unpacked\operator\veltrix.sdk.dll"
-        Call sumOf
-        Pop $9
+        !insertmacro SumOf "" "$Unpacked\operator\veltrix.sdk.dll" $9
         ${If} $8 != $9
             !insertmacro Leave "" ${ERROR_LIBRARY} "$Maker cannot be copied to $INSTDIR. Nothing was touched."
         ${EndIf}

@@ -14,9 +14,7 @@ Var Missing ; what could not be put in its place
 !macroend
 !macro PutMakerFile UN NAME
     ${IfNot} ${FileExists} "$INSTDIR\${NAME}"
-        Push "$Unpacked\library\${NAME}"
-        Push "$INSTDIR\${NAME}"
-        Call put
+        !insertmacro PutFrom library "${NAME}"
     ${EndIf}
 !macroend
 !macro Remove UN NAME
@@ -25,6 +23,31 @@ Var Missing ; what could not be put in its place
 !macroend
 !macro RemoveFolder UN NAME
     RMDir "$INSTDIR\${NAME}"
+!macroend
+
+; As Put, from a folder of what is unpacked.
+!macro PutFrom FOLDER NAME
+    Push "$Unpacked\${FOLDER}\${NAME}"
+    Push "$INSTDIR\${NAME}"
+    Call put
+!macroend
+
+; The functions below, with names in and results in variables.
+!macro SumOf UN FILE RESULT
+    Push "${FILE}"
+    Call ${UN}sumOf
+    Pop ${RESULT}
+!macroend
+!macro FullName VARIABLE
+    Push ${VARIABLE}
+    Call fullName
+    Pop ${VARIABLE}
+!macroend
+!macro Move FROM TO RESULT
+    Push "${FROM}"
+    Push "${TO}"
+    Call move
+    Pop ${RESULT}
 !macroend
 
 ; What installer and uninstaller both need; UN is empty or "un.".

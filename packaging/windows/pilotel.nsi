@@ -105,9 +105,7 @@ Function .onInit
         Call valueOf
         Pop $GivenFolder
     ${EndIf}
-    Push $GivenFolder
-    Call fullName
-    Pop $GivenFolder
+    !insertmacro FullName $GivenFolder
     StrCpy $AllUsersGiven 0
     ${GetParameters} $0
     ClearErrors
@@ -130,11 +128,9 @@ Function .onInit
             ; As in a script with a variable that nobody has set.
             !insertmacro Leave "" ${ERROR_NO_LIBRARY} "/SDK names nothing."
         ${ElseIf} $Maker != ""
-            Push $Maker
-            Call isLibrary
-            Pop $0
+            !insertmacro IsLibrary $Maker $0
             ${If} $0 = 0
-                !insertmacro Leave "" ${ERROR_NO_LIBRARY} "$Maker is no library for 64-bit Windows."
+                !insertmacro Leave "" ${ERROR_NO_LIBRARY} "${TEXT_NO_LIBRARY}"
             ${EndIf}
         ${EndIf}
     ${EndIf}
@@ -145,9 +141,7 @@ Section
     ; While it unpacks, NSIS itself may give up.
     SetErrorLevel ${ERROR_NOT_WRITTEN}
     StrCpy $Missing ""
-    Push $INSTDIR
-    Call fullName
-    Pop $INSTDIR
+    !insertmacro FullName $INSTDIR
     ; Two at once would unpack into the same folder.
     System::Call 'kernel32::CreateMutexW(p 0, i 0, w "Pilotel installer") p .r0 ?e'
     Pop $0
@@ -163,9 +157,7 @@ Section
     Call removeOlder
     !insertmacro EachFolder MakeFolder ""
     !insertmacro EachFile Put ""
-    Push "$Unpacked\uninstall.exe"
-    Push "$INSTDIR\uninstall.exe"
-    Call put
+    !insertmacro Put "" uninstall.exe
     Call putLibrary
     Call makeEntries
     Call cleanUp

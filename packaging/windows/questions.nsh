@@ -104,11 +104,9 @@ FunctionEnd
 Function leaveLibraryPage
     ${NSD_GetText} $LibraryText $Maker
     ${If} $Maker != ""
-        Push $Maker
-        Call isLibrary
-        Pop $0
+        !insertmacro IsLibrary $Maker $0
         ${If} $0 = 0
-            MessageBox MB_OK|MB_ICONEXCLAMATION "$Maker is no library for 64-bit Windows."
+            MessageBox MB_OK|MB_ICONEXCLAMATION "${TEXT_NO_LIBRARY}"
             Abort
         ${EndIf}
     ${EndIf}

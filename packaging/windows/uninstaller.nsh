@@ -49,7 +49,6 @@ Section Uninstall
     !insertmacro EachFolder RemoveFolder "un."
     Delete "$INSTDIR\uninstall.exe"
     RMDir "$INSTDIR"
-    Delete "$SMPROGRAMS\Pilotel.lnk"
-    Delete "$SMPROGRAMS\Pilotel (simulated camera).lnk"
+    !insertmacro DeleteMenuEntries
     DeleteRegKey SHCTX "${UNINSTALL_KEY}"
 SectionEnd
