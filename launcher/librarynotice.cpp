@@ -103,7 +103,8 @@ FARPROC WINAPI tellAndEnd(unsigned notification, PDelayLoadInfo failure)
 #if defined(TELLS_IN_A_BOX)
     MessageBoxW(nullptr, text.c_str(), L"Pilotel", MB_OK | MB_ICONERROR);
 #endif
-    std::_Exit(EXIT_FAILURE);
+    // What was set for the console is set back on the way out.
+    std::exit(EXIT_FAILURE);
 }
 
 } // namespace
