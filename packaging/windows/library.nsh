@@ -58,7 +58,7 @@ FunctionEnd
 
 !define TEXT_NO_LIBRARY "$Maker is no library for 64-bit Windows."
 
-; Takes the name of a file from the stack and leaves 1 when it is a program or library for 64-bit Windows, else 0.
+; Takes the name of a file from the stack and leaves 1 when it is a library for 64-bit Windows, else 0.
 Function isLibrary
     Pop $0
     StrCpy $1 0
@@ -73,9 +73,13 @@ Function isLibrary
             FileReadWord $2 $3
             FileReadWord $2 $4
             FileReadWord $2 $5
+            FileSeek $2 16 CUR
+            FileReadWord $2 $6
+            IntOp $6 $6 & 0x2000 ; IMAGE_FILE_DLL
             ${If} $3 = 0x4550
             ${AndIf} $4 = 0
             ${AndIf} $5 = 0x8664
+            ${AndIf} $6 = 0x2000
                 StrCpy $1 1
             ${EndIf}
         ${EndIf}

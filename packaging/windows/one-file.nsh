@@ -38,9 +38,9 @@ Var Missing ; what could not be put in its place
     Call ${UN}sumOf
     Pop ${RESULT}
 !macroend
-!macro FullName VARIABLE
+!macro FullName UN VARIABLE
     Push ${VARIABLE}
-    Call fullName
+    Call ${UN}fullName
     Pop ${VARIABLE}
 !macroend
 !macro Move FROM TO RESULT
@@ -93,12 +93,8 @@ Function ${UN}sumOf
     Push $R9
 FunctionEnd
 
-!macroend
-!insertmacro FileFunctions ""
-!insertmacro FileFunctions "un."
-
 ; Takes the name of a file or folder from the stack and leaves it in full, without a backslash at its end.
-Function fullName
+Function ${UN}fullName
     Pop $R0
     ${If} $R0 != ""
         System::Call 'kernel32::GetFullPathNameW(w R0, i ${NSIS_MAX_STRLEN}, w .R1, p 0) i.R2'
@@ -121,6 +117,10 @@ Function fullName
     ${EndIf}
     Push $R0
 FunctionEnd
+
+!macroend
+!insertmacro FileFunctions ""
+!insertmacro FileFunctions "un."
 
 ; Takes two names from the stack, from and, on top, to. Moves the file, over one that is there, and leaves 1 when it is
 ; done, else 0. A virus scanner has new files for a moment.

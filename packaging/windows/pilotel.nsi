@@ -105,7 +105,7 @@ Function .onInit
         Call valueOf
         Pop $GivenFolder
     ${EndIf}
-    !insertmacro FullName $GivenFolder
+    !insertmacro FullName "" $GivenFolder
     StrCpy $AllUsersGiven 0
     ${GetParameters} $0
     ClearErrors
@@ -141,7 +141,7 @@ Section
     ; While it unpacks, NSIS itself may give up.
     SetErrorLevel ${ERROR_NOT_WRITTEN}
     StrCpy $Missing ""
-    !insertmacro FullName $INSTDIR
+    !insertmacro FullName "" $INSTDIR
     ; Two at once would unpack into the same folder.
     System::Call 'kernel32::CreateMutexW(p 0, i 0, w "Pilotel installer") p .r0 ?e'
     Pop $0

@@ -3,6 +3,12 @@
 ; The uninstaller.
 Function un.onInit
     SetRegView 64
+    ; It may have been started by a short name, PROGRA~1, say.
+    !insertmacro FullName "un." $INSTDIR
+    ${IfNot} ${FileExists} "$INSTDIR\uninstall.exe"
+        ; As with a mistyped _?=FOLDER.
+        !insertmacro Leave "un." ${ERROR_OTHER_FOLDER} "Pilotel is not installed in $INSTDIR."
+    ${EndIf}
     StrCpy $AllUsers 0
     ReadRegStr $0 HKCU "${UNINSTALL_KEY}" InstallLocation
     ReadRegStr $1 HKLM "${UNINSTALL_KEY}" InstallLocation
@@ -49,6 +55,10 @@ Section Uninstall
     !insertmacro EachFolder RemoveFolder "un."
     Delete "$INSTDIR\uninstall.exe"
     RMDir "$INSTDIR"
-    !insertmacro DeleteMenuEntries
-    DeleteRegKey SHCTX "${UNINSTALL_KEY}"
+    ; They may be those of an installation in another folder.
+    ReadRegStr $0 SHCTX "${UNINSTALL_KEY}" InstallLocation
+    ${If} $0 == $INSTDIR
+        !insertmacro DeleteMenuEntries
+        DeleteRegKey SHCTX "${UNINSTALL_KEY}"
+    ${EndIf}
 SectionEnd
