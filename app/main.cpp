@@ -15,6 +15,7 @@
 #include <QVersionNumber>
 #include <QtGlobal>
 
+#include <cstdlib>
 #include <iostream>
 #include <string>
 
@@ -52,5 +53,6 @@ int main(int argc, char *argv[])
     window.setSequenceObserver([&operatorInput](bool running) { operatorInput.sequenceRuns(running); });
     const auto fitted = fitToScreen(window);
     window.show();
-    return QApplication::exec();
+    // Closed while it came up, it would leave a program that nobody sees and nobody can end.
+    return window.isVisible() ? QApplication::exec() : EXIT_SUCCESS;
 }

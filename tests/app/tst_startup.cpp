@@ -114,6 +114,7 @@ private slots:
     void writesNoFileOfItsOwn();
     void startsInAFolderWithAnyLetters();
     void worksWithAnotherLibraryOfTheSameContract();
+    void endsWhenItsWindowIsClosedAtOnce();
     void endsWithTheLoadersMessageWithoutALibrary();
     void endsWithTheLoadersMessageWithAnIncompleteLibrary();
 #if defined(Q_OS_WIN)
@@ -335,6 +336,17 @@ void StartupTest::worksWithAnotherLibraryOfTheSameContract()
     QCOMPARE(outcome.output, banner());
     // It knows of no ports of its own.
     QCOMPARE(session.report().filter(QRegularExpression{"^(port|box) "}), scannedPorts({}));
+}
+
+void StartupTest::endsWhenItsWindowIsClosedAtOnce()
+{
+    Session session;
+    session.environment.insert("PILOTEL_TEST_CLOSE_EARLY", "1");
+    const Outcome outcome{session.run()};
+
+    QVERIFY2(outcome.exited, qPrintable(outcome.errors));
+    QCOMPARE(outcome.status, 0);
+    QCOMPARE(outcome.output, banner());
 }
 
 void StartupTest::endsWithTheLoadersMessageWithoutALibrary()

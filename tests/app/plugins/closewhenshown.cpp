@@ -41,8 +41,9 @@ bool CloseWhenShown::eventFilter(QObject *watched, QEvent *event)
     auto *const widget = event->type() == QEvent::Show ? qobject_cast<QWidget *>(watched) : nullptr;
     if (window == nullptr && widget != nullptr && widget->isWindow()) {
         window = widget;
-        // Once the program runs its event loop.
-        QMetaObject::invokeMethod(this, "finish", Qt::QueuedConnection);
+        // Once the program runs its event loop, unless told to come before it.
+        const bool early{qEnvironmentVariableIsSet("PILOTEL_TEST_CLOSE_EARLY")};
+        QMetaObject::invokeMethod(this, "finish", early ? Qt::DirectConnection : Qt::QueuedConnection);
     }
     return false;
 }
