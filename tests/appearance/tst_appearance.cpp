@@ -8,12 +8,17 @@
 #include <QApplication>
 #include <QImage>
 #include <QPainter>
+#include <QPalette>
+#include <QProxyStyle>
 #include <QPushButton>
+#include <QStyle>
 #include <QStyleFactory>
 #include <QStyleOptionFrame>
 #include <QTest>
+#include <QToolTip>
 
 #include <cmath>
+#include <memory>
 
 namespace
 {
@@ -53,6 +58,14 @@ int clearlyDifferentPixels(const QImage &one, const QImage &other)
     return count;
 }
 
+/// A style whose own colours are dark.
+class DarkStyle : public QProxyStyle
+{
+public:
+    DarkStyle() : QProxyStyle{QStyleFactory::create("windows")} {}
+    QPalette standardPalette() const override { return {Qt::white, Qt::black}; }
+};
+
 } // namespace
 
 class AppearanceTest : public QObject
@@ -65,6 +78,7 @@ private slots:
     void framesHaveAllTheirLines_data();
     void framesHaveAllTheirLines();
     void darkColoursOfTheThemeAreDropped();
+    void aStyleThatIsDarkItselfGetsTheColoursOfFusion();
 };
 
 void AppearanceTest::aPressedButtonCanBeTold_data()
@@ -146,6 +160,16 @@ void AppearanceTest::darkColoursOfTheThemeAreDropped()
     QCOMPARE(QApplication::palette(), light);
     QCOMPARE(QApplication::palette("QLineEdit"), light);
     QVERIFY(light.color(QPalette::Window).lightness() > light.color(QPalette::WindowText).lightness());
+}
+
+void AppearanceTest::aStyleThatIsDarkItselfGetsTheColoursOfFusion()
+{
+    QApplication::setStyle(new DarkStyle);
+    setAppearance();
+    const std::unique_ptr<QStyle> fusion{QStyleFactory::create("fusion")};
+    QCOMPARE(QApplication::palette(), fusion->standardPalette());
+    QCOMPARE(QToolTip::palette(), fusion->standardPalette());
+    QApplication::setStyle("fusion");
 }
 
 PILOTEL_TEST_CLASS(AppearanceTest)

@@ -49,6 +49,7 @@ private slots:
     void namesTheSetter_data();
     void namesTheSetter();
     void triesToPutBackMoreThanOnce();
+    void saysThatPuttingBackWasRefused();
     void saysWhatWasNotPutBack();
     void writesNothingThatItCannotPutBack();
     void writesNothingToAUnitThatIsNotSelected();
@@ -304,6 +305,20 @@ void SdkCheckFaultsTest::triesToPutBackMoreThanOnce()
     const CheckRun run = runCheck(writing);
     QCOMPARE(run.notOk(), QStringList{});
     QCOMPARE(journal().filter("setGamma(65536) -> false").size(), 2);
+    QCOMPARE(wholeState(), before);
+}
+
+void SdkCheckFaultsTest::saysThatPuttingBackWasRefused()
+{
+    // A library that keeps what it was given to itself: it reads right, and the camera has never changed.
+    auto &simulator = veltrix_simulator::Simulator::instance();
+    const auto before = wholeState();
+    simulator.addFault({"setGamma", 2});
+    simulator.addFault({"setGamma", 1, 1, Answer{true}});
+    simulator.addFault({"getGamma", 4, 1, Answer{number(32768)}});
+    const CheckRun run = runCheck(writing);
+    QCOMPARE(run.notOk(), QStringList{"setGamma (camera): answers false to 65536; back at 65536"});
+    QCOMPARE(run.status, sdk_check::somethingFails);
     QCOMPARE(wholeState(), before);
 }
 

@@ -9,6 +9,7 @@
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QDialog>
+#include <QMetaObject>
 #include <QObject>
 #include <QSpinBox>
 #include <QString>
@@ -31,6 +32,7 @@ private slots:
     void oneCommandHoweverTheEditEnds_data();
     void oneCommandHoweverTheEditEnds();
     void theBoxComesBeforeTheCommand();
+    void anEditThatIsToldWhileTheBoxIsShownSendsNothing();
     void leavingAfterTheCorrectionSendsWhatIsShown();
     void aRefusalAfterTheCorrectionKeepsIt();
     void disconnectingFinishesTheEditFirst();
@@ -200,6 +202,23 @@ void RegionOrderTest::theBoxComesBeforeTheCommand()
     QCOMPARE(callsBefore, QStringList{});
     QCOMPARE(firstBefore, 200);
     QCOMPARE(test.takeCalls(), QStringList{"setRoiX1(300, 0, false, false, false) -> true"});
+}
+
+void RegionOrderTest::anEditThatIsToldWhileTheBoxIsShownSendsNothing()
+{
+    TestWindow test;
+    openRegion(test, 0);
+    test.child<QSpinBox>("Roi0IncX1").setValue(100);
+    test.child<QSpinBox>("Roi0IncX2").setValue(90);
+    test.takeCalls();
+    test.boxes.expect([&test](QDialog &box) {
+        // As a script would: it runs handlers by their names.
+        QMetaObject::invokeMethod(&test.window(), "y1RoiUserValueChanged", Q_ARG(int, 0));
+        BoxWatcher::pressOk(box);
+    });
+    QMetaObject::invokeMethod(&test.window(), "x1RoiUserValueChanged", Q_ARG(int, 0));
+    QCOMPARE(test.boxes.takeShown().size(), 1);
+    QCOMPARE(test.takeCalls(), QStringList{"setRoiX1(100, 0, false, false, false) -> true"});
 }
 
 void RegionOrderTest::leavingAfterTheCorrectionSendsWhatIsShown()

@@ -8,8 +8,12 @@
 #include "testclass.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QCursor>
 #include <QElapsedTimer>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QSlider>
@@ -18,9 +22,13 @@
 #include <QTest>
 #include <QTextDocument>
 #include <QTimer>
+#include <QTouchDevice>
+#include <QTouchEvent>
 #include <QVector>
 
+#include <algorithm>
 #include <functional>
+#include <iterator>
 #include <memory>
 
 namespace
@@ -89,6 +97,29 @@ private:
     QEvent::Type type;
 };
 
+/// What an object is told while it lives, in order.
+class EventRecorder : public QObject
+{
+public:
+    explicit EventRecorder(QObject &watched) { watched.installEventFilter(this); }
+
+    bool eventFilter(QObject * /*watched*/, QEvent *event) override
+    {
+        told.append(event->type());
+        return false;
+    }
+    QVector<int> typesAmong(const QVector<int> &types) const
+    {
+        QVector<int> found;
+        std::copy_if(told.begin(), told.end(), std::back_inserter(found),
+                     [&](int type) { return types.contains(type); });
+        return found;
+    }
+
+private:
+    QVector<int> told;
+};
+
 /// Makes each painting of a widget slow while it lives.
 class SlowPainting : public QObject
 {
@@ -120,6 +151,9 @@ private slots:
     void impatientClicksRunNothing();
     void whatIsTypedMeanwhileIsDropped();
     void aTurnOfTheWheelMeanwhileIsDropped();
+    void otherInputMeanwhileIsDropped_data();
+    void otherInputMeanwhileIsDropped();
+    void whatAnInputMethodComposesMeanwhileIsDropped();
     void aReleaseIsDroppedWithItsPress();
     void aKeyThatIsHeldBeyondTheEndIsDroppedWhole();
     void aReleaseWhosePressWasDeliveredIsDelivered();
@@ -201,6 +235,77 @@ void SequencesTest::aTurnOfTheWheelMeanwhileIsDropped()
     QCOMPARE(box.value(), before);
     test.turn(place, 1);
     QCOMPARE(box.value(), before + 1);
+}
+
+void SequencesTest::otherInputMeanwhileIsDropped_data()
+{
+    QTest::addColumn<QVector<int>>("types");
+    const auto row = [](const char *name, QVector<int> types) {
+        QTest::newRow(name) << types;
+    };
+    row("a finger on the screen", {QEvent::TouchBegin, QEvent::TouchUpdate, QEvent::TouchEnd});
+    row("a finger that the system takes back", {QEvent::TouchBegin, QEvent::TouchCancel});
+    row("a shortcut", {QEvent::ShortcutOverride});
+    row("a menu's key", {QEvent::ContextMenu});
+}
+
+void SequencesTest::otherInputMeanwhileIsDropped()
+{
+    QFETCH(const QVector<int>, types);
+    OperatorWindow test;
+    test.beConnected();
+    QWindow &native{test.native()};
+    QTouchDevice screen;
+    screen.setType(QTouchDevice::TouchScreen);
+    const auto queue = [&native, &screen](QEvent::Type type) {
+        QEvent *event{nullptr};
+        if (type == QEvent::ShortcutOverride) {
+            event = new QKeyEvent{type, Qt::Key_C, Qt::ControlModifier};
+        } else if (type == QEvent::ContextMenu) {
+            event = new QContextMenuEvent{QContextMenuEvent::Keyboard, {5, 5}};
+        } else {
+            event = new QTouchEvent{type, &screen};
+        }
+        QCoreApplication::postEvent(&native, event);
+    };
+    EventRecorder recorder{native};
+    duringTheSequence(test, [&] {
+        for (const int type : types) {
+            queue(static_cast<QEvent::Type>(type));
+        }
+    });
+
+    test.invoke("readAllParameters");
+    rest();
+    QCOMPARE(recorder.typesAmong(types), QVector<int>{});
+    for (const int type : types) {
+        queue(static_cast<QEvent::Type>(type));
+    }
+    rest();
+    QCOMPARE(recorder.typesAmong(types), types);
+}
+
+void SequencesTest::whatAnInputMethodComposesMeanwhileIsDropped()
+{
+    OperatorWindow test;
+    openCameraPage(test, "LutSection");
+    auto &box = test.child<QSpinBox>("Roi0IncX1");
+    box.setValue(5);
+    box.setFocus();
+    const auto compose = [&box] {
+        auto *const event = new QInputMethodEvent;
+        event->setCommitString("7");
+        QCoreApplication::postEvent(box.findChild<QLineEdit *>(), event);
+    };
+    duringTheSequence(test, compose);
+    test.invoke("readAllParameters");
+    box.selectAll();
+    const QString before{box.text()};
+    rest();
+    QCOMPARE(box.text(), before);
+    compose();
+    rest();
+    QCOMPARE(box.text(), "7");
 }
 
 void SequencesTest::aReleaseIsDroppedWithItsPress()

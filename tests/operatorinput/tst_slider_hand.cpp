@@ -69,6 +69,8 @@ private slots:
     void aHandleThatCannotBeHeldIsBroughtAndSent();
     void theOtherButtonsBringNothing();
     void aDisabledSliderStays();
+    void aSliderThatStandsUprightIsMovedAsWell_data();
+    void aSliderThatStandsUprightIsMovedAsWell();
 };
 
 void SliderHandTest::aKeySendsWhenItIsReleased_data()
@@ -305,6 +307,39 @@ void SliderHandTest::aDisabledSliderStays()
     test.clickAt(placeAt(test, slider, 0.8));
     QCOMPARE(slider.value(), 300);
     QCOMPARE(test.takeCalls(), QStringList{});
+}
+
+void SliderHandTest::aSliderThatStandsUprightIsMovedAsWell_data()
+{
+    QTest::addColumn<double>("part");
+    QTest::addColumn<int>("lowest");
+    QTest::addColumn<int>("highest");
+    QTest::newRow("at the top") << 0.0 << 100 << 100;
+    QTest::newRow("above the handle") << 0.2 << 75 << 85;
+    QTest::newRow("below the handle") << 0.9 << 5 << 15;
+    QTest::newRow("at the bottom") << 1.0 << 0 << 0;
+}
+
+void SliderHandTest::aSliderThatStandsUprightIsMovedAsWell()
+{
+    QFETCH(const double, part);
+    QFETCH(const int, lowest);
+    QFETCH(const int, highest);
+    // The form has none; the hand knows no window, and any slider may be turned one day.
+    const OperatorInput input;
+    QSlider slider{Qt::Vertical};
+    slider.setRange(0, 100);
+    slider.setValue(50);
+    slider.resize(30, 300);
+    slider.show();
+    QVERIFY(QTest::qWaitForWindowActive(&slider));
+    const QSignalSpy released{&slider, &QSlider::sliderReleased};
+
+    const QPoint place{slider.width() / 2, static_cast<int>((slider.height() - 1) * part)};
+    QTest::mouseClick(slider.windowHandle(), Qt::LeftButton, Qt::NoModifier, place);
+    QVERIFY2(slider.value() >= lowest && slider.value() <= highest,
+             qPrintable(QString::number(slider.value())));
+    QCOMPARE(released.count(), 1);
 }
 
 PILOTEL_TEST_CLASS(SliderHandTest)

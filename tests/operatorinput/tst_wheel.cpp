@@ -36,6 +36,7 @@ private slots:
     void anEditGoesOnWhileTheLogIsScrolled();
     void whatIsIgnoredScrollsWhatIsAround();
     void theListOfAComboBoxScrolls();
+    void aWindowWithNothingUnderThePointerGetsIt();
 };
 
 void WheelTest::aComboBoxIgnoresIt_data()
@@ -258,6 +259,18 @@ void WheelTest::theListOfAComboBoxScrolls()
     box.hidePopup();
     // What the off-screen platform cannot do for the list.
     remarks.take();
+}
+
+void WheelTest::aWindowWithNothingUnderThePointerGetsIt()
+{
+    const OperatorInput input;
+    QSlider slider{Qt::Horizontal};
+    slider.resize(200, 30);
+    slider.show();
+    QVERIFY(QTest::qWaitForWindowActive(&slider));
+    slider.setFocus();
+    turnWheelOver(slider, {100, 15}, 1);
+    QCOMPARE(slider.value(), slider.singleStep() * QApplication::wheelScrollLines());
 }
 
 PILOTEL_TEST_CLASS(WheelTest)

@@ -46,7 +46,7 @@ void ScenarioErrorsTest::fileIsRefusedWith_data()
 {
     QTest::addColumn<QByteArray>("file");
     QTest::addColumn<QString>("message");
-    const auto refuses = [](const char *row, const QByteArray &file, const char *message) {
+    const auto refuses = [](const char *row, const QByteArray &file, const QByteArray &message) {
         QTest::newRow(row) << file << QString::fromUtf8(message);
     };
 
@@ -129,6 +129,10 @@ void ScenarioErrorsTest::fileIsRefusedWith_data()
             R"(flaky.toml:3:21: "port.delayMilliseconds" takes a number from 0 to 60000)");
     refuses("unknown kind", "[link]\nkind = \"seriall\"",
             R"(flaky.toml:2:8: "link.kind" takes "none", "fixed" or "serial", not "seriall")");
+    const QByteArray umlaut{"\xC3\xA4"};
+    refuses("a long text is cut between two letters", "[link]\nkind = \"a" + umlaut.repeated(60) + '"',
+            R"(flaky.toml:2:8: "link.kind" takes "none", "fixed" or "serial", not "a)" + umlaut.repeated(39) +
+                R"(...")");
     refuses("link without a kind", "[link]\nbaudRate = 9600", R"(flaky.toml:1:1: "link" lacks "kind")");
     refuses("fixed link without a time", R"(link.kind = "fixed")",
             R"(flaky.toml:1:1: "link" lacks "millisecondsPerCall")");
@@ -181,6 +185,12 @@ void ScenarioErrorsTest::fileIsRefusedWith_data()
             R"(flaky.toml:5:12: "fault.fromCall" cannot stand beside "onCall")");
     refuses("fromCall with onCall", fault("fromCall = 3\nonCall = 4"),
             R"(flaky.toml:5:10: "fault.onCall" cannot stand beside "fromCall")");
+    refuses("once that is no truth", fault("once = 1"),
+            R"(flaky.toml:4:8: "fault.once" takes true or false)");
+    refuses("leavesOutputs that is no truth", fault("answer = [1]\nleavesOutputs = \"yes\""),
+            R"(flaky.toml:5:17: "fault.leavesOutputs" takes true or false)");
+    refuses("argument that is no table", fault("argument = 3"),
+            R"(flaky.toml:4:12: "fault.argument" takes a table)");
     refuses("once with times", fault("once = true\ntimes = 3"),
             R"(flaky.toml:5:9: "fault.times" cannot stand beside "once")");
     refuses("everyCall with times", fault("everyCall = 2\ntimes = 3"),

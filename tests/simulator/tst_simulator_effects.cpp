@@ -68,6 +68,9 @@ private slots:
     void wrongIsWithinTheRange();
     void wrongWithoutARangeIsNear_data();
     void wrongWithoutARangeIsNear();
+    void whereOneNumberAloneIsAllowedWrongIsNearIt();
+    void whatFitsNoKindBecomesItsNearest_data();
+    void whatFitsNoKindBecomesItsNearest();
     void garbageIsOfItsType();
     void garbageIsThatOfTheSeed();
     void late();
@@ -312,6 +315,46 @@ void SimulatorEffectsTest::wrongWithoutARangeIsNear()
         QVERIFY(!std::isfinite(farthest) || std::fabs(other - actual) <= farthest);
         QCOMPARE(fitted(other, static_cast<Kind>(kind)), other);
     }
+}
+
+void SimulatorEffectsTest::whereOneNumberAloneIsAllowedWrongIsNearIt()
+{
+    Random random{1, "test"};
+    // A configuration may have such a range.
+    Allowed range{};
+    range.minimum = 7;
+    range.maximum = 7;
+    for (int draw{0}; draw < 100; ++draw) {
+        const double other = otherNumber(7, Kind::Unsigned32, range, {}, random);
+        QVERIFY(other == 6 || other == 8);
+    }
+}
+
+void SimulatorEffectsTest::whatFitsNoKindBecomesItsNearest_data()
+{
+    QTest::addColumn<double>("number");
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<double>("nearest");
+    const auto row = [](const char *name, double number, Kind kind, double nearest) {
+        QTest::newRow(name) << number << static_cast<int>(kind) << nearest;
+    };
+    constexpr double infinity{std::numeric_limits<double>::infinity()};
+    constexpr double largestFloat{static_cast<double>(std::numeric_limits<float>::max())};
+    row("no number", std::numeric_limits<double>::quiet_NaN(), Kind::Float, 0);
+    row("no number for a whole one", std::numeric_limits<double>::quiet_NaN(), Kind::Unsigned8, 0);
+    row("beyond a byte", 256, Kind::Unsigned8, 255);
+    row("below a byte", -1, Kind::Unsigned8, 0);
+    row("beyond a signed number", 2147483648.0, Kind::Signed32, 2147483647);
+    row("infinite for a float", infinity, Kind::Float, largestFloat);
+    row("infinite for a double", infinity, Kind::Double, infinity);
+}
+
+void SimulatorEffectsTest::whatFitsNoKindBecomesItsNearest()
+{
+    QFETCH(const double, number);
+    QFETCH(const int, kind);
+    QFETCH(const double, nearest);
+    QCOMPARE(fitted(number, static_cast<Kind>(kind)), nearest);
 }
 
 void SimulatorEffectsTest::garbageIsOfItsType()

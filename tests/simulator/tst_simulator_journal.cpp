@@ -40,6 +40,7 @@ private slots:
     void targetIsThatOfTheCall();
     void canBeClearedAndTurnedOff();
     void logRecordIsKeptWhenComplete();
+    void ofVeryManyCallsTheLatestAreKept();
 };
 
 void SimulatorJournalTest::callReads_data()
@@ -226,6 +227,22 @@ void SimulatorJournalTest::logRecordIsKeptWhenComplete()
     QCOMPARE(c.simulator.journal().size(), std::size_t{2});
     QCOMPARE(c.simulator.journal()[0].text, std::string{R"(log(3, "second"))"});
     QCOMPARE(c.simulator.journal()[1].text, std::string{R"(log(5, "first"))"});
+}
+
+void SimulatorJournalTest::ofVeryManyCallsTheLatestAreKept()
+{
+    const SimulatedCamera c;
+    c.device->getGamma();
+    for (int call{1}; call < 200'000; ++call) {
+        c.device->getClhe();
+    }
+    QCOMPARE(c.simulator.journal().size(), std::size_t{200'000});
+    QCOMPARE(c.simulator.journal().front().operation, std::string{"getGamma"});
+    c.device->getTint();
+    QVERIFY(c.simulator.journal().size() <= 200'000);
+    QVERIFY(c.simulator.journal().size() >= 100'000);
+    QCOMPARE(c.simulator.journal().front().operation, std::string{"getClhe"});
+    QCOMPARE(c.simulator.journal().back().operation, std::string{"getTint"});
 }
 
 PILOTEL_TEST_CLASS(SimulatorJournalTest)
