@@ -240,7 +240,7 @@ void SequencesTest::aTurnOfTheWheelMeanwhileIsDropped()
 void SequencesTest::otherInputMeanwhileIsDropped_data()
 {
     QTest::addColumn<QVector<int>>("types");
-    const auto row = [](const char *name, QVector<int> types) {
+    const auto row = [](const char *name, const QVector<int> &types) {
         QTest::newRow(name) << types;
     };
     row("a finger on the screen", {QEvent::TouchBegin, QEvent::TouchUpdate, QEvent::TouchEnd});

@@ -142,6 +142,11 @@ void ScenarioErrorsTest::fileIsRefusedWith_data()
     refuses(
         "jitter of no link", "[link]\nkind = \"none\"\njitterMilliseconds = 1",
         R"(flaky.toml:3:22: "link.jitterMilliseconds" belongs to kind "fixed" or "serial", not to "none")");
+    refuses("time that no number holds exactly",
+            "[link]\nkind = \"fixed\"\nmillisecondsPerCall = 9223372036854775807",
+            R"(flaky.toml:3:23: "link.millisecondsPerCall" takes a number from 0 to 10000)");
+    refuses("as far below zero", "[link]\nkind = \"fixed\"\nmillisecondsPerCall = -9223372036854775807",
+            R"(flaky.toml:3:23: "link.millisecondsPerCall" takes a number from 0 to 10000)");
     refuses("negative time", "[link]\nkind = \"fixed\"\nmillisecondsPerCall = -1",
             R"(flaky.toml:3:23: "link.millisecondsPerCall" takes a number from 0 to 10000)");
     refuses("time that is no number", "[link]\nkind = \"fixed\"\nmillisecondsPerCall = nan",

@@ -69,6 +69,7 @@ private slots:
     void wrongWithoutARangeIsNear_data();
     void wrongWithoutARangeIsNear();
     void whereOneNumberAloneIsAllowedWrongIsNearIt();
+    void whatIsOutsideItsRangeBecomesANumberInside();
     void whatFitsNoKindBecomesItsNearest_data();
     void whatFitsNoKindBecomesItsNearest();
     void garbageIsOfItsType();
@@ -327,6 +328,26 @@ void SimulatorEffectsTest::whereOneNumberAloneIsAllowedWrongIsNearIt()
     for (int draw{0}; draw < 100; ++draw) {
         const double other = otherNumber(7, Kind::Unsigned32, range, {}, random);
         QVERIFY(other == 6 || other == 8);
+    }
+}
+
+void SimulatorEffectsTest::whatIsOutsideItsRangeBecomesANumberInside()
+{
+    Random random{1, "test"};
+    Allowed range{};
+    range.minimum = 3;
+    range.maximum = 5;
+    for (const double actual : {0.0, 4.0, 9.0}) {
+        bool found[]{false, false, false};
+        for (int draw{0}; draw < 100; ++draw) {
+            const double other = otherNumber(actual, Kind::Unsigned8, range, {}, random);
+            QVERIFY(other >= 3 && other <= 5);
+            QVERIFY(other != actual);
+            found[static_cast<int>(other) - 3] = true;
+        }
+        // Each of them comes, but for the actual one.
+        QVERIFY(found[0] && found[2]);
+        QCOMPARE(found[1], actual != 4);
     }
 }
 
