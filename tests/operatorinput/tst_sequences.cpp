@@ -334,7 +334,10 @@ void SequencesTest::aKeyThatIsHeldBeyondTheEndIsDroppedWhole()
     openCameraPage(test, "ExpertMode");
     auto &slider = test.child<QSlider>("gfidSlider");
     slider.setFocus();
-    duringTheSequence(test, [&] { queueKey(test, QEvent::KeyPress, Qt::Key_Right); });
+    duringTheSequence(test, [&] {
+        queueKey(test, QEvent::KeyPress, Qt::Key_Right);
+        queueKey(test, QEvent::KeyPress, Qt::Key_Right, {}, true);
+    });
 
     test.invoke("readAllParameters");
     rest();

@@ -68,6 +68,7 @@ private slots:
     void aPressOnTheHandleMovesNothing();
     void aHandleThatCannotBeHeldIsBroughtAndSent();
     void theOtherButtonsBringNothing();
+    void theLeftButtonBringsNothingWhileAnotherIsHeld();
     void aDisabledSliderStays();
     void aSliderThatStandsUprightIsMovedAsWell_data();
     void aSliderThatStandsUprightIsMovedAsWell();
@@ -297,6 +298,22 @@ void SliderHandTest::theOtherButtonsBringNothing()
     QTest::mouseClick(&test.native(), Qt::RightButton, Qt::NoModifier, placeAt(test, slider, 0.8));
     QCOMPARE(slider.value(), 300);
     QCOMPARE(test.takeCalls(), QStringList{});
+}
+
+void SliderHandTest::theLeftButtonBringsNothingWhileAnotherIsHeld()
+{
+    OperatorWindow test;
+    const QSlider &slider{openGfid(test)};
+    const QPoint place{placeAt(test, slider, 0.8)};
+    QTest::mousePress(&test.native(), Qt::RightButton, Qt::NoModifier, place);
+    test.clickAt(place);
+    QTest::mouseRelease(&test.native(), Qt::RightButton, Qt::NoModifier, place);
+    QCOMPARE(slider.value(), 300);
+    QCOMPARE(test.takeCalls(), QStringList{});
+
+    test.clickAt(place);
+    QVERIFY(slider.value() > 300);
+    QCOMPARE(test.takeCalls().size(), 1);
 }
 
 void SliderHandTest::aDisabledSliderStays()
