@@ -110,6 +110,8 @@ private slots:
     void outcomesOfWriting();
     void fractionsAreNotLost();
     void regionsTravelWithTheirFlags();
+    void whatATypeCannotHoldTravelsAsItsNearest_data();
+    void whatATypeCannotHoldTravelsAsItsNearest();
 };
 
 void SettingsTest::readsWhatIsHeld()
@@ -252,6 +254,34 @@ void SettingsTest::regionsTravelWithTheirFlags()
     s.camera.simulator.set("camera.roi3.x1", std::int64_t{3});
     QCOMPARE(s.write(100), Written::Acknowledged);
     QCOMPARE(s.camera.lastCall(), QString{"setRoiY2(100, 3, false, false, true) -> true"});
+}
+
+void SettingsTest::whatATypeCannotHoldTravelsAsItsNearest_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<double>("number");
+    QTest::addColumn<QString>("call");
+    const auto row = [](const char *key, double number, const char *call) {
+        QTest::newRow(call) << QString{key} << number << QString{call};
+    };
+    constexpr double infinity{std::numeric_limits<double>::infinity()};
+    row("camera.colorLut", 256, "setColorLut(255) -> false");
+    row("camera.colorLut", -1, "setColorLut(0) -> true");
+    row("camera.clhe", 1e300, "setClhe(4294967295) -> false");
+    row("camera.clhe", std::numeric_limits<double>::quiet_NaN(), "setClhe(0) -> true");
+    row("camera.gms", infinity, "setGms(4294967295) -> false");
+    row("blendUnit.warp0.a13", infinity, "setWarp(0, 1, 0, 0, 1, 2147483647, 0) -> false");
+    row("blendUnit.warp0.a13", -infinity, "setWarp(0, 1, 0, 0, 1, -2147483648, 0) -> false");
+}
+
+void SettingsTest::whatATypeCannotHoldTravelsAsItsNearest()
+{
+    QFETCH(const QString, key);
+    QFETCH(const double, number);
+    QFETCH(const QString, call);
+    const Selected s{key};
+    s.send(number);
+    QCOMPARE(s.camera.lastCall(), call);
 }
 
 PILOTEL_TEST_CLASS(SettingsTest)
