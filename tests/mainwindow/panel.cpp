@@ -132,6 +132,10 @@ void Controls::setSingleStep(const QString &name, double step)
 QVariant Controls::fitting(const QString &name, double value) const
 {
     const QVariant decimals{state.value(name + QStringLiteral(".decimals"))};
+    if (std::isnan(value)) {
+        // Shown at the lowest value, and in whole numbers as the nearest one to 0.
+        value = decimals.isValid() ? state.value(name + QStringLiteral(".minimum")).toDouble() : 0.0;
+    }
     const double rounded{decimals.isValid() ? QString::number(value, 'f', decimals.toInt()).toDouble()
                                             : value};
     const double bounded{std::clamp(rounded, state.value(name + QStringLiteral(".minimum")).toDouble(),

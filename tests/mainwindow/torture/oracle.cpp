@@ -163,6 +163,9 @@ void Oracle::connectDevice()
 
 bool Oracle::openCommunication()
 {
+    if (current.deviceOpen) {
+        disconnectDevice();
+    }
     returnDevice();
     fetchConfiguration();
     if (call(QStringLiteral("getCommunicationType()")).text != QStringLiteral("\"UART\"")) {
