@@ -1,0 +1,183 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The monkey: chooses what to do next.
+#include "monkey.h"
+
+#include "misbehaviour.h"
+#include "reach.h"
+
+#include <QComboBox>
+#include <QRegularExpression>
+#include <QTabWidget>
+#include <QWidget>
+
+Action Monkey::next(OperatorWindow &test)
+{
+    Action action;
+    const bool connected{test.child<QWidget>("paramSection").isEnabled()};
+    const int dice{random.bounded(1000)};
+    if (dice < 4) {
+        action = {oneIn(2) ? QStringLiteral("close") : QStringLiteral("destroy")};
+    } else if (dice < 14) {
+        action = {QStringLiteral("resize")};
+        action.text = QStringLiteral("%1x%2").arg(200 + random.bounded(1500)).arg(200 + random.bounded(1500));
+    } else if (dice < 24) {
+        action = {QStringLiteral("away")};
+    } else if (!connected && oneIn(2)) {
+        action = connecting(test);
+    } else if (dice < 100) {
+        action = byName(test);
+    } else if (dice < 600) {
+        action = mouseAction(test);
+    } else {
+        action = keyAction();
+    }
+    action.box = someBoxAnswer();
+    return action;
+}
+
+QString Monkey::someControl(OperatorWindow &test)
+{
+    if (oneIn(8)) {
+        // Most controls are on a page that is not in view.
+        return oneIn(2) ? QStringLiteral("Principal_tab/tabs") : QStringLiteral("KR_tab/tabs");
+    }
+    const bool anything{oneIn(12)};
+    QStringList names;
+    for (const QWidget *const control : controlsOf(test.window())) {
+        const QString name{control->objectName()};
+        // Without a device there is little to do, so it disconnects seldom.
+        const bool avoided{name == QStringLiteral("disconnectDeviceButton") && !oneIn(20)};
+        if (control->isVisible() && (anything || control->isEnabled()) && !avoided) {
+            const bool pages{qobject_cast<const QTabWidget *>(control) != nullptr};
+            names.append(pages ? name + QStringLiteral("/tabs") : name);
+        }
+    }
+    return oneOf(names);
+}
+
+QString Monkey::someNumber()
+{
+    static const QStringList numbers{
+        QStringLiteral("-1"),         QStringLiteral("0"),           QStringLiteral("1"),
+        QStringLiteral("2"),          QStringLiteral("3"),           QStringLiteral("4"),
+        QStringLiteral("17"),         QStringLiteral("99"),          QStringLiteral("9999"),
+        QStringLiteral("2147483647"), QStringLiteral("-2147483648"), QStringLiteral("2.25"),
+        QStringLiteral("1e300"),      QStringLiteral("nan"),         QStringLiteral("-inf"),
+    };
+    return oneOf(numbers);
+}
+
+QString Monkey::someBoxAnswer()
+{
+    static const QStringList ways{
+        QStringLiteral("ok"),     QStringLiteral("ok"),    QStringLiteral("enter"),  QStringLiteral("escape"),
+        QStringLiteral("reject"), QStringLiteral("close"), QStringLiteral("window"),
+    };
+    if (!oneIn(8)) {
+        return oneOf(ways);
+    }
+    static const QStringList withoutNumbers{handlers().filter(QStringLiteral("()"))};
+    return QStringLiteral("within ") + oneOf(withoutNumbers);
+}
+
+Action Monkey::mouseAction(OperatorWindow &test)
+{
+    Action action;
+    action.target = someControl(test);
+    action.x = random.generateDouble();
+    action.y = random.generateDouble();
+    const int dice{random.bounded(20)};
+    if (dice < 10) {
+        action.verb = QStringLiteral("click");
+    } else if (dice < 11) {
+        action.verb = QStringLiteral("dblclick");
+    } else if (dice < 13) {
+        action.verb = QStringLiteral("rclick");
+        action.text = QString::number(random.bounded(9));
+    } else if (dice < 16) {
+        action.verb = QStringLiteral("drag");
+        action.text = QStringLiteral("%1,%2")
+                          .arg(random.generateDouble(), 0, 'f', 3)
+                          .arg(random.generateDouble(), 0, 'f', 3);
+    } else if (dice < 19) {
+        action.verb = QStringLiteral("wheel");
+        action.text = QString::number(random.bounded(7) - 3);
+    } else {
+        action.verb = QStringLiteral("focus");
+    }
+    return action;
+}
+
+Action Monkey::keyAction()
+{
+    static const QStringList keys{
+        QStringLiteral("0"),       QStringLiteral("1"),           QStringLiteral("2"),
+        QStringLiteral("5"),       QStringLiteral("9"),           QStringLiteral("."),
+        QStringLiteral("-"),       QStringLiteral("Backspace"),   QStringLiteral("Del"),
+        QStringLiteral("Up"),      QStringLiteral("Down"),        QStringLiteral("Left"),
+        QStringLiteral("Right"),   QStringLiteral("PgUp"),        QStringLiteral("PgDown"),
+        QStringLiteral("Home"),    QStringLiteral("End"),         QStringLiteral("Space"),
+        QStringLiteral("Return"),  QStringLiteral("Enter"),       QStringLiteral("Tab"),
+        QStringLiteral("Tab"),     QStringLiteral("Backtab"),     QStringLiteral("Esc"),
+        QStringLiteral("F4"),      QStringLiteral("Alt+Down"),    QStringLiteral("Ctrl+Tab"),
+        QStringLiteral("Ctrl+A"),  QStringLiteral("Ctrl+Z"),      QStringLiteral("Shift+Up"),
+        QStringLiteral("Ctrl+Up"), QStringLiteral("Ctrl+PgDown"),
+    };
+    Action action;
+    const int dice{random.bounded(20)};
+    if (dice < 14) {
+        action.verb = QStringLiteral("key");
+        action.text = oneOf(keys);
+    } else if (dice < 16) {
+        action.verb = QStringLiteral("hold");
+        action.text =
+            oneOf(keys.filter(QRegularExpression{QStringLiteral("^(Up|Down|Left|Right|Space|Return)$")}));
+    } else {
+        action.verb = dice < 18 ? QStringLiteral("type") : QStringLiteral("paste");
+        action.text = oneOf(oddTexts());
+    }
+    return action;
+}
+
+Action Monkey::connecting(OperatorWindow &test)
+{
+    const int ports{test.child<QComboBox>("selectDeviceComboBox").count()};
+    Action action{QStringLiteral("click"), QStringLiteral("connectDeviceButton")};
+    const int dice{random.bounded(5)};
+    if (dice == 0 || ports == 0) {
+        action.target = QStringLiteral("scanDeviceButton");
+    } else if (dice == 1) {
+        action.verb = QStringLiteral("choose");
+        action.target = QStringLiteral("selectDeviceComboBox");
+        action.text = QString::number(random.bounded(ports));
+    } else if (dice == 2) {
+        action.verb = QStringLiteral("invoke");
+        action.target = QStringLiteral("connectDevice()");
+    }
+    return action;
+}
+
+Action Monkey::byName(OperatorWindow &test)
+{
+    Action action;
+    const int dice{random.bounded(10)};
+    if (dice < 5) {
+        action.verb = QStringLiteral("invoke");
+        action.target = oneOf(handlers());
+        action.text = action.target.contains(QStringLiteral("string")) ? oneOf(oddTexts()) : someNumber();
+    } else if (dice < 6) {
+        static const QStringList book{QStringLiteral("connectDevice()"), QStringLiteral("disconnectDevice()"),
+                                      QStringLiteral("readAllParameters()"),
+                                      QStringLiteral("readParamsExpert()"),
+                                      QStringLiteral("ResetParamsUser()")};
+        action.verb = QStringLiteral("invoke");
+        action.target = oneOf(book);
+    } else {
+        action.verb = QStringLiteral("work");
+        action.target = oneOf(namesOf(controlsOf(test.window())));
+        action.x = random.generateDouble();
+        action.text = someNumber();
+    }
+    return action;
+}

@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// What has to hold after each action of the monkey.
+#pragma once
+
+#include "action.h"
+#include "asked.h"
+#include "deviceside.h"
+#include "hand.h"
+#include "operatorwindow.h"
+#include "panel.h"
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+#include <cstddef>
+#include <vector>
+
+/// Looks at a window from its construction on. What is not as promised is told in one line that begins with
+/// its kind and a colon; empty when all is well.
+class Promises
+{
+public:
+    Promises(OperatorWindow &itsTest, const Hand &itsHand);
+
+    void before(const Action &action);
+    QString after(const Action &action);
+    /// Connects to a camera that is well again, whatever was before, and compares all that comes of it.
+    QString connectsAgain();
+
+private:
+    /// What the window showed when it logged the outcome of a command.
+    struct Sent
+    {
+        std::size_t place; ///< Of the call in the journal.
+        Panel panel;
+    };
+
+    void watchLog();
+    void followDevice();
+    QStringList knownValues(const Action &action) const;
+    QString checkCalls() const;
+    QString checkLog(const Action &action);
+    QString checkEnabled(const Panel &panel) const;
+    QString checkValues(const Panel &panel) const;
+    QString checkAsked() const;
+    QString checkFinishedEdit(const Action &action) const;
+    QString checkSent() const;
+    QString compareSent(const Sent &sent) const;
+    QString compareWithOracle(const Action &action);
+    QString compareAll(Oracle &oracle);
+    QStringList sentOperations() const;
+    bool isByTheBook(const Action &action) const;
+
+    OperatorWindow &test;
+    const Hand &hand;
+    DeviceSide device;
+    const Panel atStart;
+    QStringList allowedWarnings;
+
+    // Of the action that is under way.
+    Asked asked;
+    QString leftBox;       ///< The spin box that had the focus and sends when it is left.
+    bool wasOpen{false};   ///< The device, before the action.
+    bool byTheBook{false}; ///< The oracle knows all that comes of the action.
+    Panel shownBefore;
+    Session sessionBefore;
+    int logLinesBefore{0};
+    std::vector<Sent> sentCommands;
+    std::vector<std::size_t> scans; ///< Lengths of the journal when ports were offered.
+    QObject context;                ///< Of the connections.
+};

@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// A session of the monkey: a scenario, a window, and actions that are drawn or given.
+#include "session.h"
+
+#include "misbehaviour.h"
+
+#include <QDir>
+#include <QFile>
+#include <QIODevice>
+#include <QLatin1Char>
+#include <QTest>
+
+namespace
+{
+
+/// The name that the simulator takes it by. A generated one becomes a file in the working directory.
+std::string playable(const QString &scenario)
+{
+    const QString name{scenario.section(QLatin1Char{' '}, 1)};
+    if (!scenario.startsWith(QStringLiteral("generated"))) {
+        return name.toStdString();
+    }
+    QFile file{QDir::current().filePath(QStringLiteral("generated.toml"))};
+    if (!file.open(QIODevice::WriteOnly) || file.write(generatedScenario(name.toUInt()).toUtf8()) < 0) {
+        qFatal("cannot write %s", qPrintable(file.fileName()));
+    }
+    return file.fileName().toStdString();
+}
+
+/// Drawing takes half of the time; most sessions do without it.
+bool isDrawn(const QString &scenario)
+{
+    return !scenario.startsWith(QStringLiteral("generated")) || scenario.endsWith(QLatin1Char{'0'});
+}
+
+} // namespace
+
+MonkeySession::MonkeySession(const QString &scenario, Reach &itsReach)
+    : prepare{[name = playable(scenario)](veltrix_simulator::Simulator &simulator) {
+          simulator.loadScenario(name);
+      }},
+      drawing{isDrawn(scenario) ? OperatorWindow::Drawing::On : OperatorWindow::Drawing::Off}, reach{itsReach}
+{
+    stage.emplace(prepare, drawing);
+}
+
+void MonkeySession::startAgain()
+{
+    stage.reset();
+    stage.emplace(prepare, drawing);
+}
+
+QString MonkeySession::act(const Action &action)
+{
+    stage->hand.comeBack();
+    stage->promises.before(action);
+    if (stage->hand.act(action) &&
+        (action.verb == QStringLiteral("invoke") || action.verb == QStringLiteral("work"))) {
+        reach.use(action.target);
+    }
+    const QString wrong{stage->promises.after(action)};
+    if (!wrong.isEmpty()) {
+        return wrong;
+    }
+    // Destroyed as it is, with the focus where it is, or closed before.
+    if (action.verb == QStringLiteral("destroy") || !stage->test.window().isVisible()) {
+        startAgain();
+    }
+    return QTest::currentTestFailed() ? QStringLiteral("end of a window: see above") : QString{};
+}
+
+QString MonkeySession::end()
+{
+    stage->hand.comeBack();
+    const QString wrong{stage->promises.connectsAgain()};
+    if (!wrong.isEmpty()) {
+        return wrong;
+    }
+    stage.reset();
+    return QTest::currentTestFailed() ? QStringLiteral("end of a window: see above") : QString{};
+}
