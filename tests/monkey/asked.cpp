@@ -203,6 +203,11 @@ Asked askedBy(OperatorWindow &test, const Action &action)
         asked += times(askedFrom(action.target), action.text.toInt() + 1);
         return asked;
     }
+    if (verb == QStringLiteral("edit")) {
+        Asked asked{askedFrom(test.window().focusWidget())};
+        asked += times(askedFrom(action.target), 1 + action.text.count(QLatin1Char{'\n'}));
+        return asked;
+    }
     if (verb == QStringLiteral("resize")) {
         return {};
     }

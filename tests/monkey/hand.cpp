@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QAbstractSlider>
+#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
@@ -143,6 +144,9 @@ bool Hand::perform(const Action &action)
     if (verb == QStringLiteral("choose")) {
         return choose(action);
     }
+    if (verb == QStringLiteral("edit")) {
+        return edit(action);
+    }
     return useKeys(action) || useMouse(action);
 }
 
@@ -227,11 +231,31 @@ bool Hand::type(const QString &text)
     return true;
 }
 
+/// Types into a spin box and finishes the edit, by Enter or by Tab.
+bool Hand::edit(const Action &action)
+{
+    auto *const box = test.window().findChild<QAbstractSpinBox *>(action.target);
+    // A list that is open would take the keys.
+    if (box == nullptr || !box->isVisible() || !box->isEnabled() ||
+        QApplication::activePopupWidget() != nullptr) {
+        return false;
+    }
+    box->setFocus(Qt::TabFocusReason);
+    box->selectAll();
+    type(action.text);
+    if (isInView()) {
+        QTest::keyClick(&test.native(), action.x < 0.5 ? Qt::Key_Return : Qt::Key_Tab);
+    }
+    return true;
+}
+
 /// By keys: from the first item downwards.
 bool Hand::choose(const Action &action)
 {
     auto *const box = test.window().findChild<QComboBox *>(action.target);
-    if (box == nullptr || !box->isVisible() || !box->isEnabled()) {
+    // A list that is open would take the keys.
+    if (box == nullptr || !box->isVisible() || !box->isEnabled() ||
+        QApplication::activePopupWidget() != nullptr) {
         return false;
     }
     box->setFocus(Qt::TabFocusReason);

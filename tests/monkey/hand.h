@@ -41,6 +41,7 @@ private:
     bool useMouse(const Action &action);
     bool useKeys(const Action &action);
     bool type(const QString &text);
+    bool edit(const Action &action);
     bool choose(const Action &action);
     bool work(const Action &action);
     bool invoke(const QString &signature, const QString &argument);

@@ -6,6 +6,7 @@
 #include "misbehaviour.h"
 #include "reach.h"
 
+#include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QRegularExpression>
 #include <QTabWidget>
@@ -25,8 +26,11 @@ Action Monkey::next(OperatorWindow &test)
         action = {QStringLiteral("away")};
     } else if (!connected && oneIn(2)) {
         action = connecting(test);
-    } else if (dice < 100) {
+    } else if (dice < (connected ? 100 : 350)) {
+        // Without a device only scripts reach most of the handlers.
         action = byName(test);
+    } else if (dice < 180 && connected) {
+        action = editing(test);
     } else if (dice < 600) {
         action = mouseAction(test);
     } else {
@@ -137,6 +141,23 @@ Action Monkey::keyAction()
         action.verb = dice < 18 ? QStringLiteral("type") : QStringLiteral("paste");
         action.text = oneOf(oddTexts());
     }
+    return action;
+}
+
+Action Monkey::editing(OperatorWindow &test)
+{
+    QStringList names;
+    for (const QWidget *const control : controlsOf(test.window())) {
+        if (qobject_cast<const QAbstractSpinBox *>(control) != nullptr && control->isVisible() &&
+            control->isEnabled()) {
+            names.append(control->objectName());
+        }
+    }
+    if (names.isEmpty()) {
+        return keyAction();
+    }
+    Action action{QStringLiteral("edit"), oneOf(names), random.generateDouble()};
+    action.text = oneIn(4) ? oneOf(oddTexts()) : QString::number(random.bounded(640));
     return action;
 }
 

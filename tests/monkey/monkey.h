@@ -27,6 +27,7 @@ private:
     QString someBoxAnswer();
     Action mouseAction(OperatorWindow &test);
     Action keyAction();
+    Action editing(OperatorWindow &test);
     Action connecting(OperatorWindow &test);
     Action byName(OperatorWindow &test);
 

@@ -89,6 +89,11 @@ QString scenarioOf(quint32 seed, bool isLong)
     return QStringLiteral("shipped ") + names.at(static_cast<int>(seed / 3) % names.size());
 }
 
+QString where(quint32 seed, int acts)
+{
+    return QStringLiteral(" (seed %1, after %2 actions in all)").arg(seed).arg(acts);
+}
+
 /// What a process of the monkey came to.
 struct Outcome
 {
@@ -226,14 +231,13 @@ void MonkeyTest::sitAtTheWindow(Diary &diary)
             const QString wrong{session.act(action)};
             ++acts;
             if (!wrong.isEmpty()) {
-                diary.add(findingMark + wrong +
-                          QStringLiteral(" (seed %1, action %2)").arg(seed).arg(act + 1));
+                diary.add(findingMark + wrong + where(seed, acts));
                 QFAIL(qPrintable(wrong));
             }
         }
         const QString wrong{session.end()};
         if (!wrong.isEmpty()) {
-            diary.add(findingMark + wrong + QStringLiteral(" (seed %1, at its end)").arg(seed));
+            diary.add(findingMark + wrong + where(seed, acts));
             QFAIL(qPrintable(wrong));
         }
         ++sessions;
