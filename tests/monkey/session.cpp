@@ -45,10 +45,19 @@ MonkeySession::MonkeySession(const QString &scenario, Reach &itsReach)
     stage.emplace(prepare, drawing);
 }
 
-void MonkeySession::startAgain()
+QString MonkeySession::startAgain()
 {
+    stage->test.simulator.clearJournal();
+    stage->test.destroyWindow();
+    QString wrong;
+    for (const veltrix_simulator::Call &call : stage->test.simulator.journal()) {
+        if (call.interface == veltrix_simulator::Interface::Device) {
+            wrong = QStringLiteral("destruction: it calls ") + QString::fromStdString(call.text);
+        }
+    }
     stage.reset();
     stage.emplace(prepare, drawing);
+    return wrong;
 }
 
 QString MonkeySession::act(const Action &action)
@@ -65,7 +74,10 @@ QString MonkeySession::act(const Action &action)
     }
     // Destroyed as it is, with the focus where it is, or closed before.
     if (action.verb == QStringLiteral("destroy") || !stage->test.window().isVisible()) {
-        startAgain();
+        const QString wrongAtItsEnd{startAgain()};
+        if (!wrongAtItsEnd.isEmpty()) {
+            return wrongAtItsEnd;
+        }
     }
     return QTest::currentTestFailed() ? QStringLiteral("end of a window: see above") : QString{};
 }

@@ -41,7 +41,8 @@ private:
         Promises promises;
     };
 
-    void startAgain();
+    /// Destroys the window, which must call nothing, and makes another one; what is not as promised.
+    QString startAgain();
 
     const OperatorWindow::Preparation prepare;
     const OperatorWindow::Drawing drawing;
