@@ -1,0 +1,24 @@
+# SPDX-FileCopyrightText: 2026 The Pilotel Developers
+# SPDX-License-Identifier: MIT
+# Coverage counts no branch that only an exception would take: sources that neither throw nor catch are compiled without
+# them. An exception of the simulator's still passes through such a source; what lives there is not destroyed then, so this
+# is for coverage alone.
+foreach(
+    target
+    pilotel pilotel_appearance pilotel_check pilotel_forms pilotel_mainwindow pilotel_operatorinput pilotel_ports
+    pilotel_screenfit pilotel_settings pilotel-sdk-check veltrix_simulator_objects
+)
+    get_target_property(directory ${target} SOURCE_DIR)
+    get_target_property(sources ${target} SOURCES)
+    # What is generated has an absolute name and does not count.
+    list(FILTER sources INCLUDE REGEX "^[^/].*\\.cpp$")
+    foreach(source IN LISTS sources)
+        file(STRINGS ${directory}/${source} exceptions REGEX "(^|[^a-z])(throw|try|catch)[ ;(]")
+        list(FILTER exceptions EXCLUDE REGEX "^ *//")
+        if(NOT exceptions)
+            set_source_files_properties(
+                ${directory}/${source} TARGET_DIRECTORY ${target} PROPERTIES COMPILE_OPTIONS -fno-exceptions
+            )
+        endif()
+    endforeach()
+endforeach()
