@@ -303,6 +303,8 @@ void ScenarioErrorsTest::fileIsRefusedWith_data()
             "flaky.toml:2:3: this is not TOML: Error while parsing key-value pair: expected '=', saw 'ö'");
     refuses("letters in a heading", "seed = 1\n[größe]",
             "flaky.toml:2:4: this is not TOML: Error while parsing table header: expected ']', saw 'ö'");
+    refuses("sign behind a list of several lines", "camera.badPixels = [\n[1, 2],\n[3, 4]\n]\n\n[[~ort]]",
+            "flaky.toml:6:1: this is not TOML: this line has a character that needs quotes");
     refuses("sign in a heading", "seed = 1\n\n[[~ort]]\nname = \"A\"",
             "flaky.toml:3:1: this is not TOML: this line has a character that needs quotes");
     refuses(

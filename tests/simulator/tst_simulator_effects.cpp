@@ -381,11 +381,13 @@ void SimulatorEffectsTest::whatFitsNoKindBecomesItsNearest()
 void SimulatorEffectsTest::garbageIsOfItsType()
 {
     Scenario scenario = scenarioWith(OperationId::getTemperatures, Effect::Garbage);
-    scenario.faults.front().operations = {OperationId::getTemperatures, OperationId::getEdgeCorrection,
-                                          OperationId::getGamma,        OperationId::getPolarity,
-                                          OperationId::getDefaultGamma, OperationId::getCommunicationType};
+    scenario.faults.front().operations = {OperationId::getTemperatures,   OperationId::getEdgeCorrection,
+                                          OperationId::getGamma,          OperationId::getPolarity,
+                                          OperationId::getDefaultGamma,   OperationId::getCommunicationType,
+                                          OperationId::getDefaultBaudRate};
     const ScenarioCamera c{scenario};
     std::set<bool> results;
+    std::set<std::int32_t> baudRates;
     std::set<std::uint32_t> gammas;
     bool notANumber{false};
     bool huge{false};
@@ -395,6 +397,7 @@ void SimulatorEffectsTest::garbageIsOfItsType()
         c.device.getEdgeCorrection();
         results.insert(c.device.getPolarity());
         gammas.insert(c.device.getGamma());
+        baudRates.insert(c.configuration.getDefaultBaudRate());
         const double number{c.configuration.getDefaultGamma()};
         notANumber = notANumber || std::isnan(number);
         huge = huge || std::isinf(number) || std::fabs(number) > 1e300;
@@ -406,6 +409,8 @@ void SimulatorEffectsTest::garbageIsOfItsType()
     QVERIFY(gammas.size() > 100);
     QCOMPARE(*gammas.begin(), 0U);
     QCOMPARE(*gammas.rbegin(), 4294967295U);
+    QCOMPARE(*baudRates.begin(), std::numeric_limits<std::int32_t>::min());
+    QCOMPARE(*baudRates.rbegin(), std::numeric_limits<std::int32_t>::max());
     QCOMPARE(c.simulation.state.units[1][Field::gamma], 65536.0);
 }
 
