@@ -8,6 +8,13 @@ if(WIN32 OR APPLE)
 endif()
 include(CMakePackageConfigHelpers)
 
+foreach(folder BINDIR LIBDIR LIBEXECDIR)
+    if(IS_ABSOLUTE "${CMAKE_INSTALL_${folder}}")
+        message(FATAL_ERROR "CMAKE_INSTALL_${folder}: ${CMAKE_INSTALL_${folder}} is not below the prefix. Name it as seen "
+            "from there, for the programs find the device library by its place beside their own.")
+    endif()
+endforeach()
+
 # The device library has a folder of its own, where no other program stumbles over it.
 set(device_library_folder ${CMAKE_INSTALL_LIBDIR}/pilotel)
 set(contract_package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/VeltrixSdkContract)

@@ -8,6 +8,7 @@
 #include <QEvent>
 #include <QMenu>
 #include <QObject>
+#include <QPointer>
 #include <QTest>
 #include <QTimer>
 #include <QWidget>
@@ -30,13 +31,13 @@ public:
         if (menu != nullptr) {
             ++count;
             // Once the menu runs its own event loop, as for an operator.
-            QTimer::singleShot(0, menu, [this, menu] {
+            QTimer::singleShot(0, menu, [this, menu = QPointer<QMenu>{menu}] {
                 // The off-screen platform tells that the menu is the active window; Qt ignores that, but only
                 // while the menu is open.
                 QCoreApplication::processEvents();
                 deed();
-                // Some menus are gone before the key is let go.
-                if (menu->isVisible()) {
+                // Some menus are gone by then.
+                if (menu != nullptr && menu->isVisible()) {
                     QTest::keyPress(menu->windowHandle(), Qt::Key_Escape);
                 }
             });
