@@ -38,7 +38,7 @@ namespace
 {
 
 constexpr int actionsInBatch{200};
-constexpr int batches{20};
+constexpr int batchesOfCommands{20};
 
 /// Done so often, with another number each time.
 using Action = std::function<void(int turn)>;
@@ -175,9 +175,9 @@ public:
         };
     }
 
-    /// Microseconds an action in the quickest of several batches; the log is emptied, and what is left to the
-    /// event loop is done, between them.
-    double microseconds(const Action &action, int actions, int batchCount = batches)
+    /// Microseconds an action in the quickest of several batches; the log is emptied, and what is
+    /// left to the event loop is done, between them.
+    double microseconds(const Action &action, int actions, int batchCount = batchesOfCommands)
     {
         double quickest{std::numeric_limits<double>::max()};
         for (int batch{0}; batch < batchCount; ++batch) {
@@ -201,7 +201,7 @@ public:
     double microsecondsOf(const char *handler, const std::vector<Command> &commands)
     {
         double quickest{std::numeric_limits<double>::max()};
-        for (int run{0}; run < batches; ++run) {
+        for (int run{0}; run < batchesOfCommands; ++run) {
             for (const Command &command : commands) {
                 command.operate(0);
                 command.operate(1);

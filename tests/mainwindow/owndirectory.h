@@ -19,5 +19,7 @@ public:
 
 private:
     const QString before{QDir::currentPath()};
-    const QTemporaryDir directory;
+    // Below the one before, so that on Windows it is on the same drive, and names that begin with / stay what
+    // they are.
+    const QTemporaryDir directory{before + QStringLiteral("/XXXXXX")};
 };

@@ -43,8 +43,8 @@ QString ports(QRandomGenerator &random)
         QStringLiteral("  COM1  "),
         QStringLiteral("\\\\.\\COM12"),
         QStringLiteral("a \"port\" & another"),
-        QString::fromUtf8("\xE2\x80\xAE"
-                          "backwards \xF0\x9F\x90\x92"),
+        // Shown from right to left.
+        QChar{0x202E} + QString::fromUtf8("backwards \xF0\x9F\x90\x92"),
         QString{200, QLatin1Char{'W'}},
     };
     static const char *const openings[]{"opens", "opens", "opens", "refused", "silent"};

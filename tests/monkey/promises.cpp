@@ -495,7 +495,7 @@ QString Promises::connectsAgain()
     test.invoke("disconnectDevice");
     test.invoke("scanDevice");
     byTheBook = false;
-    const QString wrong{after({QStringLiteral("invoke"), QStringLiteral("disconnectDevice()")})};
+    QString wrong{after({QStringLiteral("invoke"), QStringLiteral("disconnectDevice()")})};
     if (!wrong.isEmpty()) {
         return wrong;
     }
@@ -503,7 +503,7 @@ QString Promises::connectsAgain()
     const Action connecting{QStringLiteral("invoke"), QStringLiteral("connectDevice()")};
     before(connecting);
     test.invoke("connectDevice");
-    const QString wrongAgain{after(connecting)};
+    QString wrongAgain{after(connecting)};
     if (!wrongAgain.isEmpty()) {
         return wrongAgain;
     }

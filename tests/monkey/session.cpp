@@ -68,13 +68,13 @@ QString MonkeySession::act(const Action &action)
         (action.verb == QStringLiteral("invoke") || action.verb == QStringLiteral("work"))) {
         reach.use(action.target);
     }
-    const QString wrong{stage->promises.after(action)};
+    QString wrong{stage->promises.after(action)};
     if (!wrong.isEmpty()) {
         return wrong;
     }
     // Destroyed as it is, with the focus where it is, or closed before.
     if (action.verb == QStringLiteral("destroy") || !stage->test.window().isVisible()) {
-        const QString wrongAtItsEnd{startAgain()};
+        QString wrongAtItsEnd{startAgain()};
         if (!wrongAtItsEnd.isEmpty()) {
             return wrongAtItsEnd;
         }
@@ -85,7 +85,7 @@ QString MonkeySession::act(const Action &action)
 QString MonkeySession::end()
 {
     stage->hand.comeBack();
-    const QString wrong{stage->promises.connectsAgain()};
+    QString wrong{stage->promises.connectsAgain()};
     if (!wrong.isEmpty()) {
         return wrong;
     }
