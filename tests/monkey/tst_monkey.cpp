@@ -15,6 +15,7 @@
 #include "testclass.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
@@ -279,7 +280,8 @@ void MonkeyTest::replay(Diary &diary, const QString &list)
 
 void MonkeyTest::watch()
 {
-    const QTemporaryDir directory;
+    // Here, and so on the drive that the sources are on.
+    const QTemporaryDir directory{QDir::currentPath() + QStringLiteral("/XXXXXX")};
     QVERIFY(directory.isValid());
     const QString replayed{qEnvironmentVariable(replayVariable)};
     const Outcome first{
