@@ -103,7 +103,7 @@ public:
     MainWindow window{nullptr};
     QApplication::setWindowIcon(window.windowIcon());
     window.setSequenceObserver([&operatorInput](bool running) { operatorInput.sequenceRuns(running); });
-    const auto fitted = fitToScreen(window);
+    [[maybe_unused]] const auto fitted = fitToScreen(window);
     showAndTell(window);
 }
 
