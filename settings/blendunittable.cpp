@@ -12,6 +12,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 using namespace veltrix_sdk;
 
@@ -32,6 +33,13 @@ const Allowed notZero{between(1, highestWord)};
 const Allowed versionWord{between(0, 65535)};
 const Allowed outputPixels{between(1, 10000)};
 
+// What the three pictures are called, those of the start with one more.
+const std::vector<std::string> pictures{"infrared", "visible", "fusion"};
+const std::vector<std::string> startingPictures{"infrared", "visible", "fusion", "current"};
+
+const Scale hours{60, 0, "h", 1, true};
+const Scale celsius{1000, 273.15, "degrees C", 2, true};
+
 Rows identity()
 {
     return {
@@ -46,17 +54,21 @@ Rows identity()
                "Serial number of the unit"),
         number("sensorSerialNumber", onCamera, DEVICE_OPERATION(getSensorSerialNumber), notZero,
                "Serial number of the sensor"),
+        moving(notExamined(record(
+            "operatingInfo", onCamera, DEVICE_OPERATION(getOperatingInfo),
+            {counted(field<&OperatingInfo::operatingMinutes>(
+                         "operatingMinutes", word, "How long the camera has run in its life", "minutes"),
+                     hours),
+             field<&OperatingInfo::startupCount>("startupCount", notZero, "How often the camera was started",
+                                                 "starts")}))),
         moving(notExamined(
-            record("operatingInfo", onCamera, DEVICE_OPERATION(getOperatingInfo),
-                   {field<&OperatingInfo::operatingMinutes>(
-                        "operatingMinutes", word, "How long the camera has run in its life", "minutes"),
-                    field<&OperatingInfo::startupCount>("startupCount", notZero,
-                                                        "How often the camera was started", "starts")}))),
-        moving(notExamined(record("temperatures", onBoth, DEVICE_OPERATION(getTemperatures),
-                                  {field<&Temperatures::sensorMillikelvin>("sensorMillikelvin", temperature,
-                                                                           "Temperature of the sensor", "mK"),
-                                   field<&Temperatures::fpgaMillikelvin>("fpgaMillikelvin", temperature,
-                                                                         "Temperature of the FPGA", "mK")}))),
+            record("temperatures", onBoth, DEVICE_OPERATION(getTemperatures),
+                   {counted(field<&Temperatures::sensorMillikelvin>("sensorMillikelvin", temperature,
+                                                                    "Temperature of the sensor", "mK"),
+                            celsius),
+                    counted(field<&Temperatures::fpgaMillikelvin>("fpgaMillikelvin", temperature,
+                                                                  "Temperature of the FPGA", "mK"),
+                            celsius)}))),
         moving(number("bitStatus", onBlendUnit, DEVICE_OPERATION(getBitStatus), word,
                       "Result of the built-in test, one bit each")),
     };
@@ -66,16 +78,20 @@ Rows blendUnit()
 {
     const Allowed percent{within(visibleAgcRange)};
     return {
-        number("videoMode", onBlendUnit, DEVICE_OPERATION(getVideoMode), DEVICE_OPERATION(setVideoMode),
-               within(videoModeRange), "Picture that is shown: 0 infrared, 1 visible, 2 fusion"),
-        record("zoom", onBoth, DEVICE_OPERATION(getZoomConfig), DEVICE_OPERATION(configureZoom),
-               {field<&ZoomConfig::factor>("factor", within(zoomFactorRange), "Digital zoom factor"),
-                field<&ZoomConfig::xCenter>("xCenter", within(zoomXCenterRange),
-                                            "Column that the zoom is centred on", "pixels"),
-                field<&ZoomConfig::yCenter>("yCenter", within(zoomYCenterRange),
-                                            "Row that the zoom is centred on", "pixels"),
-                field<&ZoomConfig::method>("method", within(zoomMethodRange),
-                                           "Interpolation of the zoom: 0 nearest neighbour, 1 bilinear")}),
+        called(number("videoMode", onBlendUnit, DEVICE_OPERATION(getVideoMode),
+                      DEVICE_OPERATION(setVideoMode), within(videoModeRange),
+                      "Picture that is shown: 0 infrared, 1 visible, 2 fusion"),
+               pictures),
+        record(
+            "zoom", onBoth, DEVICE_OPERATION(getZoomConfig), DEVICE_OPERATION(configureZoom),
+            {field<&ZoomConfig::factor>("factor", within(zoomFactorRange), "Digital zoom factor"),
+             field<&ZoomConfig::xCenter>("xCenter", within(zoomXCenterRange),
+                                         "Column that the zoom is centred on", "pixels"),
+             field<&ZoomConfig::yCenter>("yCenter", within(zoomYCenterRange),
+                                         "Row that the zoom is centred on", "pixels"),
+             called(field<&ZoomConfig::method>("method", within(zoomMethodRange),
+                                               "Interpolation of the zoom: 0 nearest neighbour, 1 bilinear"),
+                    {"nearest", "bilinear"})}),
         record("zoomResolution", onBlendUnit, DEVICE_OPERATION(getZoomResolution),
                {field<&ZoomResolution::x>("x", outputPixels, "Width of the zoomed picture", "pixels"),
                 field<&ZoomResolution::y>("y", outputPixels, "Height of the zoomed picture", "pixels")}),
@@ -92,9 +108,10 @@ Rows blendUnit()
                  "Visible channel: mix of a linear table and histogram equalisation; low is linear"),
              field<&VisibleClhe::filterCoefficient>("filterCoefficient", within(visibleClheFilterRange),
                                                     "Visible channel: filter coefficient of that mix", "%")}),
-        number("startingMode", onBlendUnit, DEVICE_OPERATION(getStartingMode),
-               DEVICE_OPERATION(setStartingMode), within(startingModeRange),
-               "Picture after power-up: 0 infrared, 1 visible, 2 fusion, 3 the current one"),
+        called(number("startingMode", onBlendUnit, DEVICE_OPERATION(getStartingMode),
+                      DEVICE_OPERATION(setStartingMode), within(startingModeRange),
+                      "Picture after power-up: 0 infrared, 1 visible, 2 fusion, 3 the current one"),
+               startingPictures),
     };
 }
 

@@ -40,6 +40,16 @@ enum class UsedOn
 
 bool isUsedOn(UsedOn usedOn, Unit unit);
 
+/// How operators count what the device counts in units of its own.
+struct Scale
+{
+    double perUnit{1};   ///< So many of the device's are one of the operator's.
+    double zero{0};      ///< Where the operator's count begins, in his units.
+    std::string unit{};  ///< Such as "h"; empty for a mere number.
+    int decimals{0};     ///< How many of them are shown at most.
+    bool isGiven{false}; ///< Operators count as the device does where it is not.
+};
+
 /// One number of a setting.
 struct Field
 {
@@ -51,6 +61,10 @@ struct Field
     bool derived{false};  ///< It is not sent; the device derives it from the others.
     /// It is sent as a whole number although it is read with a fraction.
     bool sentWhole{false};
+    /// What the numbers from 0 on are called, in small letters and without blanks, such as "iron"; empty
+    /// where a number speaks for itself.
+    std::vector<std::string> words{};
+    Scale scale{};
 };
 
 /// Which of the optional regions are on. No operation reads it; the first column of a region that is off is

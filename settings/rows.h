@@ -263,6 +263,36 @@ Setting record(const char *key, UsedOn usedOn, Operation<Get> get, Operation<Set
     }
 }
 
+/// A setting of one number whose numbers have names.
+inline Setting called(Setting setting, std::vector<std::string> words)
+{
+    setting.fields.front().words = std::move(words);
+    return setting;
+}
+
+/// The same of one number of a record.
+template <typename Record>
+RecordField<Record> called(RecordField<Record> number, std::vector<std::string> words)
+{
+    number.field.words = std::move(words);
+    return number;
+}
+
+/// A setting of one number that operators count otherwise.
+inline Setting counted(Setting setting, Scale scale)
+{
+    setting.fields.front().scale = std::move(scale);
+    return setting;
+}
+
+/// The same of one number of a record.
+template <typename Record>
+RecordField<Record> counted(RecordField<Record> number, Scale scale)
+{
+    number.field.scale = std::move(scale);
+    return number;
+}
+
 /// What is answered whatever the result says.
 inline Setting notExamined(Setting setting)
 {
