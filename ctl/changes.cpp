@@ -1,0 +1,228 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// Setting several numbers of the device, all of them or none.
+#include "changes.h"
+
+#include "escaped.h"
+#include "failure.h"
+#include "fieldtext.h"
+#include "progress.h"
+#include "values.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <optional>
+
+using device_settings::Place;
+
+namespace ctl
+{
+
+namespace
+{
+
+/// How often the old value is sent at most: one lost answer must not leave the device changed.
+constexpr int attemptsToPutBack{3};
+
+/// The number that tells whether an optional region is on, and its flag.
+struct RegionFlag
+{
+    const char *key;
+    bool RegionFlags::*flag;
+};
+
+constexpr std::array regionFlags{RegionFlag{"roi1.x1", &RegionFlags::roi1Inclusive},
+                                 RegionFlag{"roi2.x1", &RegionFlags::roi0Exclusive},
+                                 RegionFlag{"roi3.x1", &RegionFlags::roi1Exclusive}};
+
+std::string textOf(const Place &place, double number)
+{
+    return device_settings::numberInWords(place.setting->fields[place.field], number);
+}
+
+/// Whether all numbers that are sent are the same.
+bool sameAsSent(const Setting &setting, const Values &one, const Values &other)
+{
+    for (std::size_t place{0}; place < setting.fields.size(); ++place) {
+        if (!setting.fields[place].derived && !device_settings::same(one[place], other[place])) {
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+Changes::Changes(Session &itsSession, const std::vector<Change> &changes, Unchanged itsUnchanged)
+    : session{itsSession}, unchanged{itsUnchanged}
+{
+    for (const Change &change : changes) {
+        stepFor(change.place).changes.push_back(change);
+    }
+}
+
+Changes::Step &Changes::stepFor(const Place &place)
+{
+    for (Step &step : steps) {
+        if (step.unit == place.unit && step.setting == place.setting) {
+            return step;
+        }
+    }
+    steps.push_back({place.unit, place.setting, {}, {}, {}});
+    return steps.back();
+}
+
+std::vector<Difference> Changes::look()
+{
+    std::vector<Difference> differences;
+    Progress progress{"Reading", steps.size()};
+    for (Step &step : steps) {
+        heedInterruption();
+        Reading reading{session.readTwice(step.unit, *step.setting)};
+        if (!reading.fault.empty()) {
+            throw Failure{refused, reading.fault + "\nNothing was changed."};
+        }
+        step.found = std::move(reading.values);
+        step.wanted = step.found;
+        for (const Change &change : step.changes) {
+            const std::size_t field{change.place.field};
+            step.wanted[field] = change.number;
+            if (!device_settings::same(step.found[field], change.number)) {
+                differences.push_back({change.place, step.found[field], change.number});
+            }
+        }
+        if (const auto field = device_settings::firstFieldSentChanged(*step.setting, step.wanted)) {
+            const Place place{step.unit, step.setting, *field};
+            throw Failure{refused, device_settings::keyOf(place) + " is " +
+                                       textOf(place, step.wanted[*field]) +
+                                       ", and only whole numbers can be sent.\nNothing was changed."};
+        }
+        sendsFlags = sendsFlags || step.setting->sendsRegionFlags;
+        progress.step();
+    }
+    noteFlags();
+    session.confirm();
+    return differences;
+}
+
+void Changes::noteFlags()
+{
+    if (!sendsFlags) {
+        return;
+    }
+    foundFlags = device_settings::readRegionFlags(session.on(Unit::Camera));
+    wantedFlags = foundFlags;
+    for (const Step &step : steps) {
+        for (const RegionFlag &region : regionFlags) {
+            if (step.setting->key == region.key) {
+                foundFlags.*region.flag = step.found[0] != 0;
+                wantedFlags.*region.flag = step.wanted[0] != 0;
+            }
+        }
+    }
+}
+
+bool Changes::isLeftAlone(const Step &step) const
+{
+    return unchanged == Unchanged::LeftAlone && sameAsSent(*step.setting, step.found, step.wanted);
+}
+
+void Changes::make()
+{
+    Progress progress{"Setting", steps.size()};
+    std::size_t made{0};
+    try {
+        for (const Step &step : steps) {
+            heedInterruption();
+            ++made;
+            if (!isLeftAlone(step)) {
+                makeStep(step);
+            }
+            progress.step();
+        }
+        heedInterruption();
+    } catch (const Failure &failure) {
+        progress.clear();
+        std::string text{failure.what()};
+        const std::vector<std::string> lost{putBack(made)};
+        for (const std::string &line : lost) {
+            text += '\n' + line;
+        }
+        throw Failure{failure.status(), text + (lost.empty() ? "\nEverything is as it was before." : "")};
+    }
+}
+
+void Changes::makeStep(const Step &step)
+{
+    const bool acknowledged{session.write(step.unit, *step.setting, step.wanted, wantedFlags)};
+    const Reading reading{session.read(step.unit, *step.setting)};
+    for (const Change &change : step.changes) {
+        const std::size_t field{change.place.field};
+        const std::string wanted{device_settings::keyOf(change.place) + " = " +
+                                 textOf(change.place, change.number)};
+        if (!acknowledged) {
+            throw Failure{refused, wanted + " is refused by " + nameOf(step.unit) + '.'};
+        }
+        if (!reading.fault.empty()) {
+            throw Failure{refused, wanted + " was sent, but then " + reading.fault};
+        }
+        if (!device_settings::same(reading.values[field], change.number)) {
+            throw Failure{refused, wanted + " was sent, but " + nameOf(step.unit) + " has " +
+                                       textOf(change.place, reading.values[field])};
+        }
+    }
+    if (!sameAsSent(*step.setting, reading.values, step.wanted)) {
+        throw Failure{refused, keyOf(step.unit) + '.' + step.setting->key +
+                                   " was sent, and another number of it has changed."};
+    }
+}
+
+std::vector<std::string> Changes::putBack(std::size_t count)
+{
+    std::vector<std::string> lost;
+    for (std::size_t place{count}; place > 0; --place) {
+        const Step &step = steps[place - 1];
+        const std::string line{isLeftAlone(step) ? "" : putBack(step)};
+        if (!line.empty()) {
+            lost.push_back(line);
+        }
+    }
+    return lost;
+}
+
+/// What to say when the old values could not be put back; empty when they are back.
+std::string Changes::putBack(const Step &step)
+{
+    std::string now{"it does not answer"};
+    for (int attempt{0}; attempt < attemptsToPutBack; ++attempt) {
+        try {
+            const bool acknowledged{session.write(step.unit, *step.setting, step.found, foundFlags)};
+            const Reading reading{session.read(step.unit, *step.setting)};
+            if (!reading.fault.empty()) {
+                now = reading.fault;
+                continue;
+            }
+            if (sameAsSent(*step.setting, reading.values, step.found)) {
+                return {};
+            }
+            now.clear();
+            for (const Change &change : step.changes) {
+                now += (now.empty() ? "it is " : ", ") +
+                       textOf(change.place, reading.values[change.place.field]) +
+                       (acknowledged ? "" : ", and setting it is refused");
+            }
+        } catch (const Failure &failure) {
+            now = failure.what();
+        }
+    }
+    std::string line{"NOT PUT BACK:"};
+    for (const Change &change : step.changes) {
+        line += (change.place.field == step.changes.front().place.field ? " " : ", ") +
+                device_settings::keyOf(change.place) + " was " +
+                textOf(change.place, step.found[change.place.field]);
+    }
+    return line + "; " + now;
+}
+
+} // namespace ctl

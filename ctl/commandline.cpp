@@ -1,0 +1,201 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The command line: which command with what, for the program and for each line of its shell.
+#include "commandline.h"
+
+#include "escaped.h"
+#include "output/wording.h"
+#include "veltrix_sdk/numbers.h"
+
+#include <algorithm>
+#include <iostream>
+#include <sstream>
+
+namespace ctl
+{
+
+namespace
+{
+
+std::vector<std::string> linkRates()
+{
+    std::vector<std::string> rates;
+    for (const std::int32_t rate : veltrix_sdk::linkBaudRates) {
+        rates.push_back(std::to_string(rate));
+    }
+    return rates;
+}
+
+/// The units by their keys; both where none is named, the Blend Unit first.
+std::vector<Unit> unitsOf(const std::vector<std::string> &names)
+{
+    std::vector<Unit> units;
+    for (const Unit unit : device_settings::units) {
+        if (names.empty() || std::find(names.begin(), names.end(), keyOf(unit)) != names.end()) {
+            units.push_back(unit);
+        }
+    }
+    return units;
+}
+
+/// Adds the subcommands to a parser.
+class Builder
+{
+public:
+    Builder(CLI::App &itsParser, Arguments &itsArguments, Command &itsCommand)
+        : parser{itsParser}, arguments{itsArguments}, command{itsCommand}
+    {}
+
+    void addAll()
+    {
+        addOptions();
+        add(parser, "ports", "Names the ports that a camera may be behind",
+            [](Session & /*session*/) { return listPorts(); });
+        add(parser, "info", "Who the units are, how warm, how old, and their built-in test", showInfo);
+        addSettings();
+        addProfiles();
+        addStore();
+    }
+
+private:
+    void addOptions()
+    {
+        parser.set_version_flag("--version", "pilotel-ctl " PILOTEL_VERSION);
+        parser
+            .add_option(
+                "-p,--port", arguments.link.port,
+                "The port of the device, such as COM3, ttyUSB0 or SIM1; not needed where there is one")
+            ->type_name("NAME");
+        parser
+            .add_option("--baud-rate", arguments.link.baudRate,
+                        "The speed of the link; what the library says if not given")
+            ->type_name("RATE")
+            ->check(CLI::IsMember{linkRates()});
+    }
+
+    CLI::App *add(CLI::App &parent, const std::string &name, const std::string &what, Command action)
+    {
+        CLI::App *const added{parent.add_subcommand(name, what)};
+        added->fallthrough();
+        added->final_callback([&chosen = command, action = std::move(action)] { chosen = action; });
+        return added;
+    }
+
+    void addSettings()
+    {
+        CLI::App *const list{add(parser, "list", "Every setting with value, range and meaning",
+                                 [&given = arguments](Session &session) {
+                                     return listSettings(session, given.names, given.json);
+                                 })};
+        list->add_option("NAME", arguments.names, "Only these, or what begins so, such as camera.zoom");
+        list->add_flag("--json", arguments.json, "One JSON document instead of a table");
+        CLI::App *const get{
+            add(parser, "get", "Reads settings by their names",
+                [&given = arguments](Session &session) { return getSettings(session, given.names); })};
+        get->add_option("NAME", arguments.names, "Such as camera.gamma, or camera.zoom for all of the zoom")
+            ->required();
+        CLI::App *const set{
+            add(parser, "set", "Sets settings and reads them back; all of them or none",
+                [&given = arguments](Session &session) { return setSettings(session, given.names); })};
+        set->add_option("NAME=VALUE", arguments.names, "Such as camera.gamma=2.2 or camera.colorLut=iron")
+            ->required();
+    }
+
+    void addProfiles()
+    {
+        CLI::App *const profile{parser.add_subcommand("profile", "All settings in a file")};
+        profile->fallthrough();
+        profile->require_subcommand(1);
+        const auto addOne = [&](const char *name, const char *what, Command action) {
+            CLI::App *const added{add(*profile, name, what, std::move(action))};
+            added
+                ->add_option("FILE", arguments.file,
+                             "A profile, which is a scenario of the simulated camera too")
+                ->required();
+            return added;
+        };
+        addOne("save", "Writes the settings of both units into a file; - for standard output",
+               [&given = arguments](Session &session) { return saveProfile(session, given.file); });
+        addOne("apply", "Sets what a file has; all of it or nothing", [&given = arguments](Session &session) {
+            return applyProfile(session, given.file, given.dryRun);
+        })->add_flag("--dry-run", arguments.dryRun, "Only tells what would be set");
+        addOne("diff", "Tells where the units differ from a file",
+               [&given = arguments](Session &session) { return compareProfile(session, given.file); });
+    }
+
+    void addStore()
+    {
+        CLI::App *const store{add(parser, "store", "Makes settings outlive the power of the units",
+                                  [&given = arguments](Session &session) {
+                                      return storeSettings(session, given.set == "expert",
+                                                           unitsOf(given.units));
+                                  })};
+        store->add_option("SET", arguments.set, "user or expert")
+            ->required()
+            ->check(CLI::IsMember{std::vector<std::string>{"user", "expert"}});
+        addUnits(*store, "Only of this unit: camera or blendUnit");
+    }
+
+    void addUnits(CLI::App &to, const char *what)
+    {
+        to.add_option("--unit", arguments.units, what)
+            ->type_name("UNIT")
+            ->check(CLI::IsMember{std::vector<std::string>{keyOf(Unit::Camera), keyOf(Unit::BlendUnit)}});
+    }
+
+    CLI::App &parser;
+    Arguments &arguments;
+    Command &command;
+};
+
+constexpr const char *description{"Reads and sets the Veltrix KR thermal camera and its Blend Unit."};
+constexpr const char *footer{
+    "Exit status: 0 done, 1 the device refuses or differs, 2 wrong use, 3 no device."};
+
+} // namespace
+
+namespace
+{
+
+/// What to say about the first word that is neither an option nor a command.
+std::string unknownWord(const CLI::App &parser, const std::string &word)
+{
+    std::vector<std::string> known;
+    for (const CLI::App *const command : parser.get_subcommands({})) {
+        known.push_back(command->get_name());
+    }
+    const std::string near{veltrix_simulator::nearest(word, known)};
+    return "There is no command \"" + sdk_check::escaped(word) + '"' +
+           (near.empty() ? "" : "; did you mean \"" + near + "\"?") + "\nTry \"pilotel-ctl --help\".";
+}
+
+} // namespace
+
+void addCommands(CLI::App &parser, Arguments &arguments, Command &command)
+{
+    Builder{parser, arguments, command}.addAll();
+}
+
+Command parse(const std::vector<std::string> &words, Arguments &arguments)
+{
+    Command command;
+    CLI::App parser{description, "pilotel-ctl"};
+    parser.footer(footer);
+    parser.require_subcommand(1);
+    addCommands(parser, arguments, command);
+    try {
+        parser.parse(std::vector<std::string>(words.rbegin(), words.rend()));
+    } catch (const CLI::Success &asked) {
+        parser.exit(asked, std::cout, std::cerr);
+        return {};
+    } catch (const CLI::ParseError &error) {
+        const std::vector<std::string> unknown{parser.remaining()};
+        if (parser.get_subcommands().empty() && !unknown.empty()) {
+            throw Failure{wrongUse, unknownWord(parser, unknown.front())};
+        }
+        throw Failure{wrongUse, sdk_check::escaped(error.what()) + "\nTry \"pilotel-ctl --help\"."};
+    }
+    return command;
+}
+
+} // namespace ctl

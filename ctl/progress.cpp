@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// A bar on the terminal while something takes longer than a second.
+#include "progress.h"
+
+#include <iostream>
+
+#if defined(_WIN32)
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
+namespace ctl
+{
+
+bool errorsAreWatched()
+{
+#if defined(_WIN32)
+    return _isatty(2) != 0;
+#else
+    return ::isatty(STDERR_FILENO) != 0;
+#endif
+}
+
+void Progress::step()
+{
+    ++steps;
+    if (std::chrono::steady_clock::now() - start < std::chrono::seconds{1} || !errorsAreWatched()) {
+        return;
+    }
+    constexpr std::size_t width{30};
+    const std::size_t filled{total == 0 ? width : steps * width / total};
+    const std::string line{text + " [" + std::string(filled, '#') + std::string(width - filled, '.') + "] " +
+                           std::to_string(steps) + " of " + std::to_string(total)};
+    std::cerr << '\r' << line << std::flush;
+    drawn = line.size();
+}
+
+void Progress::clear()
+{
+    if (drawn > 0) {
+        std::cerr << '\r' << std::string(drawn, ' ') << '\r' << std::flush;
+        drawn = 0;
+    }
+}
+
+} // namespace ctl
