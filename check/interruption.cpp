@@ -9,14 +9,15 @@
 namespace
 {
 
-std::atomic<bool> interrupted{false};
-static_assert(std::atomic<bool>::is_always_lock_free, "a signal handler may not wait");
+/// The last signal that came; 0 where none did.
+std::atomic<int> interruption{0};
+static_assert(std::atomic<int>::is_always_lock_free, "a signal handler may not wait");
 
 extern "C" void noteSignal(int signal)
 {
     // Windows forgets the handler when it calls it, and calls it on a thread of its own.
     std::signal(signal, noteSignal);
-    interrupted = true;
+    interruption = signal;
 }
 
 } // namespace
@@ -38,5 +39,11 @@ void noteInterruptions()
 
 bool wasInterrupted()
 {
-    return interrupted;
+    return interruption != 0;
+}
+
+void forgetCtrlC()
+{
+    int ctrlC{SIGINT};
+    interruption.compare_exchange_strong(ctrlC, 0);
 }

@@ -9,3 +9,6 @@ void noteInterruptions();
 
 /// Whether the process was asked to end.
 bool wasInterrupted();
+
+/// Ctrl-C was heeded, and the next command may begin; what asks the process to end in another way is kept.
+void forgetCtrlC();
