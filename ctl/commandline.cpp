@@ -5,6 +5,7 @@
 
 #include "escaped.h"
 #include "output/wording.h"
+#include "shell.h"
 #include "veltrix_sdk/numbers.h"
 
 #include <algorithm>
@@ -38,6 +39,12 @@ std::vector<Unit> unitsOf(const std::vector<std::string> &names)
     return units;
 }
 
+/// The one unit that a command works on.
+Unit unitOf(const Arguments &arguments)
+{
+    return arguments.units.empty() ? Unit::Camera : unitsOf(arguments.units).front();
+}
+
 /// Adds the subcommands to a parser.
 class Builder
 {
@@ -46,15 +53,20 @@ public:
         : parser{itsParser}, arguments{itsArguments}, command{itsCommand}
     {}
 
-    void addAll()
+    void addAll(TypedIn where)
     {
-        addOptions();
+        if (where == TypedIn::Bash) {
+            addOptions();
+            addShell();
+        }
         add(parser, "ports", "Names the ports that a camera may be behind",
             [](Session & /*session*/) { return listPorts(); });
         add(parser, "info", "Who the units are, how warm, how old, and their built-in test", showInfo);
         addSettings();
         addProfiles();
         addStore();
+        addWatch();
+        addBadPixels();
     }
 
 private:
@@ -79,6 +91,14 @@ private:
         added->fallthrough();
         added->final_callback([&chosen = command, action = std::move(action)] { chosen = action; });
         return added;
+    }
+
+    void addShell()
+    {
+        CLI::App *const shell{
+            add(parser, "shell", "The same commands over one open connection, typed or from a file or a pipe",
+                [&given = arguments](Session &session) { return runShell(session, given.file); })};
+        shell->add_option("FILE", arguments.file, "A command in each line; standard input if not given");
     }
 
     void addSettings()
@@ -136,9 +156,71 @@ private:
         addUnits(*store, "Only of this unit: camera or blendUnit");
     }
 
-    void addUnits(CLI::App &to, const char *what)
+    void addWatch()
     {
-        to.add_option("--unit", arguments.units, what)
+        CLI::App *const watch{parser.add_subcommand("watch", "Reads something again and again")};
+        watch->fallthrough();
+        watch->require_subcommand(1);
+        CLI::App *const temperatures{
+            add(*watch, "temperatures", "The temperatures of both units, until Ctrl-C",
+                [&given = arguments](Session &session) { return watchTemperatures(session, given.watch); })};
+        temperatures
+            ->add_option_function<std::string>(
+                "--every", [&to = arguments.watch](const std::string &text) { to.every = *durationOf(text); },
+                "How often: such as 500ms, 1s, 2min or 1h; 1s if not given")
+            ->type_name("TIME")
+            ->check([](const std::string &text) {
+                return durationOf(text) ? "" : '"' + text + "\" is no time such as 500ms, 1s, 2min or 1h";
+            });
+        temperatures->add_option("--count", arguments.watch.count, "So many readings")
+            ->type_name("N")
+            ->check(CLI::Range(1, 1'000'000'000));
+        temperatures
+            ->add_option("--csv", arguments.watch.csvFile,
+                         "A file with the readings in millikelvin; - for standard output")
+            ->type_name("FILE");
+    }
+
+    void addBadPixels()
+    {
+        CLI::App *const all{parser.add_subcommand("bad-pixels", "The table of bad pixels and its file")};
+        all->fallthrough();
+        all->require_subcommand(1);
+        add(*all, "read", "Copies the table of the unit into its file in the working directory",
+            [&given = arguments](Session &session) { return readBadPixels(session, unitOf(given)); });
+        add(*all, "write", "Copies the file into the unit",
+            [&given = arguments](Session &session) { return writeBadPixels(session, unitOf(given)); });
+        addDeclaration(*all, "add", "Declares pixels bad in the file", true);
+        addDeclaration(*all, "remove", "Declares pixels good in the file", false);
+        CLI::App *const list{
+            add(*all, "list", "Names the bad pixels of a file", [&given = arguments](Session &session) {
+                return listBadPixels(session, unitOf(given), given.file, given.picture);
+            })};
+        list->add_option("FILE", arguments.file, "Such as bpr_SN10417.bin; that of the unit if not given");
+        list->add_option("--picture", arguments.picture, "Also paints them on the sensor, 640 by 480")
+            ->type_name("FILE.png");
+        for (CLI::App *const each : all->get_subcommands({})) {
+            addUnits(*each, "camera, which is meant if not given, or blendUnit")->expected(1);
+        }
+    }
+
+    void addDeclaration(CLI::App &to, const char *name, const char *what, bool bad)
+    {
+        CLI::App *const added{add(to, name, what, [&given = arguments, bad](Session &session) {
+            return declareBadPixels(session, unitOf(given), given.pixels, bad);
+        })};
+        added->add_option("PIXEL", arguments.pixels.single, "COLUMN,ROW, such as 12,34");
+        added->add_option("--row", arguments.pixels.rows, "All pixels of a row")
+            ->type_name("ROW")
+            ->check(CLI::Range(0U, veltrix_sdk::sensorRows - 1));
+        added->add_option("--column", arguments.pixels.columns, "All pixels of a column")
+            ->type_name("COLUMN")
+            ->check(CLI::Range(0U, veltrix_sdk::sensorColumns - 1));
+    }
+
+    CLI::Option *addUnits(CLI::App &to, const char *what)
+    {
+        return to.add_option("--unit", arguments.units, what)
             ->type_name("UNIT")
             ->check(CLI::IsMember{std::vector<std::string>{keyOf(Unit::Camera), keyOf(Unit::BlendUnit)}});
     }
@@ -171,18 +253,18 @@ std::string unknownWord(const CLI::App &parser, const std::string &word)
 
 } // namespace
 
-void addCommands(CLI::App &parser, Arguments &arguments, Command &command)
+void addCommands(CLI::App &parser, Arguments &arguments, Command &command, TypedIn where)
 {
-    Builder{parser, arguments, command}.addAll();
+    Builder{parser, arguments, command}.addAll(where);
 }
 
-Command parse(const std::vector<std::string> &words, Arguments &arguments)
+Command parse(const std::vector<std::string> &words, Arguments &arguments, TypedIn where)
 {
     Command command;
     CLI::App parser{description, "pilotel-ctl"};
     parser.footer(footer);
     parser.require_subcommand(1);
-    addCommands(parser, arguments, command);
+    addCommands(parser, arguments, command, where);
     try {
         parser.parse(std::vector<std::string>(words.rbegin(), words.rend()));
     } catch (const CLI::Success &asked) {

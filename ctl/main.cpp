@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // The console program for the settings of the camera.
 #include "commandline.h"
+#include "completion.h"
 #include "failure.h"
 #include "interruption.h"
 #include "messages.h"
@@ -11,6 +12,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <iostream>
 #include <string>
 #include <vector>
 
@@ -26,15 +28,31 @@ std::vector<std::string> wordsOf(const QStringList &arguments)
     return words;
 }
 
+/// Writes what the last of the words can become, for Bash; docs/command-line.md says how it is set up.
+int complete(const std::vector<std::string> &words)
+{
+    ctl::Session session{{}};
+    const std::string begun{words.empty() ? "" : words.back()};
+    const std::vector<std::string> before{words.begin(), words.empty() ? words.end() : words.end() - 1};
+    for (const std::string &word : ctl::completions(session, before, begun, ctl::TypedIn::Bash)) {
+        std::cout << word << '\n';
+    }
+    return ctl::done;
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
     const QCoreApplication application{argc, argv};
     noteInterruptions();
+    const std::vector<std::string> words{wordsOf(QCoreApplication::arguments())};
     try {
+        if (!words.empty() && words.front() == "--complete") {
+            return complete({words.begin() + 1, words.end()});
+        }
         ctl::Arguments arguments;
-        const ctl::Command command{ctl::parse(wordsOf(QCoreApplication::arguments()), arguments)};
+        const ctl::Command command{ctl::parse(words, arguments, ctl::TypedIn::Bash)};
         if (!command) {
             return ctl::done;
         }

@@ -39,14 +39,18 @@ std::string nameOf(Unit unit)
     return unit == Unit::Camera ? "the camera" : "the Blend Unit";
 }
 
-Session::~Session()
+void Session::close()
 {
     if (device != nullptr) {
         manager->closeDevice(device);
+        device = nullptr;
     }
     if (manager != nullptr) {
         sdk->releaseDeviceManager(&manager);
+        manager = nullptr;
     }
+    addressed.reset();
+    greeted = {};
 }
 
 void Session::bringUp()
@@ -119,11 +123,10 @@ void Session::open()
                                     uartCommunication + "\" will do."};
     }
     itsConfiguration->setBaudRate(link.baudRate.value_or(itsConfiguration->getDefaultBaudRate()));
-    if (manager == nullptr) {
-        manager = sdk->getDeviceManager();
-    }
+    manager = sdk->getDeviceManager();
     device = manager == nullptr ? nullptr : manager->openDevice(link.port.c_str());
     if (device == nullptr) {
+        close();
         throw Failure{noDevice, "No device opens on the port " + escaped(link.port) +
                                     ". Is it the right one, and does no other program hold it?"};
     }
@@ -145,8 +148,7 @@ void Session::identify()
                 std::to_string(krIdentity) + '.';
     }
     if (!fault.empty()) {
-        manager->closeDevice(device);
-        device = nullptr;
+        close();
         throw Failure{noDevice, "What is on the port " + escaped(link.port) + ' ' + fault};
     }
 }

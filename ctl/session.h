@@ -48,7 +48,7 @@ class Session
 {
 public:
     explicit Session(Link itsLink) : link{std::move(itsLink)} {}
-    ~Session();
+    ~Session() { close(); }
     Session(const Session &) = delete;
     Session &operator=(const Session &) = delete;
 
@@ -60,6 +60,8 @@ public:
 
     /// Opens the device, if it is not open, and asks it who it is.
     void open();
+    /// Closes the device; the next command that needs it opens it again.
+    void close();
     /// The port of the device, as it was given or found.
     const std::string &port() const { return link.port; }
     /// The device with this unit addressed. A unit is asked for its versions before anything else.

@@ -57,6 +57,7 @@ bool CtlFolder::has(const QString &file) const
 
 Outcome CtlFolder::run(const QStringList &arguments)
 {
+    QFile::remove(path("trace.json"));
     Outcome outcome{::run(CTL, arguments, environment, directory.path())};
     outcome.errors.remove(QRegularExpression{"^veltrix.sdk: .*: this fault never happened\n",
                                              QRegularExpression::MultilineOption});

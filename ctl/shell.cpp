@@ -1,0 +1,147 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The commands over one open connection, typed or from a file or a pipe.
+#include "shell.h"
+
+#include "commandline.h"
+#include "completion.h"
+#include "escaped.h"
+#include "interruption.h"
+#include "lineeditor.h"
+#include "messages.h"
+
+#include <QFile>
+#include <QString>
+
+#include <cstddef>
+#include <iostream>
+#include <optional>
+
+namespace ctl
+{
+
+namespace
+{
+
+constexpr const char *prompt{"pilotel> "};
+
+/// Runs one line; false when it asks for the end.
+bool runLine(Session &session, const std::vector<std::string> &words, ExitStatus &status)
+{
+    if (words.size() == 1 && (words.front() == "exit" || words.front() == "quit")) {
+        return false;
+    }
+    Arguments arguments;
+    const Command command{parse(words, arguments, TypedIn::OurShell)};
+    status = command ? command(session) : done;
+    return true;
+}
+
+/// Somebody types: what fails is told, and the next line is waited for.
+ExitStatus talk(Session &session)
+{
+    LineEditor editor{[&](const std::vector<std::string> &before, const std::string &begun) {
+        return completions(session, before, begun, TypedIn::OurShell);
+    }};
+    ExitStatus status{done};
+    while (const std::optional<std::string> line = editor.read(prompt)) {
+        forgetCtrlC();
+        try {
+            const std::vector<std::string> words{wordsOf(*line)};
+            if (!words.empty() && !runLine(session, words, status)) {
+                return status;
+            }
+        } catch (const Failure &failure) {
+            tell(failure.what());
+            status = failure.status();
+            if (status == noDevice) {
+                // The next command looks whether it is back.
+                session.close();
+            }
+        }
+    }
+    std::cout << std::endl;
+    return status;
+}
+
+/// Lines from a file; standard input has an empty name.
+ExitStatus runLines(Session &session, QFile &lines, const std::string &name)
+{
+    ExitStatus status{done};
+    for (int number{1}; status == done; ++number) {
+        constexpr qint64 longest{100'000};
+        const QByteArray line{lines.readLine(longest)};
+        if (line.isEmpty()) {
+            return status;
+        }
+        heedInterruption();
+        const std::string place{(name.empty() ? "line " : sdk_check::escaped(name) + ':') +
+                                std::to_string(number) + ": "};
+        try {
+            const std::vector<std::string> words{wordsOf(line.toStdString())};
+            if (!words.empty() && !runLine(session, words, status)) {
+                return status;
+            }
+        } catch (const Failure &failure) {
+            throw Failure{failure.status(), place + failure.what()};
+        }
+        if (status != done) {
+            tell(place + "not all was well, so this is the last line that was run");
+        }
+    }
+    return status;
+}
+
+} // namespace
+
+std::vector<std::string> wordsOf(const std::string &line)
+{
+    std::vector<std::string> words;
+    bool inWord{false};
+    char quote{'\0'};
+    for (const char letter : line) {
+        const bool blank{letter == ' ' || letter == '\t' || letter == '\r' || letter == '\n'};
+        if (quote != '\0') {
+            if (letter == quote) {
+                quote = '\0';
+            } else {
+                words.back() += letter;
+            }
+        } else if (blank) {
+            inWord = false;
+        } else if (letter == '#' && !inWord) {
+            break;
+        } else {
+            if (!inWord) {
+                words.emplace_back();
+                inWord = true;
+            }
+            if (letter == '"' || letter == '\'') {
+                quote = letter;
+            } else {
+                words.back() += letter;
+            }
+        }
+    }
+    if (quote != '\0') {
+        throw Failure{wrongUse, std::string{"The quote "} + quote + " has no end."};
+    }
+    return words;
+}
+
+ExitStatus runShell(Session &session, const std::string &file)
+{
+    if (file.empty() && LineEditor::somebodyTypes()) {
+        return talk(session);
+    }
+    QFile lines{QString::fromStdString(file)};
+    const bool isOpen{file.empty() ? lines.open(stdin, QIODevice::ReadOnly)
+                                   : lines.open(QIODevice::ReadOnly)};
+    if (!isOpen) {
+        throw Failure{wrongUse, sdk_check::escaped(file) + ": " +
+                                    sdk_check::escaped(lines.errorString().toStdString())};
+    }
+    return runLines(session, lines, file);
+}
+
+} // namespace ctl
