@@ -1,0 +1,248 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The numbers of the settings in the words and units of operators: those of the window, and back.
+#include "fieldtext.h"
+#include "heldvalues.h"
+#include "testclass.h"
+#include "values.h"
+
+#include <QFile>
+#include <QObject>
+#include <QRegularExpression>
+#include <QString>
+#include <QStringList>
+#include <QTest>
+#include <QXmlStreamReader>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+using namespace device_settings;
+
+class SettingsWordsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void wordsAreTheWindows_data();
+    void wordsAreTheWindows();
+    void everyNumberHasOneWord();
+    void saysNumbers_data();
+    void saysNumbers();
+    void understandsTexts_data();
+    void understandsTexts();
+    void tellsRanges_data();
+    void tellsRanges();
+    void theSimulatorsTableHasKindsAndRanges();
+};
+
+namespace
+{
+
+Field fieldOf(const QString &key)
+{
+    const std::vector<Setting> table{deviceTable()};
+    const std::optional<Place> place{findSetting(table, key.toStdString())};
+    return place ? place->setting->fields[place->field] : Field{};
+}
+
+/// The choices of a list of the window, in small letters with hyphens.
+QStringList choicesOf(const QString &list)
+{
+    QFile form{FORM};
+    form.open(QIODevice::ReadOnly);
+    QXmlStreamReader reader{&form};
+    QStringList choices;
+    bool inList{false};
+    bool inItem{false};
+    while (!reader.atEnd()) {
+        reader.readNext();
+        if (reader.isStartElement() && reader.name() == "widget") {
+            inList = reader.attributes().value("name") == list;
+        } else if (reader.isEndElement() && reader.name() == "widget") {
+            inList = false;
+        } else if (reader.isStartElement() && reader.name() == "item") {
+            inItem = inList;
+        } else if (reader.isEndElement() && reader.name() == "item") {
+            inItem = false;
+        } else if (inItem && reader.isStartElement() && reader.name() == "string") {
+            choices.append(reader.readElementText().toLower().replace(' ', '-'));
+        }
+    }
+    return choices;
+}
+
+} // namespace
+
+void SettingsWordsTest::wordsAreTheWindows_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("list");
+    QTest::newRow("colour table") << "camera.colorLut"
+                                  << "lutColorEdit";
+    QTest::newRow("video output") << "camera.videoOutput"
+                                  << "VideoOutputCB";
+    QTest::newRow("edge correction") << "camera.edgeCorrection.type"
+                                     << "EdgeCorrectionCB";
+    QTest::newRow("zoom") << "blendUnit.zoom.method"
+                          << "FusionZoomMethod";
+}
+
+void SettingsWordsTest::wordsAreTheWindows()
+{
+    QFETCH(const QString, key);
+    QFETCH(const QString, list);
+    QStringList words;
+    for (const std::string &word : fieldOf(key).words) {
+        words.append(QString::fromStdString(word));
+    }
+    QCOMPARE(words, choicesOf(list));
+}
+
+void SettingsWordsTest::everyNumberHasOneWord()
+{
+    int named{0};
+    const std::vector<Setting> table{deviceTable()};
+    for (const Place &place : placesOf(table)) {
+        const Field &field = place.setting->fields[place.field];
+        if (field.words.empty()) {
+            continue;
+        }
+        ++named;
+        QCOMPARE(field.allowed.minimum, 0.0);
+        QCOMPARE(field.allowed.maximum, static_cast<double>(field.words.size() - 1));
+        for (std::size_t number{0}; number < field.words.size(); ++number) {
+            QCOMPARE(numberOf(field, field.words[number]), std::optional{static_cast<double>(number)});
+        }
+    }
+    QCOMPARE(named, 8);
+}
+
+void SettingsWordsTest::saysNumbers_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<double>("number");
+    QTest::addColumn<QString>("words");
+    const auto row = [](const char *key, double number, const char *words) {
+        QTest::addRow("%s %s", key, words) << QString{key} << number << QString{words};
+    };
+    row("camera.gamma", 65536, "65536 (1)");
+    row("camera.gamma", 144179, "144179 (2.2)");
+    row("camera.gamma", 4294967295, "4294967295 (65536)");
+    row("camera.colorLut", 7, "7 (greyscale-ycbcr)");
+    row("camera.colorLut", 8, "8");
+    row("camera.polarity", 1, "true");
+    row("camera.clhe", 2000, "2000");
+    row("camera.temperatures.sensorMillikelvin", 296650, "296650 (23.5 degrees C)");
+    row("camera.temperatures.sensorMillikelvin", 0, "0 (-273.15 degrees C)");
+    row("camera.temperatures.sensorMillikelvin", qQNaN(), "nan");
+    row("camera.temperatures.sensorMillikelvin", qInf(), "inf");
+    row("camera.operatingInfo.operatingMinutes", 73415, "73415 (1223.6 h)");
+}
+
+void SettingsWordsTest::saysNumbers()
+{
+    QFETCH(const QString, key);
+    QFETCH(const double, number);
+    QFETCH(const QString, words);
+    QCOMPARE(QString::fromStdString(numberInWords(fieldOf(key), number)), words);
+}
+
+void SettingsWordsTest::understandsTexts_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<double>("number"); ///< A NaN: it is none.
+    const auto row = [](const char *key, const char *text, double number) {
+        QTest::addRow("%s %s", key, text) << QString{key} << QString{text} << number;
+    };
+    row("camera.gamma", "2.2", 144179);
+    row("camera.gamma", "0.5", 32768);
+    row("camera.gamma", "2.5", 163840);
+    row("camera.gamma", "2.51", 2.51);
+    row("camera.gamma", "32768", 32768);
+    row("camera.gamma", "3", 3);
+    row("camera.gamma", "", qQNaN());
+    row("camera.gamma", "2,2", qQNaN());
+    row("camera.gamma", "2.2 ", qQNaN());
+    row("camera.gamma", "nan", qQNaN());
+    row("camera.gamma", "inf", qQNaN());
+    row("camera.gamma", "1e999", qQNaN());
+    row("camera.gamma", "0x10000", qQNaN());
+    row("camera.colorLut", "Iron", 1);
+    row("camera.colorLut", "1", 1);
+    row("camera.colorLut", "steel", qQNaN());
+    row("camera.polarity", "on", 1);
+    row("camera.polarity", "No", 0);
+    row("camera.polarity", "true", 1);
+    row("camera.polarity", "1", 1);
+    row("camera.clhe", "on", qQNaN());
+    row("blendUnit.warp0.a11", "-12", -12);
+    row("blendUnit.zoom.factor", "2.5", 2.5);
+}
+
+void SettingsWordsTest::understandsTexts()
+{
+    QFETCH(const QString, key);
+    QFETCH(const QString, text);
+    QFETCH(const double, number);
+    QVERIFY(same(numberOf(fieldOf(key), text.toStdString()).value_or(qQNaN()), number));
+}
+
+void SettingsWordsTest::tellsRanges_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("range");
+    const auto row = [](const char *key, const char *range) {
+        QTest::addRow("%s", key) << QString{key} << QString{range};
+    };
+    row("camera.gamma", "0.5 to 2.5, or 32768 to 163840");
+    row("camera.edgeCorrection.type", "none, sharpening or contouring, or 0 to 2");
+    row("camera.frameRate", "9, 25, 30, 50 or 60");
+    row("camera.polarity", "true or false");
+    row("camera.gfid", "0 to 1000");
+    row("camera.edgeCorrection.secondThreshold", "0 or more");
+}
+
+void SettingsWordsTest::tellsRanges()
+{
+    QFETCH(const QString, key);
+    QFETCH(const QString, range);
+    QCOMPARE(QString::fromStdString(rangeText(fieldOf(key))), range);
+}
+
+void SettingsWordsTest::theSimulatorsTableHasKindsAndRanges()
+{
+    QFile file{SIMULATOR_README};
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString readme{QString::fromUtf8(file.readAll())};
+    const std::vector<Setting> table{deviceTable()};
+    for (const Place &place : placesOf(table)) {
+        const Field &field = place.setting->fields[place.field];
+        const QString key{QString::fromStdString(keyOf(place)).section('.', 1)};
+        const QString row{QRegularExpression{"^\\| `" + QRegularExpression::escape(key) + "` .*$",
+                                             QRegularExpression::MultilineOption}
+                              .match(readme)
+                              .captured()};
+        const QStringList cells{row.split(" | ")};
+        QVERIFY2(cells.size() > 3, qPrintable(key));
+        QCOMPARE(cells[1], QString::fromStdString(kindName(field.kind)));
+        if (!place.setting->write || field.derived) {
+            continue;
+        }
+        QString range{QString::fromStdString(numberText(field.allowed.minimum)) + " to " +
+                      QString::fromStdString(numberText(field.allowed.maximum))};
+        if (field.kind == Kind::Boolean) {
+            range = "both";
+        } else if (!field.allowed.only.empty()) {
+            range = QString::fromStdString(rangeText(field)).replace(" or ", ", ");
+        } else if (cells[2].startsWith("`configuration.")) {
+            range = "`configuration." + key + "Minimum` to `…Maximum`";
+        }
+        QCOMPARE(cells[2], range);
+    }
+}
+
+PILOTEL_TEST_CLASS(SettingsWordsTest)
+#include "tst_settings_words.moc"
