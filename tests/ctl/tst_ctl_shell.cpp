@@ -124,7 +124,9 @@ void CtlShellTest::talksAtATerminal()
     terminal.type("\x1b[A\x1b[A\n");
     QVERIFY2(terminal.waitFor("camera.clhe = 2000\r\npilotel> "), terminal.seen());
     // Ctrl-C takes back what was typed; Ctrl-D ends.
-    terminal.type("get no\x03");
+    terminal.type("get no");
+    QVERIFY2(terminal.waitFor("get no"), terminal.seen());
+    terminal.type("\x03");
     QVERIFY2(terminal.waitFor("\r\npilotel> "), terminal.seen());
     terminal.type("get camera.tint\n");
     QVERIFY2(terminal.waitFor("camera.tint = 10\r\npilotel> "), terminal.seen());

@@ -98,12 +98,18 @@ void CtlWatchTest::writesAFile()
 void CtlWatchTest::keepsToTheClock()
 {
     CtlFolder folder;
-    // Each reading takes longer than the clock may be wrong in the end.
+    // A clock that waited after each reading would go wrong by 40 ms each time.
     folder.play("[link]\nkind = \"fixed\"\nmillisecondsPerCall = 10\n");
-    const Outcome outcome{folder.run({"watch", "temperatures", "--every", "100ms", "--count", "21"})};
-    const QVector<QDateTime> times{timesOf(outcome.output.split('\n').mid(1, 21))};
-    const qint64 taken{times.first().msecsTo(times.last())};
-    QVERIFY2(taken >= 1900 && taken < 2200, qPrintable(QString::number(taken)));
+    const Outcome outcome{folder.run({"watch", "temperatures", "--every", "200ms", "--count", "16"})};
+    const QVector<QDateTime> times{timesOf(outcome.output.split('\n').mid(1, 16))};
+    QCOMPARE(times.size(), 16);
+    // A busy machine makes single readings late, or leaves some out, but not most of them.
+    int onTime{0};
+    for (const QDateTime &time : times) {
+        onTime += times.first().msecsTo(time) % 200 < 50 || times.first().msecsTo(time) % 200 > 190 ? 1 : 0;
+    }
+    QVERIFY2(onTime >= 11, qPrintable(outcome.output));
+    QVERIFY(times.first().msecsTo(times.last()) >= 2900);
 }
 
 void CtlWatchTest::leavesOutTimesThatHavePassed()
@@ -112,9 +118,9 @@ void CtlWatchTest::leavesOutTimesThatHavePassed()
     folder.play("[link]\nkind = \"fixed\"\nmillisecondsPerCall = 40\n");
     const Outcome outcome{folder.run({"watch", "temperatures", "--every", "100ms", "--count", "4"})};
     const QVector<QDateTime> times{timesOf(outcome.output.split('\n').mid(1, 4))};
+    QCOMPARE(times.size(), 4);
     // A reading takes 160 ms, so that every second time is left out.
-    const qint64 taken{times[1].msecsTo(times[3])};
-    QVERIFY2(taken >= 380 && taken < 600, qPrintable(QString::number(taken)));
+    QVERIFY2(times[1].msecsTo(times[3]) >= 380, qPrintable(outcome.output));
 }
 
 void CtlWatchTest::refusesWrongTimes_data()
