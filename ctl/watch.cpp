@@ -26,7 +26,6 @@
 #include <thread>
 #include <vector>
 
-using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
 namespace ctl
@@ -113,7 +112,8 @@ public:
             }
             takeSample();
             const auto passed = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start);
-            tick = std::max<std::int64_t>(tick + 1, (passed + watch.every - 1ms) / watch.every);
+            tick = std::max<std::int64_t>(tick + 1, (passed + watch.every - std::chrono::milliseconds{1}) /
+                                                        watch.every);
         }
         return result();
     }
@@ -148,7 +148,7 @@ private:
     /// False when the program is interrupted meanwhile.
     static bool waitUntil(Clock::time_point time)
     {
-        constexpr auto longestPause = 50ms;
+        constexpr std::chrono::milliseconds longestPause{50};
         while (!wasInterrupted() && Clock::now() < time) {
             std::this_thread::sleep_for(std::min<Clock::duration>(time - Clock::now(), longestPause));
         }
