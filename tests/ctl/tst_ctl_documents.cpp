@@ -89,6 +89,23 @@ QString escaped(QString text)
     return text.replace('\\', "\\e").replace('-', "\\-");
 }
 
+/// A line feed in place of the last space that keeps a line within the 80 bytes of a manual page.
+QString inLines(const QString &text)
+{
+    constexpr int longest{80};
+    QString lines;
+    int length{0};
+    for (const QString &word : text.split(' ')) {
+        const bool starts{lines.isEmpty() || length + 1 + word.size() > longest};
+        if (!lines.isEmpty()) {
+            lines += starts ? '\n' : ' ';
+        }
+        lines += word;
+        length = starts ? word.size() : length + 1 + word.size();
+    }
+    return lines;
+}
+
 /// What the manual page says of every setting that can be set.
 QString settingsOfManualPage()
 {
@@ -101,8 +118,9 @@ QString settingsOfManualPage()
         const QJsonObject setting{settings[row].toObject()};
         const QString range{rows[row + 1].section("  ", -1).trimmed()};
         if (setting["canBeSet"].toBool()) {
-            text += ".It Cm " + setting["name"].toString() + '\n' + escaped(setting["meaning"].toString()) +
-                    ":\n" + escaped(range) + ".\n";
+            text += ".It Cm " + setting["name"].toString() + '\n' +
+                    inLines(escaped(setting["meaning"].toString()) + ':') + '\n' +
+                    inLines(escaped(range) + '.') + '\n';
         }
     }
     return text;
