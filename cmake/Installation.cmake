@@ -40,6 +40,7 @@ endfunction()
 
 pilotel_install_program(pilotel pilotel ${CMAKE_INSTALL_BINDIR})
 pilotel_install_program(pilotel-sdk-check pilotel-tools ${CMAKE_INSTALL_BINDIR})
+pilotel_install_program(pilotel-ctl pilotel-tools ${CMAKE_INSTALL_BINDIR})
 if(TARGET pilotel-tour)
     # Not for operators: it shows on a machine without a display that the window works.
     pilotel_install_program(pilotel-tour pilotel-tools ${CMAKE_INSTALL_LIBEXECDIR}/pilotel $ORIGIN/../local/lib/pilotel
@@ -68,8 +69,14 @@ install(
     COMPONENT pilotel
 )
 install(
-    FILES packaging/linux/man/pilotel-sdk-check.1
+    FILES packaging/linux/man/pilotel-ctl.1 packaging/linux/man/pilotel-sdk-check.1
     DESTINATION ${CMAKE_INSTALL_MANDIR}/man1
+    COMPONENT pilotel-tools
+)
+# Bash finds it there by the name of the program.
+install(
+    FILES packaging/linux/bash-completion/pilotel-ctl
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
     COMPONENT pilotel-tools
 )
 install(
@@ -115,7 +122,7 @@ install(
 )
 
 install(
-    FILES CHANGELOG.md docs/user-guide.md docs/sdk-check.md
+    FILES CHANGELOG.md docs/command-line.md docs/sdk-check.md docs/user-guide.md
     DESTINATION ${documentation_root}/pilotel
     COMPONENT pilotel-doc
 )
