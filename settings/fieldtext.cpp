@@ -98,14 +98,14 @@ std::string numberInWords(const Field &field, double number)
 
 std::optional<double> numberOf(const Field &field, std::string_view text)
 {
-    const std::string word{lowered(text)};
-    const auto named = std::find(field.words.begin(), field.words.end(), word);
+    const std::string lower{lowered(text)};
+    const auto named = std::find(field.words.begin(), field.words.end(), lower);
     if (named != field.words.end()) {
         return static_cast<double>(named - field.words.begin());
     }
     if (field.kind == Kind::Boolean) {
         for (const SwitchWord &known : switchWords) {
-            if (known.text == word) {
+            if (known.text == lower) {
                 return known.number;
             }
         }
