@@ -21,6 +21,7 @@ namespace
 std::vector<std::string> linkRates()
 {
     std::vector<std::string> rates;
+    rates.reserve(veltrix_sdk::linkBaudRates.size());
     for (const std::int32_t rate : veltrix_sdk::linkBaudRates) {
         rates.push_back(std::to_string(rate));
     }

@@ -72,7 +72,8 @@ char **completeWord(const char *text, int start, int /*end*/)
         currentWords().clear();
     }
     const std::vector<std::string> &words = currentWords();
-    rl_completion_append_character = words.size() == 1 && words.front().back() == '=' ? '\0' : ' ';
+    const bool isAssignment{words.size() == 1 && words.front().back() == '='};
+    rl_completion_append_character = isAssignment ? 0 : int{' '};
     return rl_completion_matches(text, nextWord);
 }
 

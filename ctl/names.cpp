@@ -66,7 +66,7 @@ std::vector<Named> allNames(Session &session)
 
 std::vector<Named> namesFor(Session &session, const std::vector<std::string> &names)
 {
-    const std::vector<Named> all{allNames(session)};
+    std::vector<Named> all{allNames(session)};
     if (names.empty()) {
         return all;
     }

@@ -207,7 +207,7 @@ Reading Session::read(Unit unit, const Setting &setting)
 
 Reading Session::readTwice(Unit unit, const Setting &setting)
 {
-    const Reading first{read(unit, setting)};
+    Reading first{read(unit, setting)};
     if (!first.fault.empty()) {
         return first;
     }

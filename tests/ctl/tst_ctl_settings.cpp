@@ -42,24 +42,38 @@ private slots:
     void showsTextOfTheDeviceWithoutControlCharacters();
 };
 
-void CtlSettingsTest::namesThePorts()
+namespace
+{
+
+QStringList portsOfHost()
 {
     QStringList names;
     for (const QSerialPortInfo &port : QSerialPortInfo::availablePorts()) {
         names.append(port.portName());
     }
+    return names;
+}
+
+} // namespace
+
+void CtlSettingsTest::namesThePorts()
+{
     const Outcome outcome{CtlFolder{}.run({"ports"})};
-    QCOMPARE(outcome.output, lines(names + QStringList{"SIM1"}));
+    QCOMPARE(outcome.output, lines(portsOfHost() + QStringList{"SIM1"}));
     QCOMPARE(outcome.errors, QString{});
     QCOMPARE(outcome.status, 0);
 }
 
 void CtlSettingsTest::saysThatThereIsNoPort()
 {
-    if (!QSerialPortInfo::availablePorts().isEmpty()) {
-        QSKIP("This host has serial ports.");
-    }
     const Outcome outcome{CtlFolder{"no-ports"}.run({"ports"})};
+    const QStringList ofHost{portsOfHost()};
+    if (!ofHost.isEmpty()) {
+        QCOMPARE(outcome.output, lines(ofHost));
+        QCOMPARE(outcome.errors, QString{});
+        QCOMPARE(outcome.status, 0);
+        return;
+    }
     QCOMPARE(outcome.output, QString{});
     QCOMPARE(outcome.errors,
              lines({"pilotel-ctl: No port found. Plug the camera in, or name a port with --port."}));
