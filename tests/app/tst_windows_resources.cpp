@@ -196,6 +196,7 @@ void WindowsResourcesTest::versionIsTold_data()
     };
     row(PROGRAM, "Pilotel Blend Unit", {"pilotel", "pilotel.exe"}, VFT_APP);
     row(CHECK, "Check of the device library", {"pilotel-sdk-check", "pilotel-sdk-check.exe"}, VFT_APP);
+    row(CTL, "Settings of the camera from the command line", {"pilotel-ctl", "pilotel-ctl.exe"}, VFT_APP);
     row(TOUR, "Guided tour of the window", {"pilotel-tour", "pilotel-tour.exe"}, VFT_APP);
     row(SDK_LIBRARY, "Simulated device library", {"veltrix_simulator", "veltrix.sdk.dll"}, VFT_DLL);
 }
@@ -238,7 +239,7 @@ void WindowsResourcesTest::manifestIsThere_data()
 {
     QTest::addColumn<QString>("file");
     QTest::addColumn<QByteArray>("manifest");
-    for (const char *const file : {PROGRAM, CHECK, TOUR}) {
+    for (const char *const file : {PROGRAM, CHECK, CTL, TOUR}) {
         QTest::newRow(file) << QString{file} << contentOf(MANIFEST);
     }
     // It is the program's that counts.
