@@ -36,7 +36,7 @@ QString textOf(const QString &fileName)
 }
 
 /// Writes the file when whoever runs the test asks for it.
-void store(const QString &fileName, const QString &text)
+void rewrite(const QString &fileName, const QString &text)
 {
     QFile file{fileName};
     if (qEnvironmentVariableIsSet("PILOTEL_STORE_EXAMPLES") && file.open(QIODevice::WriteOnly)) {
@@ -136,7 +136,7 @@ void CtlDocumentsTest::examplesAreReal()
     const QString text{textOf(DOCUMENTS "/command-line.md")};
     QVERIFY(text.contains("```console"));
     const QString real{withRealExamples(text)};
-    store(DOCUMENTS "/command-line.md", real);
+    rewrite(DOCUMENTS "/command-line.md", real);
     const QStringList lines{withoutTimes(text).split('\n')};
     const QStringList realLines{withoutTimes(real).split('\n')};
     for (int line{0}; line < qMin(lines.size(), realLines.size()); ++line) {
@@ -153,7 +153,7 @@ void CtlDocumentsTest::manualPageHasEverySetting()
     QVERIFY(from > 0 && to > from);
     const QString settings{settingsOfManualPage()};
     QVERIFY(settings.contains(".It Cm camera.gamma\n"));
-    store(MANUAL_PAGE, text.left(from + begin.size()) + settings + text.mid(to));
+    rewrite(MANUAL_PAGE, text.left(from + begin.size()) + settings + text.mid(to));
     QCOMPARE(text.mid(from + begin.size(), to - from - begin.size()), settings);
 }
 
