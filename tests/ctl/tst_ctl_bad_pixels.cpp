@@ -146,8 +146,8 @@ void CtlBadPixelsTest::refusesWrongUse_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("error");
-    const auto row = [](const QStringList &arguments, const char *error) {
-        QTest::addRow("%s", qPrintable(arguments.join(' '))) << arguments << QString{error};
+    const auto row = [](const QStringList &arguments, const QString &error) {
+        QTest::addRow("%s", qPrintable(arguments.join(' '))) << arguments << error;
     };
     row({"add"}, "Name pixels as COLUMN,ROW from 0,0 to 639,479, or --row or --column.");
     row({"add", "640,0"}, "\"640,0\" is no pixel: COLUMN,ROW from 0,0 to 639,479 is allowed");
@@ -155,8 +155,13 @@ void CtlBadPixelsTest::refusesWrongUse_data()
     row({"add", "1"}, "\"1\" is no pixel: COLUMN,ROW from 0,0 to 639,479 is allowed");
     row({"add", "1,2,3"}, "\"1,2,3\" is no pixel: COLUMN,ROW from 0,0 to 639,479 is allowed");
     row({"add", "99999999999,2"}, "\"99999999999,2\" is no pixel: COLUMN,ROW from 0,0 to 639,479 is allowed");
+#if defined(Q_OS_WIN)
+    const QString ofSystem{"File not found."};
+#else
+    const QString ofSystem{"No such file or directory"};
+#endif
     row({"list", "none.bin"},
-        "none.bin: No such file or directory; \"pilotel-ctl bad-pixels read\" fetches the table of a unit");
+        "none.bin: " + ofSystem + "; \"pilotel-ctl bad-pixels read\" fetches the table of a unit");
     row({"list", "text.bin"}, "text.bin: it is no table of bad pixels");
 }
 
