@@ -127,7 +127,12 @@ void CtlShellTest::talksAtATerminal()
     terminal.type("get no");
     QVERIFY2(terminal.waitFor("get no"), terminal.seen());
     terminal.type("\x03");
-    QVERIFY2(terminal.waitFor("\r\npilotel> "), terminal.seen());
+    if (!terminal.waitFor("\r\npilotel> ")) {
+        // On a busy machine it may come while the last key is still being drawn, and is then taken with the
+        // next one.
+        terminal.type("\x03");
+        QVERIFY2(terminal.waitFor("\r\npilotel> "), terminal.seen());
+    }
     terminal.type("get camera.tint\n");
     QVERIFY2(terminal.waitFor("camera.tint = 10\r\npilotel> "), terminal.seen());
     terminal.type("\x04");
