@@ -13,7 +13,12 @@
 #include <utility>
 
 #if defined(PILOTEL_HAS_LINE_EDITOR)
+#include <cerrno>
+#include <csignal>
+#include <cwchar>
 #include <editline/readline.h>
+#include <poll.h>
+#include <sys/signalfd.h>
 #endif
 #if defined(_WIN32)
 #include <io.h>
@@ -51,6 +56,74 @@ std::vector<std::string> &currentWords()
     return words;
 }
 
+/// Ctrl-C and its like wait for the end of the line, and whoever waits for keys is woken by them: one that
+/// comes while the line is drawn is not lost. They are noted when this ends.
+class WaitingSignals
+{
+public:
+    WaitingSignals()
+    {
+        sigset_t waiting;
+        ::sigemptyset(&waiting);
+        for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+            ::sigaddset(&waiting, signal);
+        }
+        ::sigprocmask(SIG_BLOCK, &waiting, &before);
+        descriptor() = ::signalfd(-1, &waiting, SFD_CLOEXEC);
+    }
+    ~WaitingSignals()
+    {
+        ::close(descriptor());
+        ::sigprocmask(SIG_SETMASK, &before, nullptr);
+    }
+    WaitingSignals(const WaitingSignals &) = delete;
+    WaitingSignals &operator=(const WaitingSignals &) = delete;
+
+    /// Waits for a key; false when a signal came instead.
+    static bool waitForKey()
+    {
+        pollfd ready[]{{STDIN_FILENO, POLLIN, 0}, {descriptor(), POLLIN, 0}};
+        // A window that changes its size, and a program that goes on after Ctrl-Z, wake it as well.
+        while (::poll(ready, 2, -1) < 0) {
+            if (errno != EINTR) {
+                return false;
+            }
+        }
+        return ready[1].revents == 0;
+    }
+
+private:
+    /// The library asks for keys without an object.
+    static int &descriptor()
+    {
+        static int opened{-1};
+        return opened;
+    }
+
+    sigset_t before{};
+};
+
+/// The next letter, of one byte or several; -1 at the end of the input or for a signal.
+int nextKey(FILE * /*input*/)
+{
+    std::mbstate_t state{};
+    for (;;) {
+        char byte{};
+        if (!WaitingSignals::waitForKey() || ::read(STDIN_FILENO, &byte, 1) != 1) {
+            return -1;
+        }
+        wchar_t letter{};
+        const std::size_t size{std::mbrtowc(&letter, &byte, 1, &state)};
+        constexpr std::size_t begun{static_cast<std::size_t>(-2)};
+        constexpr std::size_t damaged{static_cast<std::size_t>(-1)};
+        if (size == damaged) {
+            state = {};
+        } else if (size != begun) {
+            return static_cast<int>(letter);
+        }
+    }
+}
+
 char *nextWord(const char * /*text*/, int state)
 {
     static std::size_t next{0};
@@ -84,6 +157,7 @@ LineEditor::LineEditor(Complete complete)
     static constexpr const char *wordEnds{" \t\n"};
     currentComplete() = std::move(complete);
     rl_readline_name = "pilotel-ctl";
+    rl_getc_function = nextKey;
     rl_attempted_completion_function = completeWord;
     rl_basic_word_break_characters = wordEnds;
 }
@@ -96,7 +170,10 @@ LineEditor::~LineEditor()
 
 std::optional<std::string> LineEditor::read(const char *prompt)
 {
-    char *const typed{::readline(prompt)};
+    char *const typed{[prompt] {
+        const WaitingSignals waiting;
+        return ::readline(prompt);
+    }()};
     if (typed == nullptr) {
         const bool interrupted{wasInterrupted()};
         forgetCtrlC();

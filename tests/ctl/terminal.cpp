@@ -10,6 +10,7 @@
 #include <poll.h>
 #include <pty.h>
 #include <sys/wait.h>
+#include <termios.h>
 #include <unistd.h>
 #include <vector>
 
@@ -22,6 +23,7 @@ constexpr int longestWait{10'000};
 std::vector<char *> pointersTo(std::vector<QByteArray> &texts)
 {
     std::vector<char *> pointers;
+    pointers.reserve(texts.size() + 1);
     for (QByteArray &text : texts) {
         pointers.push_back(text.data());
     }
@@ -63,7 +65,7 @@ Terminal::~Terminal()
     ::close(terminal);
 }
 
-void Terminal::type(const QByteArray &keys)
+void Terminal::type(const QByteArray &keys) const
 {
     if (::write(terminal, keys.constData(), static_cast<std::size_t>(keys.size())) != keys.size()) {
         qFatal("nothing can be typed");
@@ -97,6 +99,20 @@ bool Terminal::waitFor(const QByteArray &text)
         }
         read(50);
     }
+    return false;
+}
+
+bool Terminal::waitForKeyByKey()
+{
+    QElapsedTimer timer;
+    timer.start();
+    termios modes{};
+    do {
+        read(1);
+        if (::tcgetattr(terminal, &modes) == 0 && (modes.c_lflag & ICANON) == 0) {
+            return true;
+        }
+    } while (!timer.hasExpired(longestWait));
     return false;
 }
 

@@ -19,9 +19,11 @@ public:
     Terminal(const Terminal &) = delete;
     Terminal &operator=(const Terminal &) = delete;
 
-    void type(const QByteArray &keys);
+    void type(const QByteArray &keys) const;
     /// Waits until a text appears behind the one that was last waited for; false after ten seconds.
     bool waitFor(const QByteArray &text);
+    /// Waits until the program reads key by key: before that Ctrl-D is an end of input, not a key.
+    bool waitForKeyByKey();
     /// Everything that the terminal has shown.
     QByteArray seen() const { return shown; }
     /// Waits for the end of the program; its exit status, or -1.

@@ -24,6 +24,8 @@ private slots:
     void stopsAtTheFirstFailure();
     void hasNoShellInTheShell();
     void talksAtATerminal();
+    void takesBackALineAtCtrlC_data();
+    void takesBackALineAtCtrlC();
     void completesAtATerminal();
     void opensTheDeviceAgain();
     void colorsOnATerminalOnly();
@@ -126,6 +128,35 @@ void CtlShellTest::talksAtATerminal()
     terminal.type("get camera.tint\n");
     QVERIFY2(terminal.waitFor("camera.tint = 10\r\npilotel> "), terminal.seen());
     // Ctrl-D ends.
+    QVERIFY(terminal.waitForKeyByKey());
+    terminal.type("\x04");
+    QCOMPARE(terminal.end(), 0);
+}
+
+void CtlShellTest::takesBackALineAtCtrlC_data()
+{
+    QTest::addColumn<QByteArray>("typed");
+    // Together with the keys before it Ctrl-C comes while the line is drawn.
+    QTest::newRow("an empty line") << QByteArray{"\x03"};
+    QTest::newRow("a word") << QByteArray{"get no\x03"};
+    QTest::newRow("a letter of two bytes") << QByteArray{"get \xc3\xa9\x03"};
+    QTest::newRow("twice") << QByteArray{"get no\x03\x03"};
+}
+
+void CtlShellTest::takesBackALineAtCtrlC()
+{
+    QFETCH(const QByteArray, typed);
+    CtlFolder folder;
+    Terminal terminal{CTL, {"shell"}, folder.environment};
+    for (int times{0}; times < 20; ++times) {
+        QVERIFY2(terminal.waitFor("pilotel> "), terminal.seen());
+        terminal.type(typed);
+        QVERIFY2(terminal.waitFor("\r\n"), terminal.seen());
+    }
+    QVERIFY2(terminal.waitFor("pilotel> "), terminal.seen());
+    terminal.type("get camera.clhe\n");
+    QVERIFY2(terminal.waitFor("camera.clhe = 2000\r\npilotel> "), terminal.seen());
+    QVERIFY(terminal.waitForKeyByKey());
     terminal.type("\x04");
     QCOMPARE(terminal.end(), 0);
 }
