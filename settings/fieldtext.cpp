@@ -125,7 +125,7 @@ std::string rangeText(const Field &field)
     if (field.kind == Kind::Boolean) {
         return "true or false";
     }
-    const std::string range{withoutEnd(describe(field.allowed), " is allowed")};
+    std::string range{withoutEnd(describe(field.allowed), " is allowed")};
     if (!field.words.empty()) {
         return enumerated(field.words) + ", or " + range;
     }

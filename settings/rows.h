@@ -264,32 +264,32 @@ Setting record(const char *key, UsedOn usedOn, Operation<Get> get, Operation<Set
 }
 
 /// A setting of one number whose numbers have names.
-inline Setting called(Setting setting, std::vector<std::string> words)
+inline Setting called(Setting setting, const std::vector<std::string> &words)
 {
-    setting.fields.front().words = std::move(words);
+    setting.fields.front().words = words;
     return setting;
 }
 
 /// The same of one number of a record.
 template <typename Record>
-RecordField<Record> called(RecordField<Record> number, std::vector<std::string> words)
+RecordField<Record> called(RecordField<Record> number, const std::vector<std::string> &words)
 {
-    number.field.words = std::move(words);
+    number.field.words = words;
     return number;
 }
 
 /// A setting of one number that operators count otherwise.
-inline Setting counted(Setting setting, Scale scale)
+inline Setting counted(Setting setting, const Scale &scale)
 {
-    setting.fields.front().scale = std::move(scale);
+    setting.fields.front().scale = scale;
     return setting;
 }
 
 /// The same of one number of a record.
 template <typename Record>
-RecordField<Record> counted(RecordField<Record> number, Scale scale)
+RecordField<Record> counted(RecordField<Record> number, const Scale &scale)
 {
-    number.field.scale = std::move(scale);
+    number.field.scale = scale;
     return number;
 }
 

@@ -73,7 +73,8 @@ QStringList CtlFolder::calls() const
             continue;
         }
         QStringList arguments;
-        for (const QJsonValue &argument : call["arguments"].toArray()) {
+        const QJsonArray given = call["arguments"].toArray();
+        for (const QJsonValue &argument : given) {
             arguments.append(textOf(argument));
         }
         calls.append(call["operation"].toString() + '(' + arguments.join(", ") + ')');

@@ -211,9 +211,9 @@ void CtlProfilesTest::refusesAWrongFile_data()
         QTest::newRow(name) << text << QString{error};
     };
     row("unknown", "[camera]\ngama = 1\n",
-        "p.toml:2:1: \"camera.gama\" is no setting of a profile; did you mean \"camera.gamma\"?");
+        R"(p.toml:2:1: "camera.gama" is no setting of a profile; did you mean "camera.gamma"?)");
     row("another part of a scenario", "[link]\nkind = \"none\"\n",
-        "p.toml:1:2: \"link\" is no setting of a profile; \"pilotel-ctl list\" tells all of them");
+        R"(p.toml:1:2: "link" is no setting of a profile; "pilotel-ctl list" tells all of them)");
     row("out of range", "[camera]\nclhe = 30001\n",
         "p.toml:2:8: 30001 is nothing for camera.clhe: 0 to 30000 is allowed");
     row("a text", "[camera]\ncolorLut = \"iron\"\n",

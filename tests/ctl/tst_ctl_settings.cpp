@@ -131,7 +131,8 @@ void CtlSettingsTest::listsAsJson()
     QCOMPARE(document["port"].toString(), QString{"SIM1"});
     QJsonObject gamma;
     QJsonObject polarity;
-    for (const QJsonValue &setting : document["settings"].toArray()) {
+    const QJsonArray settings = document["settings"].toArray();
+    for (const QJsonValue &setting : settings) {
         if (setting["name"] == "camera.gamma") {
             gamma = setting.toObject();
         } else if (setting["name"] == "camera.polarity") {
@@ -234,15 +235,15 @@ void CtlSettingsTest::refusesWrongUse_data()
     const auto row = [](const QStringList &arguments, const QStringList &errors) {
         QTest::addRow("%s", qPrintable(arguments.join(' '))) << arguments << errors;
     };
-    const char *const help{"Try \"pilotel-ctl --help\"."};
+    const char *const help{R"(Try "pilotel-ctl --help".)"};
     row({}, {"A subcommand is required", help});
-    row({"gett"}, {"There is no command \"gett\"; did you mean \"get\"?", help});
-    row({"--frob"}, {"There is no command \"--frob\"", help});
+    row({"gett"}, {R"(There is no command "gett"; did you mean "get"?)", help});
+    row({"--frob"}, {R"(There is no command "--frob")", help});
     row({"get"}, {"NAME is required", help});
-    row({"get", "camera.gama"}, {"There is no setting \"camera.gama\"; did you mean \"camera.gamma\"?"});
-    row({"get", "gamma"}, {"There is no setting \"gamma\"; did you mean \"camera.gamma\"?"});
+    row({"get", "camera.gama"}, {R"(There is no setting "camera.gama"; did you mean "camera.gamma"?)"});
+    row({"get", "gamma"}, {R"(There is no setting "gamma"; did you mean "camera.gamma"?)"});
     row({"get", "camera.zzzzzzzz"},
-        {"There is no setting \"camera.zzzzzzzz\"; \"pilotel-ctl list\" tells all of them"});
+        {R"(There is no setting "camera.zzzzzzzz"; "pilotel-ctl list" tells all of them)"});
     row({"get", "\x1b[31m"}, {R"(There is no setting "\x1b[31m"; "pilotel-ctl list" tells all of them)"});
     row({"set", "camera.gamma"}, {"\"camera.gamma\" is no NAME=VALUE, such as camera.gamma=2.2."});
     row({"set", "camera.gamma=3"},
