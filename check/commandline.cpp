@@ -3,8 +3,11 @@
 // The command line of the check.
 #include "commandline.h"
 
-#include <QCommandLineOption>
-#include <QCommandLineParser>
+#include "wronguse.h"
+
+#include <CLI/CLI.hpp>
+#include <charconv>
+#include <system_error>
 
 namespace
 {
@@ -18,50 +21,48 @@ constexpr const char *description{
     "Without --write it only reads; of the commands it calls setBaudRate with the default, setTarget and\n"
     "startReading. With --write it sets each setting to another value and back. It never calls what outlasts\n"
     "the power of the device: saveBlendUnitParameters, setMavlinkBaudRate, processNucRequest, readBprTable,\n"
-    "writeBprTable, addBadPixel, removeBadPixel.\n"
-    "\n"
+    "writeBprTable, addBadPixel, removeBadPixel.\n"};
+constexpr const char *footer{
     "Exit status: 0 all hold, 1 something does not or the check was interrupted, 2 wrong usage or no port."};
 
-/// The number of rounds; 0 when the text is none.
-int roundsOf(const QString &text)
+/// Empty for a number of rounds, else why it is none.
+std::string whyNoRounds(const std::string &text)
 {
-    bool isNumber{false};
-    const int rounds{text.toInt(&isNumber)};
-    return isNumber && rounds >= 1 && rounds <= mostRounds ? rounds : 0;
+    int rounds{0};
+    const char *const end{text.data() + text.size()};
+    const auto [stop, error] = std::from_chars(text.data(), end, rounds);
+    const bool isRounds{error == std::errc{} && stop == end && rounds >= 1 && rounds <= mostRounds};
+    return isRounds ? "" : '"' + text + "\" is no number from 1 to " + std::to_string(mostRounds);
 }
 
 } // namespace
 
-CommandLine parseCommandLine(const QStringList &arguments)
+CommandLine parseCommandLine(const std::vector<std::string> &words)
 {
-    const QCommandLineOption port{"port", "The port of the device, such as COM3, ttyUSB0 or SIM1.", "name"};
-    const QCommandLineOption write{
-        "write",
-        "Also sets each setting to another allowed value, reads it and puts back what was there, after Ctrl-C as well."};
-    const QCommandLineOption repeat{
-        "repeat", QString{"Reads everything so many times, 1 to %1; 3 if not given."}.arg(mostRounds),
-        "count", "3"};
-    const QCommandLineOption json{"json", "Writes one JSON document instead of lines."};
-    const QCommandLineOption help{QStringList{"h", "help"}, "Shows this text."};
-
-    QCommandLineParser parser;
-    parser.setApplicationDescription(description);
-    parser.addOptions({port, write, repeat, json, help});
-
     CommandLine line;
-    const bool parsed{parser.parse(arguments)};
-    line.helpText = parser.helpText();
-    line.help = parsed && parser.isSet(help);
-    line.options = {parser.value(port).toStdString(), parser.isSet(write), roundsOf(parser.value(repeat)),
-                    parser.isSet(json)};
-    if (!parsed) {
-        line.error = parser.errorText();
-    } else if (!parser.positionalArguments().isEmpty()) {
-        line.error = "Not understood: " + parser.positionalArguments().join(' ');
-    } else if (line.options.rounds == 0) {
-        line.error = QString{"--repeat takes a number from 1 to %1."}.arg(mostRounds);
-    } else if (parser.isSet(port) && line.options.port.empty()) {
-        line.error = "--port takes the name of a port.";
+    CLI::App parser{description, "pilotel-sdk-check"};
+    parser.footer(footer);
+    parser.set_help_flag("-h,--help", "Shows this text");
+    parser.add_option("--port", line.options.port, "The port of the device, such as COM3, ttyUSB0 or SIM1")
+        ->type_name("NAME")
+        ->take_last()
+        ->check([](const std::string &port) { return port.empty() ? "a port has a name" : ""; });
+    parser.add_flag(
+        "--write", line.options.write,
+        "Also sets each setting to another allowed value, reads it and puts back\nwhat was there, after Ctrl-C as well");
+    parser
+        .add_option("--repeat", line.options.rounds,
+                    "Reads everything so many times, 1 to " + std::to_string(mostRounds) + "; 3 if not given")
+        ->type_name("N")
+        ->take_last()
+        ->check(whyNoRounds);
+    parser.add_flag("--json", line.options.json, "Writes one JSON document instead of lines");
+    try {
+        parser.parse(std::vector<std::string>(words.rbegin(), words.rend()));
+    } catch (const CLI::CallForHelp &) {
+        line.help = parser.help();
+    } catch (const CLI::ParseError &error) {
+        line.error = sdk_check::wrongUseText(parser, error);
     }
     return line;
 }

@@ -5,17 +5,16 @@
 
 #include "check.h"
 
-#include <QString>
-#include <QStringList>
+#include <string>
+#include <vector>
 
 /// What the command line asks for.
 struct CommandLine
 {
     sdk_check::Options options; ///< The port is empty where none is named.
-    bool help{false};
-    QString error; ///< One line about what is wrong; empty when nothing is.
-    QString helpText;
+    std::string help;           ///< What --help shows; empty when it is not asked for.
+    std::string error;          ///< Lines about what is wrong; empty when nothing is.
 };
 
-/// Reads the arguments; one that is not known, or too much, is an error.
-CommandLine parseCommandLine(const QStringList &arguments);
+/// Reads the words behind the name of the program; one that is not known, or too much, is an error.
+CommandLine parseCommandLine(const std::vector<std::string> &words);

@@ -6,6 +6,7 @@
 #include "escaped.h"
 #include "interruption.h"
 #include "portnames.h"
+#include "telling.h"
 #include "veltrix_sdk/sdk.h"
 
 #include <QCoreApplication>
@@ -15,9 +16,20 @@
 
 #include <iostream>
 #include <ostream>
+#include <string>
+#include <vector>
 
 namespace
 {
+
+std::vector<std::string> wordsOf(const QStringList &arguments)
+{
+    std::vector<std::string> words;
+    for (const QString &argument : arguments.mid(1)) {
+        words.push_back(argument.toStdString());
+    }
+    return words;
+}
 
 void listPorts(std::ostream &out)
 {
@@ -36,15 +48,14 @@ void listPorts(std::ostream &out)
 int main(int argc, char *argv[])
 {
     const QCoreApplication application{argc, argv};
-    const CommandLine line = parseCommandLine(QCoreApplication::arguments());
-    if (!line.error.isEmpty()) {
-        std::cerr << sdk_check::escaped(line.error.toStdString()) << "\n\n"
-                  << line.helpText.toStdString() << std::flush;
+    const CommandLine line{parseCommandLine(wordsOf(QCoreApplication::arguments()))};
+    if (!line.error.empty()) {
+        sdk_check::tell("pilotel-sdk-check", line.error);
         return sdk_check::wrongUsage;
     }
-    if (line.help) {
-        std::cout << line.helpText.toStdString() << std::flush;
-        return 0;
+    if (!line.help.empty()) {
+        std::cout << line.help << std::flush;
+        return sdk_check::allHold;
     }
     if (line.options.port.empty()) {
         listPorts(std::cout);

@@ -13,7 +13,7 @@ foreach(
     # What is generated has an absolute name and does not count.
     list(FILTER sources INCLUDE REGEX "^[^/].*\\.cpp$")
     foreach(source IN LISTS sources)
-        file(STRINGS ${directory}/${source} exceptions REGEX "(^|[^a-z])(throw|try|catch)[ ;(]")
+        file(STRINGS ${directory}/${source} exceptions REGEX "(^|[^a-z])(throw|try|catch)[ ;(]|<CLI/")
         list(FILTER exceptions EXCLUDE REGEX "^ *//")
         if(NOT exceptions)
             set_source_files_properties(

@@ -3,10 +3,9 @@
 // The command line: which command with what, for the program and for each line of its shell.
 #include "commandline.h"
 
-#include "escaped.h"
-#include "output/wording.h"
 #include "shell.h"
 #include "veltrix_sdk/numbers.h"
+#include "wronguse.h"
 
 #include <algorithm>
 #include <iostream>
@@ -237,23 +236,6 @@ constexpr const char *footer{
 
 } // namespace
 
-namespace
-{
-
-/// What to say about the first word that is neither an option nor a command.
-std::string unknownWord(const CLI::App &parser, const std::string &word)
-{
-    std::vector<std::string> known;
-    for (const CLI::App *const command : parser.get_subcommands({})) {
-        known.push_back(command->get_name());
-    }
-    const std::string near{veltrix_simulator::nearest(word, known)};
-    return "There is no command \"" + sdk_check::escaped(word) + '"' +
-           (near.empty() ? "" : "; did you mean \"" + near + "\"?") + "\nTry \"pilotel-ctl --help\".";
-}
-
-} // namespace
-
 void addCommands(CLI::App &parser, Arguments &arguments, Command &command, TypedIn where)
 {
     Builder{parser, arguments, command}.addAll(where);
@@ -272,11 +254,7 @@ Command parse(const std::vector<std::string> &words, Arguments &arguments, Typed
         parser.exit(asked, std::cout, std::cerr);
         return {};
     } catch (const CLI::ParseError &error) {
-        const std::vector<std::string> unknown{parser.remaining()};
-        if (parser.get_subcommands().empty() && !unknown.empty()) {
-            throw Failure{wrongUse, unknownWord(parser, unknown.front())};
-        }
-        throw Failure{wrongUse, sdk_check::escaped(error.what()) + "\nTry \"pilotel-ctl --help\"."};
+        throw Failure{wrongUse, sdk_check::wrongUseText(parser, error)};
     }
     return command;
 }

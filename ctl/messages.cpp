@@ -4,37 +4,15 @@
 #include "messages.h"
 
 #include "fieldtext.h"
-#include "progress.h"
+#include "telling.h"
 #include "values.h"
-
-#include <cstdlib>
-#include <iostream>
-#include <sstream>
 
 namespace ctl
 {
 
-namespace
-{
-
-/// Whether the name of the program is red: on a terminal, unless its user wants no colours.
-bool isColoured()
-{
-    const char *const noColour{std::getenv("NO_COLOR")};
-    return errorsAreWatched() && (noColour == nullptr || *noColour == '\0');
-}
-
-} // namespace
-
 void tell(const std::string &text)
 {
-    const char *const begin{isColoured() ? "\x1b[31mpilotel-ctl:\x1b[0m " : "pilotel-ctl: "};
-    std::cout << std::flush;
-    std::istringstream lines{text};
-    for (std::string line; std::getline(lines, line);) {
-        std::cerr << begin << line << '\n';
-    }
-    std::cerr << std::flush;
+    sdk_check::tell("pilotel-ctl", text);
 }
 
 void writeAssignment(std::ostream &out, const std::string &name, const device_settings::Field &field,

@@ -3,30 +3,18 @@
 // A bar on the terminal while something takes longer than a second.
 #include "progress.h"
 
-#include <iostream>
+#include "telling.h"
 
-#if defined(_WIN32)
-#include <io.h>
-#else
-#include <unistd.h>
-#endif
+#include <iostream>
 
 namespace ctl
 {
 
-bool errorsAreWatched()
-{
-#if defined(_WIN32)
-    return _isatty(2) != 0;
-#else
-    return ::isatty(STDERR_FILENO) != 0;
-#endif
-}
-
 void Progress::step()
 {
     ++steps;
-    if (std::chrono::steady_clock::now() - start < std::chrono::seconds{1} || !errorsAreWatched()) {
+    if (std::chrono::steady_clock::now() - start < std::chrono::seconds{1} ||
+        !sdk_check::errorsAreWatched()) {
         return;
     }
     constexpr std::size_t width{30};

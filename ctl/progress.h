@@ -10,9 +10,6 @@
 namespace ctl
 {
 
-/// Whether somebody watches standard error.
-bool errorsAreWatched();
-
 /// Drawn on standard error after the first second, if that is a terminal; wiped out at the end.
 class Progress
 {

@@ -237,14 +237,16 @@ void SdkCheckProcessTest::refusesWrongArguments_data()
     const auto row = [](const QStringList &arguments, const char *error) {
         QTest::addRow("%s", qPrintable(arguments.join(' '))) << arguments << QString{error};
     };
-    row({"--wirte"}, "Unknown option 'wirte'.");
-    row({"--port"}, "Missing value after '--port'.");
-    row({"--port", ""}, "--port takes the name of a port.");
-    row({"SIM1"}, "Not understood: SIM1");
-    row({"--port", "SIM1", "\x1b[31m"}, R"(Not understood: \x1b[31m)");
-    row({"--port", "SIM1", "--repeat", "0"}, "--repeat takes a number from 1 to 10000.");
-    row({"--port", "SIM1", "--repeat", "10001"}, "--repeat takes a number from 1 to 10000.");
-    row({"--port", "SIM1", "--repeat", "many"}, "--repeat takes a number from 1 to 10000.");
+    row({"--wirte"}, R"(There is no option "--wirte"; did you mean "--write"?)");
+    row({"--frobnicate=yes"}, R"(There is no option "--frobnicate")");
+    row({"--port"}, "--port needs a value");
+    row({"--port", ""}, "--port: a port has a name");
+    row({"SIM1"}, R"("SIM1" is too much.)");
+    row({"--port", "SIM1", "\x1b[31m"}, R"("\x1b[31m" is too much.)");
+    row({"--port", "SIM1", "--repeat", "0"}, R"(--repeat: "0" is no number from 1 to 10000)");
+    row({"--port", "SIM1", "--repeat", "10001"}, R"(--repeat: "10001" is no number from 1 to 10000)");
+    row({"--port", "SIM1", "--repeat", "many"}, R"(--repeat: "many" is no number from 1 to 10000)");
+    row({"--port", "SIM1", "--repeat", "3 "}, R"(--repeat: "3 " is no number from 1 to 10000)");
 }
 
 void SdkCheckProcessTest::refusesWrongArguments()
@@ -254,15 +256,15 @@ void SdkCheckProcessTest::refusesWrongArguments()
     const Outcome outcome{run(PROGRAM, arguments, programEnvironment())};
     QCOMPARE(outcome.status, 2);
     QCOMPARE(outcome.output, QString{});
-    QCOMPARE(outcome.errors.section('\n', 0, 0), error);
-    QVERIFY2(outcome.errors.contains("\nUsage: "), qPrintable(outcome.errors));
+    QCOMPARE(outcome.errors,
+             "pilotel-sdk-check: " + error + "\npilotel-sdk-check: Try \"pilotel-sdk-check --help\".\n");
 }
 
 void SdkCheckProcessTest::helps()
 {
     const Outcome outcome{run(PROGRAM, {"--help"}, programEnvironment())};
     QCOMPARE(outcome.status, 0);
-    for (const char *const text : {"--port <name>", "--write", "--repeat <count>", "--json", "Exit status: 0",
+    for (const char *const text : {"--port NAME", "--write", "--repeat N", "--json", "Exit status: 0",
                                    "saveBlendUnitParameters", "setMavlinkBaudRate", "processNucRequest",
                                    "readBprTable", "writeBprTable", "addBadPixel", "removeBadPixel"}) {
         QVERIFY2(outcome.output.contains(text), text);

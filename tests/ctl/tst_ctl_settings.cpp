@@ -238,28 +238,37 @@ void CtlSettingsTest::refusesWrongUse_data()
     const char *const help{R"(Try "pilotel-ctl --help".)"};
     row({}, {"A subcommand is required", help});
     row({"gett"}, {R"(There is no command "gett"; did you mean "get"?)", help});
-    row({"--frob"}, {R"(There is no command "--frob")", help});
+    row({"--frob"}, {R"(There is no option "--frob")", help});
+    row({"--prot", "SIM1", "info"}, {R"(There is no option "--prot"; did you mean "--port"?)", help});
+    row({"list", "--josn=1"}, {R"(There is no option "--josn"; did you mean "--json"?)", help});
+    row({"watch", "temperature"},
+        {R"(There is no command "temperature"; did you mean "temperatures"?)", help});
+    row({"profile"}, {"A subcommand is required", help});
+    row({"info", "camera\n"}, {R"("camera\n" is too much.)", help});
+    row({"info", "--port"}, {"--port needs a value", help});
+    row({"--port", "SIM1", "--port", "SIM2", "info"}, {"--port is there more than once", help});
     row({"get"}, {"NAME is required", help});
     row({"get", "camera.gama"}, {R"(There is no setting "camera.gama"; did you mean "camera.gamma"?)"});
     row({"get", "gamma"}, {R"(There is no setting "gamma"; did you mean "camera.gamma"?)"});
     row({"get", "camera.zzzzzzzz"},
         {R"(There is no setting "camera.zzzzzzzz"; "pilotel-ctl list" tells all of them)"});
     row({"get", "\x1b[31m"}, {R"(There is no setting "\x1b[31m"; "pilotel-ctl list" tells all of them)"});
-    row({"set", "camera.gamma"}, {"\"camera.gamma\" is no NAME=VALUE, such as camera.gamma=2.2."});
+    row({"set", "camera.gamma"}, {R"("camera.gamma" is no NAME=VALUE, such as camera.gamma=2.2.)"});
     row({"set", "camera.gamma=3"},
-        {"camera.gamma cannot be \"3\": 0.5 to 2.5, or 32768 to 163840 is allowed"});
-    row({"set", "camera.gamma="}, {"camera.gamma cannot be \"\": 0.5 to 2.5, or 32768 to 163840 is allowed"});
-    row({"set", "camera.clhe=nan"}, {"camera.clhe cannot be \"nan\": 0 to 30000 is allowed"});
-    row({"set", "camera.clhe=1.5"}, {"camera.clhe cannot be \"1.5\": 0 to 30000 is allowed"});
-    row({"set", "camera.clhe=1e999"}, {"camera.clhe cannot be \"1e999\": 0 to 30000 is allowed"});
+        {R"(camera.gamma cannot be "3": 0.5 to 2.5, or 32768 to 163840 is allowed)"});
+    row({"set", "camera.gamma="},
+        {R"(camera.gamma cannot be "": 0.5 to 2.5, or 32768 to 163840 is allowed)"});
+    row({"set", "camera.clhe=nan"}, {R"(camera.clhe cannot be "nan": 0 to 30000 is allowed)"});
+    row({"set", "camera.clhe=1.5"}, {R"(camera.clhe cannot be "1.5": 0 to 30000 is allowed)"});
+    row({"set", "camera.clhe=1e999"}, {R"(camera.clhe cannot be "1e999": 0 to 30000 is allowed)"});
     row({"set", "camera.frameRate=24"},
-        {"camera.frameRate cannot be \"24\": 9, 25, 30, 50 or 60 is allowed"});
+        {R"(camera.frameRate cannot be "24": 9, 25, 30, 50 or 60 is allowed)"});
     row({"set", "camera.contrastType=clah"},
-        {"camera.contrastType cannot be \"clah\": clhe or clahe, or 0 to 1 is allowed"});
-    row({"set", "camera.polarity=2"}, {"camera.polarity cannot be \"2\": true or false is allowed"});
-    row({"set", "camera.gsk=4"}, {"camera.gsk cannot be \"4\": 1 to 3 is allowed"});
+        {R"(camera.contrastType cannot be "clah": clhe or clahe, or 0 to 1 is allowed)"});
+    row({"set", "camera.polarity=2"}, {R"(camera.polarity cannot be "2": true or false is allowed)"});
+    row({"set", "camera.gsk=4"}, {R"(camera.gsk cannot be "4": 1 to 3 is allowed)"});
     row({"set", "blendUnit.warp0.a11=1.5"},
-        {"blendUnit.warp0.a11 cannot be \"1.5\": -32768 to 65536, without fractions, is allowed"});
+        {R"(blendUnit.warp0.a11 cannot be "1.5": -32768 to 65536, without fractions, is allowed)"});
     row({"set", "camera.serialNumber=1"},
         {"camera.serialNumber cannot be set: the unit tells it, and nothing changes it."});
     row({"set", "configuration.gskMinimum=1"},
@@ -386,9 +395,9 @@ void CtlSettingsTest::opensAndClosesAsTheWindowDoes()
     calls = calls.mid(calls.indexOf("getCommunicationType()"));
     QCOMPARE(calls,
              (QStringList{"getCommunicationType()", "getDefaultBaudRate()", "setBaudRate(115200)",
-                          "getDeviceManager()", "openDevice(\"SIM1\")", "setTarget(0)", "connect()",
+                          "getDeviceManager()", R"(openDevice("SIM1"))", "setTarget(0)", "connect()",
                           "setTarget(1)", "getFirmwareVersions()", "startReading()", "getGamma()",
-                          "setTarget(1)", "closeDevice(\"device\")", "releaseDeviceManager(\"manager\")"}));
+                          "setTarget(1)", R"(closeDevice("device"))", R"(releaseDeviceManager("manager"))"}));
 }
 
 void CtlSettingsTest::showsTextOfTheDeviceWithoutControlCharacters()
