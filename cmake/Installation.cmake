@@ -48,8 +48,12 @@ if(TARGET pilotel-tour)
     )
 endif()
 # These load no device library themselves.
-set_target_properties(pilotel-start veltrix_simulator PROPERTIES BUILD_WITH_INSTALL_RPATH ON INSTALL_RPATH "")
+set_target_properties(
+    pilotel-start pilotel-curves veltrix_simulator PROPERTIES BUILD_WITH_INSTALL_RPATH ON INSTALL_RPATH ""
+)
 install(TARGETS pilotel-start RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT pilotel)
+# Only pilotel-ctl starts it.
+install(TARGETS pilotel-curves RUNTIME DESTINATION ${CMAKE_INSTALL_LIBEXECDIR}/pilotel COMPONENT pilotel-tools)
 install(TARGETS veltrix_simulator LIBRARY DESTINATION ${device_library_folder} COMPONENT libveltrix-sdk-simulator)
 install(
     DIRECTORY simulator/scenarios

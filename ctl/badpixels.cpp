@@ -4,14 +4,17 @@
 #include "badpixels.h"
 
 #include "escaped.h"
+#include "files.h"
 #include "interruption.h"
 #include "messages.h"
 #include "progress.h"
 #include "units/bprfile.h"
 #include "veltrix_sdk/numbers.h"
 
+#include <QBuffer>
 #include <QByteArray>
 #include <QFile>
+#include <QIODevice>
 #include <QImage>
 #include <QString>
 
@@ -131,9 +134,10 @@ void paint(const std::vector<Pixel> &bad, const std::string &name)
     for (const Pixel &pixel : bad) {
         picture.setPixel(static_cast<int>(pixel.first), static_cast<int>(pixel.second), red);
     }
-    if (!picture.save(QString::fromStdString(name), "PNG")) {
-        throw Failure{wrongUse, escaped(name) + ": the picture cannot be written"};
-    }
+    QBuffer png;
+    png.open(QIODevice::WriteOnly);
+    picture.save(&png, "PNG");
+    writeWhole(name, png.data(), wrongUse);
 }
 
 } // namespace

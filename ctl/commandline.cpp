@@ -179,6 +179,9 @@ private:
             ->add_option("--csv", arguments.watch.csvFile,
                          "A file with the readings in millikelvin; - for standard output")
             ->type_name("FILE");
+        temperatures->add_option("--plot", arguments.watch.plotFile, "Also draws the curves, at the end")
+            ->type_name("FILE.png")
+            ->check([](const std::string &file) { return file.empty() ? "a file has a name" : ""; });
     }
 
     void addBadPixels()

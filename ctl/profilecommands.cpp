@@ -5,6 +5,7 @@
 #include "commands.h"
 #include "escaped.h"
 #include "fieldtext.h"
+#include "files.h"
 #include "messages.h"
 #include "names.h"
 #include "profile.h"
@@ -12,8 +13,6 @@
 #include "values.h"
 
 #include <QByteArray>
-#include <QSaveFile>
-#include <QString>
 
 #include <iostream>
 
@@ -92,14 +91,7 @@ ExitStatus saveProfile(Session &session, const std::string &file)
         std::cout << text << std::flush;
         return done;
     }
-    QSaveFile target{QString::fromStdString(file)};
-    const bool written{target.open(QIODevice::WriteOnly) &&
-                       target.write(QByteArray::fromStdString(text)) == static_cast<qint64>(text.size()) &&
-                       target.commit()};
-    if (!written) {
-        throw Failure{wrongUse, sdk_check::escaped(file) + ": " +
-                                    sdk_check::escaped(target.errorString().toStdString())};
-    }
+    writeWhole(file, QByteArray::fromStdString(text), wrongUse);
     std::cout << counted(lines.size()) << " saved in " << sdk_check::escaped(file) << std::endl;
     return done;
 }

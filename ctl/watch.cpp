@@ -6,6 +6,7 @@
 #include "escaped.h"
 #include "interruption.h"
 #include "messages.h"
+#include "plot.h"
 #include "values.h"
 
 #include <QByteArray>
@@ -20,7 +21,9 @@
 #include <cstdint>
 #include <iomanip>
 #include <iostream>
+#include <optional>
 #include <sstream>
+#include <string>
 #include <string_view>
 #include <system_error>
 #include <thread>
@@ -42,9 +45,23 @@ constexpr const char *heading{
 constexpr std::array widths{19, 8, 15, 8};
 constexpr double zeroCelsius{273.15};
 
-std::string now()
+std::string textOf(const QDateTime &time)
 {
-    return QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss.zzzZ")).toStdString();
+    return time.toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss.zzzZ")).toStdString();
+}
+
+double celsius(double millikelvin)
+{
+    return millikelvin / 1000 - zeroCelsius;
+}
+
+std::vector<std::optional<double>> celsius(const Sample &sample)
+{
+    std::vector<std::optional<double>> values;
+    for (const std::optional<double> &millikelvin : sample) {
+        values.push_back(millikelvin ? std::optional{celsius(*millikelvin)} : std::nullopt);
+    }
+    return values;
 }
 
 const Setting &temperatures(Session &session)
@@ -81,7 +98,7 @@ std::string tableLine(const std::string &time, const Sample &sample)
     for (std::size_t place{0}; place < sample.size(); ++place) {
         line << std::setw(widths[place]);
         if (sample[place]) {
-            line << *sample[place] / 1000 - zeroCelsius;
+            line << celsius(*sample[place]);
         } else {
             line << '?';
         }
@@ -99,8 +116,29 @@ public:
 
     ExitStatus run()
     {
+        if (!watch.plotFile.empty()) {
+            plot.emplace(watch.plotFile);
+        }
         session.open();
         openCsv();
+        try {
+            takeSamples();
+        } catch (const Failure &failure) {
+            // What was seen before may tell why.
+            if (const std::string lost{drawnOrWhyNot()}; !lost.empty()) {
+                throw Failure{failure.status(), failure.what() + ('\n' + lost)};
+            }
+            throw;
+        }
+        draw();
+        return allWell ? done : refused;
+    }
+
+private:
+    bool csvAlone() const { return watch.csvFile == "-"; }
+
+    void takeSamples()
+    {
         if (!csvAlone()) {
             std::cout << heading << std::endl;
         }
@@ -108,19 +146,36 @@ public:
         std::int64_t tick{0};
         for (int taken{0}; !watch.count || taken < *watch.count; ++taken) {
             if (!waitUntil(start + tick * watch.every)) {
-                return watch.count ? throw Failure{refused, "Interrupted."} : result();
+                if (watch.count) {
+                    heedInterruption();
+                }
+                return;
             }
             takeSample();
             const auto passed = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start);
             tick = std::max<std::int64_t>(tick + 1, (passed + watch.every - std::chrono::milliseconds{1}) /
                                                         watch.every);
         }
-        return result();
     }
 
-private:
-    bool csvAlone() const { return watch.csvFile == "-"; }
-    ExitStatus result() const { return allWell ? done : refused; }
+    void draw()
+    {
+        if (plot) {
+            plot->write("Temperatures of the units on port " + sdk_check::escaped(session.port()),
+                        "Temperature (\u00b0C)",
+                        {"Blend Unit, sensor", "Blend Unit, FPGA", "Camera, sensor", "Camera, FPGA"});
+        }
+    }
+
+    std::string drawnOrWhyNot()
+    {
+        try {
+            draw();
+            return {};
+        } catch (const Failure &failure) {
+            return failure.what();
+        }
+    }
 
     void openCsv()
     {
@@ -157,7 +212,8 @@ private:
 
     void takeSample()
     {
-        const std::string time{now()};
+        const QDateTime now{QDateTime::currentDateTimeUtc()};
+        const std::string time{textOf(now)};
         Sample sample;
         for (const Unit unit : device_settings::units) {
             const Reading reading{session.read(unit, temperatures(session))};
@@ -170,6 +226,9 @@ private:
             }
         }
         writeCsv(csvLine(time, sample));
+        if (plot) {
+            plot->add(now.toMSecsSinceEpoch(), celsius(sample));
+        }
         if (!csvAlone()) {
             std::cout << tableLine(time, sample) << std::flush;
         }
@@ -178,6 +237,7 @@ private:
     Session &session;
     const Watch &watch;
     QFile csv;
+    std::optional<Plot> plot{};
     bool allWell{true};
 };
 

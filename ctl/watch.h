@@ -19,6 +19,7 @@ struct Watch
     std::chrono::milliseconds every{1000};
     std::optional<int> count{}; ///< Until Ctrl-C where none is given.
     std::string csvFile{};      ///< Millikelvin as well, in a file; - for standard output alone.
+    std::string plotFile{};     ///< A picture of the curves at the end.
 };
 
 /// Writes a line for each reading, with the time in UTC. The readings keep to the clock: one that is late

@@ -5,6 +5,7 @@
 #include "testclass.h"
 
 #include <QByteArray>
+#include <QFileInfo>
 #include <QObject>
 #include <QProcess>
 #include <QString>
@@ -30,6 +31,7 @@ private slots:
     void goesBackWhenTheCableIsOutForAMoment();
     void saysWhatItCouldNotPutBackWithoutACable();
 #if defined(Q_OS_UNIX)
+    void leavesADeviceADevice();
     void goesBackWhenItIsInterrupted();
 #endif
     void refusesAWrongFile_data();
@@ -179,6 +181,17 @@ void CtlProfilesTest::saysWhatItCouldNotPutBackWithoutACable()
 }
 
 #if defined(Q_OS_UNIX)
+void CtlProfilesTest::leavesADeviceADevice()
+{
+    CtlFolder folder;
+    QCOMPARE(folder.run({"profile", "save", "/dev/null"}).output,
+             QString{"77 settings saved in /dev/null\n"});
+    QVERIFY(!QFileInfo{"/dev/null"}.isFile());
+    const Outcome full{folder.run({"profile", "save", "/dev/full"})};
+    QCOMPARE(full.errors, lines({"pilotel-ctl: /dev/full: No space left on device"}));
+    QCOMPARE(full.status, 2);
+}
+
 void CtlProfilesTest::goesBackWhenItIsInterrupted()
 {
     CtlFolder folder;

@@ -6,6 +6,7 @@
 
 #include <QByteArray>
 #include <QDateTime>
+#include <QFile>
 #include <QObject>
 #include <QProcess>
 #include <QString>
@@ -30,6 +31,7 @@ private slots:
     void refusesWrongTimes();
     void tellsALostAnswer();
     void endsWithoutACable();
+    void saysThatItHasNoPictures();
 #if defined(Q_OS_UNIX)
     void endsWithCtrlC();
 #endif
@@ -169,6 +171,28 @@ void CtlWatchTest::endsWithoutACable()
     QCOMPARE(outcome.status, 3);
     // The file has what was read until then.
     QCOMPARE(folder.read("t.csv").count('\n'), 3);
+}
+
+void CtlWatchTest::saysThatItHasNoPictures()
+{
+    CtlFolder folder;
+#if defined(Q_OS_WIN)
+    const QString program{CTL};
+#else
+    // The program that draws is not beside it.
+    const QString program{folder.path("pilotel-ctl")};
+    QVERIFY(QFile::copy(CTL, program));
+    folder.environment.insert("LD_LIBRARY_PATH", DEVICE_LIBRARY_FOLDER);
+#endif
+    const Outcome outcome{
+        run(program, {"watch", "temperatures", "--plot", "t.png"}, folder.environment, folder.path("."))};
+    QCOMPARE(
+        outcome.errors,
+        lines(
+            {"pilotel-ctl: --plot: this build has no pictures of curves; --csv writes the readings into a file instead."}));
+    QCOMPARE(outcome.status, 2);
+    QCOMPARE(outcome.output, QString{});
+    QVERIFY(!folder.has("t.png"));
 }
 
 #if defined(Q_OS_UNIX)

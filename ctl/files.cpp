@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// Files that the commands write.
+#include "files.h"
+
+#include "escaped.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QIODevice>
+#include <QSaveFile>
+#include <QString>
+
+namespace ctl
+{
+
+namespace
+{
+
+/// A device or a pipe would be replaced by a file.
+bool isReplaced(const QString &name)
+{
+    const QFileInfo file{name};
+    return !file.exists() || file.isFile() || file.isDir();
+}
+
+Failure notWritten(ExitStatus status, const std::string &file, const QIODevice &device)
+{
+    return Failure{status,
+                   sdk_check::escaped(file) + ": " + sdk_check::escaped(device.errorString().toStdString())};
+}
+
+} // namespace
+
+void tryToWrite(const std::string &file)
+{
+    const QString name{QString::fromStdString(file)};
+    if (!isReplaced(name)) {
+        return;
+    }
+    QSaveFile trial{name};
+    if (!trial.open(QIODevice::WriteOnly)) {
+        throw notWritten(wrongUse, file, trial);
+    }
+    trial.cancelWriting();
+}
+
+void writeWhole(const std::string &file, const QByteArray &bytes, ExitStatus whenItFails)
+{
+    const QString name{QString::fromStdString(file)};
+    if (!isReplaced(name)) {
+        QFile device{name};
+        if (!device.open(QIODevice::WriteOnly | QIODevice::Unbuffered) ||
+            device.write(bytes) != bytes.size()) {
+            throw notWritten(whenItFails, file, device);
+        }
+        return;
+    }
+    QSaveFile target{name};
+    if (!target.open(QIODevice::WriteOnly) || target.write(bytes) != bytes.size() || !target.commit()) {
+        throw notWritten(whenItFails, file, target);
+    }
+}
+
+} // namespace ctl
