@@ -9,30 +9,9 @@
 
 #include <chrono>
 #include <filesystem>
-#include <ios>
-#include <system_error>
 
 namespace veltrix_simulator
 {
-namespace
-{
-
-constexpr std::string_view beginning{R"({"trace":1,)"};
-
-/// Whether writing there destroys nothing but an earlier trace.
-bool isTraceOrNothing(const std::filesystem::path &path)
-{
-    std::error_code error;
-    if (!std::filesystem::is_regular_file(path, error)) {
-        return true;
-    }
-    std::ifstream existing{path, std::ios::binary};
-    std::string bytes(beginning.size(), '\0');
-    existing.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    return existing.gcount() == 0 || bytes == beginning;
-}
-
-} // namespace
 
 void Trace::start(std::string_view scenario, std::uint64_t seed)
 {
@@ -43,7 +22,7 @@ void Trace::start(std::string_view scenario, std::uint64_t seed)
     if (!isOn()) {
         return;
     }
-    std::string header{beginning};
+    std::string header{traceBeginning};
     header.append(R"("scenario":)");
     appendJsonText(header, scenario);
     header.append(R"(,"seed":)").append(std::to_string(seed)).append(R"(,"time":")");
@@ -53,8 +32,7 @@ void Trace::start(std::string_view scenario, std::uint64_t seed)
 
 void Trace::write(std::string_view line)
 {
-    file << line << std::flush;
-    if (!file) {
+    if (!file.write(line)) {
         refuse();
     }
 }
@@ -62,32 +40,26 @@ void Trace::write(std::string_view line)
 void Trace::open(const std::string &name)
 {
     fileName = name;
-    on = false;
     file.close();
-    file.clear();
     if (name.empty()) {
         return;
     }
-    const std::filesystem::path path{std::filesystem::u8path(name)};
-    // Whoever mixes up two variables must not lose a scenario or a memory.
-    if (!isTraceOrNothing(path)) {
+    switch (file.open(std::filesystem::u8path(name))) {
+    case TraceFile::Opening::Done:
+        return;
+    case TraceFile::Opening::OtherFile:
         writeToStandardError(
             "veltrix.sdk: \"" + name +
             "\" is no trace, and is left as it is; set VELTRIX_SIMULATOR_TRACE to another file, or delete "
             "this one. The program goes on without a trace.\n");
         return;
-    }
-    file.open(path, std::ios::binary | std::ios::trunc);
-    on = file.is_open();
-    if (!on) {
+    case TraceFile::Opening::Unwritable:
         refuse();
     }
 }
 
 void Trace::refuse()
 {
-    on = false;
-    file.close();
     writeToStandardError(
         "veltrix.sdk: cannot write the trace file \"" + fileName +
         "\"; set VELTRIX_SIMULATOR_TRACE to a file that can be written. The program goes on without "

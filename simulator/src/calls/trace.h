@@ -3,20 +3,20 @@
 // The file of all calls that VELTRIX_SIMULATOR_TRACE names.
 #pragma once
 
+#include "calls/tracefile.h"
+
 #include <cstdint>
-#include <fstream>
 #include <string>
 #include <string_view>
 
 namespace veltrix_simulator
 {
 
-/// Writes each line out at once, so that the file is whole up to the last call when the program crashes. A
-/// file that cannot be written is named once on standard error; then the trace is off.
+/// A file that cannot be written is named once on standard error; then the trace is off.
 class Trace
 {
 public:
-    bool isOn() const { return on; }
+    bool isOn() const { return file.isOpen(); }
 
     /// Power-on: writes a header. The first one, and the first after the variable has changed, begins the
     /// file anew; the variable is looked at only here.
@@ -30,8 +30,7 @@ private:
     void refuse();
 
     std::string fileName;
-    std::ofstream file;
-    bool on{false};
+    TraceFile file;
 };
 
 } // namespace veltrix_simulator

@@ -6,11 +6,15 @@
 #include "calls/callwriter.h"
 #include "calls/numbersat.h"
 #include "output/clock.h"
+#include "units/configurationfields.h"
 #include "units/recordmembers.h"
 #include "values/value.h"
 
+#include <array>
+#include <chrono>
 #include <cmath>
 #include <cstddef>
+#include <cstdint>
 #include <nlohmann/json.hpp>
 
 namespace veltrix_simulator
@@ -76,6 +80,27 @@ public:
         }
     }
 
+    void output(const Words &words)
+    {
+        line.append(hasOutputs ? "," : R"(,"outputs":{)").append(R"("words":)");
+        hasOutputs = true;
+        append(words, nullptr);
+    }
+
+    /// The words that differ from before; all of them without.
+    void append(const Words &words, const Words *before)
+    {
+        char separator{'{'};
+        for (const WordRow &row : configurationWords) {
+            if (before == nullptr || words.*row.word != before->*row.word) {
+                line.push_back(separator);
+                appendMember(row.key, {Kind::Signed32, static_cast<double>(words.*row.word)});
+                separator = ',';
+            }
+        }
+        line.push_back('}');
+    }
+
     void end() { line.append(hasOutputs ? "}}\n" : "}\n"); }
 
 private:
@@ -117,6 +142,14 @@ private:
     bool hasOutputs{false};
 };
 
+void beginLine(std::string &line, std::chrono::system_clock::time_point time, std::int64_t microseconds,
+               Interface interface)
+{
+    line.assign(R"({"time":")").append(formatTime(time, Precision::Microseconds));
+    line.append(R"(","microseconds":)").append(std::to_string(microseconds));
+    line.append(R"(,"interface":")").append(nameOf(interface));
+}
+
 } // namespace
 
 void appendJsonText(std::string &line, std::string_view text)
@@ -126,18 +159,30 @@ void appendJsonText(std::string &line, std::string_view text)
 }
 
 void writeTraceLine(std::string &line, const CallTime &begun, const CallOrigin &origin,
-                    const Objects &objects, Parameters parameters, const ResultPlace &result)
+                    const Objects &objects, Parameters parameters, const ResultPlace &result,
+                    const Words *words)
 {
     using namespace std::chrono;
     const auto took = duration_cast<microseconds>(steady_clock::now() - begun.steady);
-    line.assign(R"({"time":")").append(formatTime(begun.timeOfDay, Precision::Microseconds));
-    line.append(R"(","microseconds":)").append(std::to_string(took.count()));
-    line.append(R"(,"interface":")").append(nameOf(origin.interface));
+    beginLine(line, begun.timeOfDay, took.count(), origin.interface);
     line.append(R"(","target":)").append(std::to_string(origin.target));
     line.append(R"(,"operation":")").append(origin.operation);
     line.append(missingKeys[static_cast<std::size_t>(origin.missing)]).append(R"(,"arguments":[)");
     TraceForm form{line};
     CallWriter{form, objects}.write(parameters, result);
+    if (words != nullptr) {
+        form.output(*words);
+    }
+    form.end();
+}
+
+void writeWordsLine(std::string &line, const Words &words, const Words &before)
+{
+    beginLine(line, std::chrono::system_clock::now(), 0, Interface::Configuration);
+    line.append(R"(","operation":"write","arguments":[)");
+    TraceForm form{line};
+    form.append(words, &before);
+    form.endArguments();
     form.end();
 }
 

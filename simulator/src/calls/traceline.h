@@ -6,6 +6,7 @@
 #include "calls/missing.h"
 #include "calls/objects.h"
 #include "calls/parameter.h"
+#include "units/allowed.h"
 #include "veltrix_simulator/simulator.h"
 
 #include <chrono>
@@ -38,7 +39,12 @@ void appendJsonText(std::string &line, std::string_view text);
 
 /// Makes the line of one call: an object of JSON, with a line feed. To be called when the call has ended: it
 /// settles how long the call took. Numbers that JSON does not have are the strings "nan", "inf" and "-inf".
+/// Where words of the configuration are given, they are told as an output of the call.
 void writeTraceLine(std::string &line, const CallTime &begun, const CallOrigin &origin,
-                    const Objects &objects, Parameters parameters, const ResultPlace &result);
+                    const Objects &objects, Parameters parameters, const ResultPlace &result,
+                    const Words *words = nullptr);
+
+/// Makes the line of words that the program has written in place, which are those that differ from before.
+void writeWordsLine(std::string &line, const Words &words, const Words &before);
 
 } // namespace veltrix_simulator

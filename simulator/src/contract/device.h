@@ -184,7 +184,8 @@ public:
     std::uint32_t getBitStatus() override { return get<Field::bitStatus>(OperationId::getBitStatus); }
     std::uint8_t connect(std::uint8_t *identity) override
     {
-        return fill<std::uint8_t>(OperationId::connect, Field::identity, {{"identity", identity}});
+        return fill<std::uint8_t>(OperationId::connect, Field::identity,
+                                  {{filledName<OperationId::connect>, identity}});
     }
     bool readBprTable(std::uint32_t first, std::uint32_t second, std::uint8_t code) override
     {
@@ -210,7 +211,8 @@ public:
     }
     bool getVideoMode(std::uint8_t *mode) override
     {
-        return fill(OperationId::getVideoMode, Field::videoMode, {{"mode", mode}});
+        return fill(OperationId::getVideoMode, Field::videoMode,
+                    {{filledName<OperationId::getVideoMode>, mode}});
     }
     bool setTarget(std::int32_t target) override { return select(OperationId::setTarget, target); }
     bool setVisibleAgc(std::int32_t target, std::uint8_t threshold, std::uint8_t filterCoefficient) override
@@ -246,7 +248,8 @@ public:
     }
     bool getStartingMode(std::uint8_t *mode) override
     {
-        return fill(OperationId::getStartingMode, Field::startingMode, {{"mode", mode}});
+        return fill(OperationId::getStartingMode, Field::startingMode,
+                    {{filledName<OperationId::getStartingMode>, mode}});
     }
     std::uint32_t getGamma() override { return get<Field::gamma>(OperationId::getGamma); }
     bool setGamma(std::uint32_t gammaFixedPoint) override

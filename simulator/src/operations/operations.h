@@ -58,6 +58,16 @@ constexpr const OperationName &nameOf(OperationId id)
     return operationNames[static_cast<std::size_t>(id)];
 }
 
+/// The name of the plain number that an operation fills in; null for one that fills in none.
+template <OperationId id>
+inline constexpr const char *filledName{nullptr};
+template <>
+inline constexpr const char *filledName<OperationId::connect>{"identity"};
+template <>
+inline constexpr const char *filledName<OperationId::getVideoMode>{"mode"};
+template <>
+inline constexpr const char *filledName<OperationId::getStartingMode>{"mode"};
+
 /// What an operation does to values.
 enum class Role
 {

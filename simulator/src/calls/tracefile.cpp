@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// A file of calls, a line each.
+#include "calls/tracefile.h"
+
+#include <ios>
+#include <string>
+#include <system_error>
+
+namespace veltrix_simulator
+{
+namespace
+{
+
+/// Whether writing there destroys nothing but an earlier trace.
+bool isTraceOrNothing(const std::filesystem::path &path)
+{
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(path, error)) {
+        return true;
+    }
+    std::ifstream existing{path, std::ios::binary};
+    std::string bytes(traceBeginning.size(), '\0');
+    existing.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    return existing.gcount() == 0 || bytes == traceBeginning;
+}
+
+} // namespace
+
+TraceFile::Opening TraceFile::open(const std::filesystem::path &path)
+{
+    close();
+    // Whoever mixes up two names must not lose a scenario or a memory.
+    if (!isTraceOrNothing(path)) {
+        return Opening::OtherFile;
+    }
+    file.open(path, std::ios::binary | std::ios::trunc);
+    return file.is_open() ? Opening::Done : Opening::Unwritable;
+}
+
+bool TraceFile::write(std::string_view line)
+{
+    file << line << std::flush;
+    if (!file) {
+        file.close();
+        return false;
+    }
+    return true;
+}
+
+void TraceFile::close()
+{
+    file.close();
+    file.clear();
+}
+
+} // namespace veltrix_simulator
