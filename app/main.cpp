@@ -6,6 +6,7 @@
 #include "mainwindow.h"
 #include "operatorinput.h"
 #include "scaling.h"
+#include "sdkentry.h"
 #include "veltrix_sdk/logger.h"
 #include "veltrix_sdk/sdk.h"
 
@@ -24,14 +25,15 @@ int main(int argc, char *argv[])
     using namespace veltrix_sdk;
 
     std::cout << "Start QT veltrix command application" << std::endl;
-    VeltrixSdk::get_instance()->initialize();
+    recording::beginAsEnvironmentSays("pilotel");
+    recording::sdkRoot()->initialize();
 
     const std::string qtVersion{QLibraryInfo::version().toString().toLocal8Bit().constData()};
-    SDKLogger(severity_trace).GetILogger() << "QT Version " << qtVersion;
+    recording::LogRecord(severity_trace).stream() << "QT Version " << qtVersion;
     std::cout << "QT Version " << qtVersion << std::endl;
 
     const std::string buildKind{QLibraryInfo::isDebugBuild() ? "DEBUG" : "RELEASE"};
-    SDKLogger(severity_trace).GetILogger() << "QT Built in " << buildKind;
+    recording::LogRecord(severity_trace).stream() << "QT Built in " << buildKind;
     std::cout << "QT Built in " << buildKind << std::endl;
 
     // In every build, whatever the line says: others read standard output and know it to the letter.

@@ -10,6 +10,7 @@
 #include "readings.h"
 #include "report.h"
 #include "rounds.h"
+#include "sdkentry.h"
 #include "values.h"
 #include "veltrix_sdk/numbers.h"
 #include "writing.h"
@@ -66,7 +67,8 @@ private:
     /// process ends here, before anything is opened.
     void writeLogRecord()
     {
-        SDKLogger(severity_info).GetILogger() << std::string{"Check of the SDK library"} << " on a port";
+        recording::LogRecord(severity_info).stream()
+            << std::string{"Check of the SDK library"} << " on a port";
         say(true, "SDKLogger", noUnit, "a record of two insertions");
     }
 

@@ -57,6 +57,12 @@ CommandLine parseCommandLine(const std::vector<std::string> &words)
         ->take_last()
         ->check(whyNoRounds);
     parser.add_flag("--json", line.options.json, "Writes one JSON document instead of lines");
+    parser
+        .add_option("--record", line.recording,
+                    "Records every call to the library in this file; else PILOTEL_RECORD names one")
+        ->type_name("FILE")
+        ->take_last()
+        ->check([](const std::string &file) { return file.empty() ? "a file has a name" : ""; });
     try {
         parser.parse(std::vector<std::string>(words.rbegin(), words.rend()));
     } catch (const CLI::CallForHelp &) {

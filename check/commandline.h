@@ -12,6 +12,7 @@
 struct CommandLine
 {
     sdk_check::Options options; ///< The port is empty where none is named.
+    std::string recording{};    ///< The file of the recording; empty where none is named.
     std::string help;           ///< What --help shows; empty when it is not asked for.
     std::string error;          ///< Lines about what is wrong; empty when nothing is.
 };

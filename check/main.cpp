@@ -6,8 +6,8 @@
 #include "escaped.h"
 #include "interruption.h"
 #include "portnames.h"
+#include "sdkentry.h"
 #include "telling.h"
-#include "veltrix_sdk/sdk.h"
 
 #include <QCoreApplication>
 #include <QSerialPortInfo>
@@ -61,6 +61,12 @@ int main(int argc, char *argv[])
         listPorts(std::cout);
         return sdk_check::wrongUsage;
     }
+    const std::string fault{recording::begin(
+        line.recording.empty() ? recording::fileOfEnvironment() : line.recording, "pilotel-sdk-check")};
+    if (!fault.empty()) {
+        sdk_check::tell("pilotel-sdk-check", fault + ".");
+        return sdk_check::wrongUsage;
+    }
     noteInterruptions();
-    return sdk_check::check(veltrix_sdk::VeltrixSdk::get_instance(), line.options, std::cout, wasInterrupted);
+    return sdk_check::check(recording::sdkRoot(), line.options, std::cout, wasInterrupted);
 }

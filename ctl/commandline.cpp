@@ -83,6 +83,10 @@ private:
                         "The speed of the link; what the library says if not given")
             ->type_name("RATE")
             ->check(CLI::IsMember{linkRates()});
+        parser
+            .add_option("--record", arguments.recording,
+                        "Records every call to the library in this file; else PILOTEL_RECORD names one")
+            ->type_name("FILE");
     }
 
     CLI::App *add(CLI::App &parent, const std::string &name, const std::string &what, Command action)

@@ -6,6 +6,7 @@
 #include "failure.h"
 #include "interruption.h"
 #include "messages.h"
+#include "sdkentry.h"
 #include "session.h"
 
 #include <QCoreApplication>
@@ -55,6 +56,12 @@ int main(int argc, char *argv[])
         const ctl::Command command{ctl::parse(words, arguments, ctl::TypedIn::Bash)};
         if (!command) {
             return ctl::done;
+        }
+        const std::string fault{recording::begin(arguments.recording.empty() ? recording::fileOfEnvironment()
+                                                                             : arguments.recording,
+                                                 "pilotel-ctl")};
+        if (!fault.empty()) {
+            throw ctl::Failure{ctl::wrongUse, fault + "."};
         }
         ctl::Session session{arguments.link};
         return command(session);

@@ -7,6 +7,7 @@
 #include "failure.h"
 #include "interruption.h"
 #include "ports.h"
+#include "sdkentry.h"
 #include "values.h"
 #include "veltrix_sdk/numbers.h"
 #include "veltrix_sdk/records.h"
@@ -58,7 +59,7 @@ void Session::bringUp()
     if (itsConfiguration != nullptr) {
         return;
     }
-    sdk = VeltrixSdk::get_instance();
+    sdk = recording::sdkRoot();
     if (sdk == nullptr) {
         throw Failure{noDevice, "The device library has no root object."};
     }

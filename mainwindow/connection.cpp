@@ -4,6 +4,7 @@
 #include "mainwindow.h"
 #include "messageboxes.h"
 #include "portnames.h"
+#include "sdkentry.h"
 #include "sequence.h"
 #include "sliderpair.h"
 #include "ui_mainwindow.h"
@@ -50,12 +51,12 @@ void configureExpertSlider(QSlider &slider, std::int32_t minimum, std::int32_t m
 
 ISdkConfiguration &MainWindow::sdkConfiguration()
 {
-    return *VeltrixSdk::get_instance()->getConfiguration();
+    return *recording::sdkRoot()->getConfiguration();
 }
 
 void MainWindow::closeApply()
 {
-    VeltrixSdk::get_instance()->getConfiguration();
+    recording::sdkRoot()->getConfiguration();
 }
 
 void MainWindow::scanDevice()
@@ -107,7 +108,7 @@ bool MainWindow::openCommunication(std::string port)
     }
     portName = std::move(port);
     appendLog("ALTERNATIVE SERIAL PORT : " + portName);
-    deviceManager = VeltrixSdk::get_instance()->getDeviceManager();
+    deviceManager = recording::sdkRoot()->getDeviceManager();
     device = deviceManager != nullptr ? deviceManager->openDevice(portName.c_str()) : nullptr;
     if (device == nullptr) {
         showAboutBox(this, tr("Invalid communication"), tr("Select an other serial port"));
@@ -154,7 +155,7 @@ void MainWindow::returnDevice()
         deviceManager->closeDevice(device);
     }
     if (deviceManager != nullptr) {
-        VeltrixSdk::get_instance()->releaseDeviceManager(&deviceManager);
+        recording::sdkRoot()->releaseDeviceManager(&deviceManager);
         deviceManager = nullptr;
     }
 }

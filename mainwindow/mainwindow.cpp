@@ -5,6 +5,7 @@
 
 #include "dialog.h"
 #include "mainwindowform.h"
+#include "sdkentry.h"
 #include "ui_mainwindow.h"
 #include "veltrix_sdk/configuration.h"
 #include "veltrix_sdk/sdk.h"
@@ -29,7 +30,7 @@ MainWindow::MainWindow(QWidget *parent)
     : QMainWindow{parent}, ui{new Ui_MainWindow{}}, selectedPortInfo{allocateForProcess<QSerialPortInfo>()},
       deviceIdentity{allocateForProcess<std::uint8_t>()}
 {
-    IVeltrixSdk *const sdk{VeltrixSdk::get_instance()};
+    IVeltrixSdk *const sdk{recording::sdkRoot()};
     sdk->initialize();
     ISdkConfiguration *const configuration{sdk->getConfiguration()};
 

@@ -3,6 +3,7 @@
 // The operation log and the temperature read-outs.
 #include "encodings.h"
 #include "mainwindow.h"
+#include "sdkentry.h"
 #include "ui_mainwindow.h"
 #include "veltrix_sdk/device_control.h"
 #include "veltrix_sdk/logger.h"
@@ -38,7 +39,7 @@ void MainWindow::appendLog(std::string line)
     }
     QScrollBar *const scrollBar{ui->logView->verticalScrollBar()};
     scrollBar->setValue(scrollBar->maximum());
-    SDKLogger(severity_info).GetILogger() << line;
+    recording::LogRecord(severity_info).stream() << line;
     paintLog();
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // The guided tour: a whole session in the real window, with a picture of each stage.
 #include "mainwindow.h"
+#include "sdkentry.h"
 
 #include <QAbstractSpinBox>
 #include <QApplication>
@@ -196,6 +197,7 @@ int main(int argc, char *argv[])
     });
     boxes.start(100);
 
+    recording::beginAsEnvironmentSays("pilotel-tour");
     MainWindow window;
     window.show();
     window.activateWindow();

@@ -62,7 +62,7 @@ void CallPath::pass(OperationId operation, Parameters parameters, const ResultPl
     const int target{state.target};
     const CallTime begun{trace.isOn() ? CallTime::now() : CallTime{}};
     const bool isOfDevice{nameOf(operation).interface == Interface::Device};
-    const Missing missing{missingFor(operation)};
+    const Missing missing{missingFor(operation, state.deviceOpen, state.managerHeld)};
     const bool isOpen{missing == Missing::Nothing};
     const bool isAnswered{isOpen && (!isOfDevice || deviceAnswers())};
     callsNotOpen += isOpen ? 0 : 1;
@@ -88,19 +88,6 @@ void CallPath::pass(OperationId operation, Parameters parameters, const ResultPl
     }
     if (trace.isOn()) {
         writeToTrace(operation, target, missing, parameters, result, begun);
-    }
-}
-
-Missing CallPath::missingFor(OperationId operation) const
-{
-    switch (nameOf(operation).interface) {
-    case Interface::Device:
-        return state.deviceOpen ? Missing::Nothing : Missing::Device;
-    case Interface::Manager:
-        return state.managerHeld ? Missing::Nothing : Missing::Manager;
-    default:
-        return operation == OperationId::releaseDeviceManager && !state.managerHeld ? Missing::Manager
-                                                                                    : Missing::Nothing;
     }
 }
 

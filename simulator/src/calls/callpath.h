@@ -100,9 +100,6 @@ public:
 private:
     void pass(OperationId operation, Parameters parameters, const ResultPlace &result, const Work &work);
 
-    /// What the operation needs and there is not.
-    Missing missingFor(OperationId operation) const;
-
     /// Whether nothing is switched on (journal, trace, faults, time), and the device is open and answers.
     /// Then the manager is held, too.
     bool goesTheShortWay() const

@@ -3,6 +3,8 @@
 // What a call was made on without having it.
 #pragma once
 
+#include "operations/operations.h"
+
 namespace veltrix_simulator
 {
 
@@ -12,5 +14,19 @@ enum class Missing
     Device,  ///< No device is open.
     Manager, ///< No manager is held: none was fetched, or it has been released.
 };
+
+/// What an operation needs and there is not.
+constexpr Missing missingFor(OperationId operation, bool isDeviceOpen, bool isManagerHeld)
+{
+    switch (nameOf(operation).interface) {
+    case Interface::Device:
+        return isDeviceOpen ? Missing::Nothing : Missing::Device;
+    case Interface::Manager:
+        return isManagerHeld ? Missing::Nothing : Missing::Manager;
+    default:
+        return operation == OperationId::releaseDeviceManager && !isManagerHeld ? Missing::Manager
+                                                                                : Missing::Nothing;
+    }
+}
 
 } // namespace veltrix_simulator
