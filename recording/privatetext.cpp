@@ -33,17 +33,22 @@ bool isOfWord(char character)
            static_cast<unsigned char>(character) >= 0x80;
 }
 
-char lowered(char character)
+/// The same character for both cases of a letter and for both separators.
+char folded(char character)
 {
+    if (character == '\\') {
+        return '/';
+    }
     return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
 }
 
-/// Whether the text goes on like this at that place, whatever the case of letters.
+/// Whether the text goes on like this at that place, whatever the case of letters and
+/// which separators.
 bool continuesWith(std::string_view text, std::size_t place, std::string_view part)
 {
     const std::string_view there{text.substr(place, part.size())};
     return std::equal(there.begin(), there.end(), part.begin(), part.end(),
-                      [](char one, char other) { return lowered(one) == lowered(other); });
+                      [](char one, char other) { return folded(one) == folded(other); });
 }
 
 std::string_view withoutSeparatorsAtEnd(std::string_view path)
@@ -109,6 +114,9 @@ PrivateText::PrivateText(const std::vector<std::string> &itsHomes, const std::ve
         }
     }
     names.erase(std::remove(names.begin(), names.end(), std::string{}), names.end());
+    // Of two names that begin alike the whole one is taken out.
+    std::sort(names.begin(), names.end(),
+              [](const std::string &one, const std::string &other) { return one.size() > other.size(); });
 }
 
 PrivateText PrivateText::ofThisUser()

@@ -6,6 +6,7 @@
 #include "output/clock.h"
 #include "output/process.h"
 #include "units/configurationfields.h"
+#include "veltrix_sdk/numbers.h"
 
 #include <cerrno>
 #include <chrono>
@@ -29,6 +30,10 @@ std::string reason()
 std::string Recorder::open(const std::string &itsFileName, const std::string &program)
 {
     fileName = itsFileName;
+    texts = PrivateText::ofThisUser();
+    target = veltrix_sdk::targetBlendUnit;
+    managerHeld = false;
+    deviceOpen = false;
     errno = 0;
     switch (file.open(std::filesystem::u8path(fileName))) {
     case TraceFile::Opening::OtherFile:

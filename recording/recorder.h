@@ -41,7 +41,7 @@ struct Begun
 class Recorder
 {
 public:
-    /// Begins the file anew. Answers what is wrong; empty when nothing is.
+    /// Begins the file anew; nothing is open or held. Answers what is wrong; empty when nothing is.
     std::string open(const std::string &itsFileName, const std::string &program);
     void close() { file.close(); }
     bool isOpen() const { return file.isOpen(); }

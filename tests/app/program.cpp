@@ -49,6 +49,7 @@ QProcessEnvironment programEnvironment()
     environment.insert("LC_ALL", "C.UTF-8");
     environment.remove("LD_LIBRARY_PATH");
     environment.remove("VELTRIX_SIMULATOR_LOG");
+    environment.remove("PILOTEL_RECORD");
     return environment;
 }
 

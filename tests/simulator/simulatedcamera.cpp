@@ -11,16 +11,16 @@ using namespace veltrix_sdk;
 namespace
 {
 
-IVeltrixSdk &powerOn()
+IVeltrixSdk &powerOn(IVeltrixSdk *(*root)())
 {
     veltrix_simulator::Simulator::instance().reset();
-    return *VeltrixSdk::get_instance();
+    return *root();
 }
 
 } // namespace
 
-SimulatedCamera::SimulatedCamera(std::int32_t target)
-    : sdk{powerOn()}, configuration{*sdk.getConfiguration()}, manager{sdk.getDeviceManager()},
+SimulatedCamera::SimulatedCamera(std::int32_t target, IVeltrixSdk *(*root)())
+    : sdk{powerOn(root)}, configuration{*sdk.getConfiguration()}, manager{sdk.getDeviceManager()},
       device{manager->openDevice("SIM1")}
 {
     device->setTarget(target);

@@ -19,7 +19,9 @@ constexpr int cameraTarget{1};
 /// journal is empty then.
 struct SimulatedCamera
 {
-    explicit SimulatedCamera(std::int32_t target = cameraTarget);
+    /// The root of the library comes from the function.
+    explicit SimulatedCamera(std::int32_t target = cameraTarget,
+                             veltrix_sdk::IVeltrixSdk *(*root)() = veltrix_sdk::VeltrixSdk::get_instance);
 
     /// The text of the latest call.
     QString lastCall() const;

@@ -1,0 +1,311 @@
+// SPDX-FileCopyrightText: 2026 The Pilotel Developers
+// SPDX-License-Identifier: MIT
+// The programs record: whole sessions as the simulator's trace has them, and what becomes of the file.
+#include "program.h"
+#include "recordedlines.h"
+#include "testclass.h"
+
+#include <QFile>
+#include <QIODevice>
+#include <QObject>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace
+{
+
+/// A folder in which a program records, beside the trace of the simulator.
+class Folder
+{
+public:
+    Folder() { environment.insert("VELTRIX_SIMULATOR_TRACE", trace()); }
+
+    QString path(const QString &name) const { return directory.filePath(name); }
+    QString recording() const { return path("session.recording"); }
+    QString trace() const { return path("session.trace"); }
+
+    Outcome run(const QString &program, const QStringList &arguments) const
+    {
+        return ::run(program, arguments, environment, directory.path());
+    }
+
+    void write(const QString &name, const QByteArray &text) const
+    {
+        QFile file{path(name)};
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(text);
+    }
+
+    QByteArray read(const QString &name) const
+    {
+        QFile file{path(name)};
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray{"no file"};
+    }
+
+    QProcessEnvironment environment{programEnvironment()};
+
+private:
+    const QTemporaryDir directory;
+};
+
+const QStringList closing{"-plugin", "closewhenshown"};
+
+} // namespace
+
+class RecordedSessionsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void sessionIsThatOfTheTrace_data();
+    void sessionIsThatOfTheTrace();
+    void optionGoesBeforeTheVariable_data();
+    void optionGoesBeforeTheVariable();
+    void earlierRecordingIsReplaced();
+    void otherFileIsLeftAlone_data();
+    void otherFileIsLeftAlone();
+    void unwritableFileIsTold_data();
+    void unwritableFileIsTold();
+    void fullDiskEndsTheRecording();
+    void windowGoesOnWithoutARecording();
+    void askingAndCompletingRecordNothing();
+    void isWholeAfterACrash();
+    void portIsNoPath();
+};
+
+void RecordedSessionsTest::sessionIsThatOfTheTrace_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("scenario");
+    QTest::addColumn<int>("atLeast");
+    const auto row = [](const char *name, const char *program, const QStringList &arguments,
+                        const char *scenario, int atLeast) {
+        QTest::addRow("%s", name) << QString{program} << arguments << QString{scenario} << atLeast;
+    };
+
+    row("start of the window", PROGRAM, closing, "", 7);
+    row("guided tour of the window", TOUR, {"."}, "", 500);
+    row("check", CHECK, {"--port", "SIM1", "--write"}, "", 700);
+    row("check of wrong answers", CHECK, {"--port", "SIM1", "--repeat", "2"}, "wrong-answers", 200);
+    row("info", CTL, {"info"}, "", 20);
+    row("list", CTL, {"list"}, "", 50);
+    row("set", CTL, {"set", "camera.gamma=2.2", "blendUnit.zoom.factor=2"}, "", 10);
+    row("set, refused", CTL, {"set", "camera.gamma=2", "blendUnit.warp0.a11=2"}, "refused-warp", 10);
+    row("set without a cable", CTL, {"set", "camera.gamma=2.2"}, "cable-pulled", 5);
+    row("watch", CTL, {"watch", "temperatures", "--every", "10ms", "--count", "20"}, "", 60);
+}
+
+void RecordedSessionsTest::sessionIsThatOfTheTrace()
+{
+    QFETCH(const QString, program);
+    QFETCH(const QStringList, arguments);
+    QFETCH(const QString, scenario);
+    QFETCH(const int, atLeast);
+    Folder folder;
+    folder.environment.insert("PILOTEL_RECORD", folder.recording());
+    folder.environment.insert("VELTRIX_SIMULATOR_SCENARIO", scenario);
+    const Outcome outcome{folder.run(program, arguments)};
+    QVERIFY2(outcome.exited, qPrintable(outcome.errors));
+    const QStringList calls{callsIn(folder.recording())};
+    QCOMPARE(calls, callsIn(folder.trace()));
+    QVERIFY2(calls.size() >= atLeast, qPrintable(QString::number(calls.size())));
+    QCOMPARE(wordsIn(folder.trace()), QStringList{});
+    QVERIFY(headerOf(folder.recording()).startsWith(R"({"trace":1,"program":"pilotel)"));
+    // Nothing else is said or done than without.
+    const Folder other;
+    folder.environment.remove("PILOTEL_RECORD");
+    QCOMPARE(folder.run(program, arguments).status, outcome.status);
+    QCOMPARE(callsIn(folder.trace()).size(), calls.size());
+}
+
+void RecordedSessionsTest::optionGoesBeforeTheVariable_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addRow("pilotel-ctl") << CTL << QStringList{"info"};
+    QTest::addRow("pilotel-sdk-check") << CHECK << QStringList{"--port", "SIM1"};
+}
+
+void RecordedSessionsTest::optionGoesBeforeTheVariable()
+{
+    QFETCH(const QString, program);
+    QFETCH(const QStringList, arguments);
+    Folder folder;
+    folder.environment.insert("PILOTEL_RECORD", folder.path("of the variable"));
+    const Outcome outcome{folder.run(program, QStringList{"--record", folder.recording()} + arguments)};
+    QCOMPARE(outcome.status, 0);
+    QCOMPARE(callsIn(folder.recording()), callsIn(folder.trace()));
+    QVERIFY(!QFile::exists(folder.path("of the variable")));
+}
+
+void RecordedSessionsTest::earlierRecordingIsReplaced()
+{
+    const Folder folder;
+    QCOMPARE(folder.run(CTL, {"--record", folder.recording(), "list"}).status, 0);
+    QCOMPARE(folder.run(CTL, {"--record", folder.recording(), "get", "camera.gamma"}).status, 0);
+    QCOMPARE(callsIn(folder.recording()), callsIn(folder.trace()));
+}
+
+void RecordedSessionsTest::otherFileIsLeftAlone_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("behind");
+    QTest::addColumn<int>("status");
+    QTest::addRow("pilotel") << PROGRAM << closing << "pilotel: "
+                             << ". The program goes on without a recording." << 0;
+    QTest::addRow("pilotel-ctl") << CTL << QStringList{"info"} << "pilotel-ctl: "
+                                 << "." << 2;
+    QTest::addRow("pilotel-sdk-check") << CHECK << QStringList{"--port", "SIM1"} << ""
+                                       << "." << 2;
+}
+
+void RecordedSessionsTest::otherFileIsLeftAlone()
+{
+    QFETCH(const QString, program);
+    QFETCH(const QStringList, arguments);
+    QFETCH(const QString, before);
+    QFETCH(const QString, behind);
+    QFETCH(const int, status);
+    Folder folder;
+    folder.write("bench.toml", "seed = 7\n");
+    folder.environment.insert("PILOTEL_RECORD", "bench.toml");
+    const Outcome outcome{folder.run(program, arguments)};
+    QCOMPARE(outcome.status, status);
+    QCOMPARE(folder.read("bench.toml"), QByteArray{"seed = 7\n"});
+    const QString line{before +
+                       R"("bench.toml" is no recording, and is left as it is; name another file, or delete )"
+                       "this one" +
+                       behind + '\n'};
+    QVERIFY2(outcome.errors.startsWith(line), qPrintable(outcome.errors));
+    // A console program has called nothing.
+    QCOMPARE(QFile::exists(folder.trace()), status == 0);
+}
+
+void RecordedSessionsTest::unwritableFileIsTold_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("reason");
+    QTest::addRow("in no folder") << "missing/session.recording"
+                                  << "No such file or directory";
+#if !defined(Q_OS_WIN)
+    QTest::addRow("a folder") << "."
+                              << "Is a directory";
+    QTest::addRow("on a full disk") << "/dev/full"
+                                    << "No space left on device";
+#endif
+}
+
+void RecordedSessionsTest::unwritableFileIsTold()
+{
+    QFETCH(const QString, name);
+    QFETCH(const QString, reason);
+    const Folder folder;
+    const QString line{
+        QString{R"(Cannot write the recording "%1": %2; name a file that can be written.)"}.arg(name,
+                                                                                                reason)};
+    const Outcome ctl{folder.run(CTL, {"--record", name, "info"})};
+    QCOMPARE(ctl.status, 2);
+    QCOMPARE(ctl.errors, "pilotel-ctl: " + line + '\n');
+    const Outcome check{folder.run(CHECK, {"--port", "SIM1", "--record", name})};
+    QCOMPARE(check.status, 2);
+    QCOMPARE(check.errors, line + '\n');
+    QCOMPARE(check.output, QString{});
+    QVERIFY(!QFile::exists(folder.trace()));
+}
+
+void RecordedSessionsTest::fullDiskEndsTheRecording()
+{
+#if defined(Q_OS_WIN)
+    QSKIP("Windows limits no file by the shell.");
+#endif
+    const Folder folder;
+    // Blocks of 1024 bytes; without the signal that would end the program.
+    const Outcome outcome{
+        folder.run("bash", {"-c", "ulimit -f 1; trap '' XFSZ; unset VELTRIX_SIMULATOR_TRACE; exec " CTL
+                                  " --record session.recording get camera.gamma"})};
+    QCOMPARE(outcome.status, 0);
+    QCOMPARE(outcome.output, QString{"camera.gamma = 65536  # 1\n"});
+    QCOMPARE(outcome.errors,
+             QString{"pilotel: Cannot write the recording \"session.recording\": File too large. "
+                     "It ends here, and the program goes on.\n"});
+    QCOMPARE(folder.read("session.recording").size(), 1024);
+}
+
+void RecordedSessionsTest::windowGoesOnWithoutARecording()
+{
+    Folder folder;
+    folder.environment.insert("PILOTEL_RECORD", "missing/session.recording");
+    const Outcome outcome{folder.run(PROGRAM, closing)};
+    QVERIFY(outcome.exited);
+    QCOMPARE(outcome.status, 0);
+    QVERIFY2(
+        outcome.errors.startsWith(
+            R"(pilotel: Cannot write the recording "missing/session.recording": No such file or directory; )"
+            "name a file that can be written. The program goes on without a recording.\n"),
+        qPrintable(outcome.errors));
+    QVERIFY(callsIn(folder.trace()).size() >= 7);
+}
+
+void RecordedSessionsTest::askingAndCompletingRecordNothing()
+{
+    Folder folder;
+    folder.environment.insert("PILOTEL_RECORD", folder.recording());
+    for (const QStringList &arguments :
+         {QStringList{"--help"}, QStringList{"--version"}, QStringList{"--complete", "get", "camera.g"},
+          QStringList{"nothing"}}) {
+        folder.run(CTL, arguments);
+        QVERIFY2(!QFile::exists(folder.recording()), qPrintable(arguments.join(' ')));
+    }
+    folder.run(CHECK, {"--help"});
+    folder.run(CHECK, {});
+    QVERIFY(!QFile::exists(folder.recording()));
+}
+
+void RecordedSessionsTest::isWholeAfterACrash()
+{
+    const Folder folder;
+    QProcess process;
+    process.setProcessEnvironment(folder.environment);
+    process.start(RECORDING_WRITER, {folder.recording(), "abort"});
+    QVERIFY(process.waitForFinished());
+#if defined(Q_OS_WIN)
+    // There abort() is an exit with this code.
+    QCOMPARE(process.exitCode(), 3);
+#else
+    QCOMPARE(process.exitStatus(), QProcess::CrashExit);
+#endif
+    const QStringList calls{callsIn(folder.recording())};
+    QCOMPARE(calls, callsIn(folder.trace()));
+    // Five before the gammas, and the log record.
+    QCOMPARE(calls.size(), 5 + 100 + 1);
+    QCOMPARE(calls.last(),
+             QString{R"({"interface":"log","target":0,"operation":"log","arguments":[2,"the last call"]})"});
+    QCOMPARE(wordsIn(folder.recording()).last(),
+             QString{R"({"interface":"configuration","operation":"write","arguments":[{"gskDefault":3}]})"});
+}
+
+void RecordedSessionsTest::portIsNoPath()
+{
+    Folder folder;
+    folder.environment.insert("HOME", "/home/jane.doe");
+    folder.environment.insert("USER", "jdoe");
+    const Outcome outcome{
+        folder.run(CTL, {"--record", folder.recording(), "--port", "/home/jane.doe/ports/of jdoe", "info"})};
+    QCOMPARE(outcome.status, 3);
+    QVERIFY(callsIn(folder.trace()).join(' ').contains("/home/jane.doe/ports/of jdoe"));
+    const QByteArray recorded{folder.read("session.recording")};
+    QVERIFY(recorded.contains(R"("operation":"openDevice","arguments":["of USER"],"result":null)"));
+    for (const char *const part : {"jane", "jdoe", "home", "ports"}) {
+        QVERIFY2(!recorded.contains(part), part);
+    }
+}
+
+PILOTEL_TEST_CLASS(RecordedSessionsTest)
+#include "tst_recorded_sessions.moc"
