@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 
 namespace recording
 {
@@ -102,8 +103,8 @@ std::size_t endWithoutQuotes(std::string_view text, std::size_t place)
 
 } // namespace
 
-PrivateText::PrivateText(const std::vector<std::string> &itsHomes, const std::vector<std::string> &itsNames)
-    : names{itsNames}
+PrivateText::PrivateText(const std::vector<std::string> &itsHomes, std::vector<std::string> itsNames)
+    : names{std::move(itsNames)}
 {
     for (const std::string &home : itsHomes) {
         // The root of the file system is nobody's.

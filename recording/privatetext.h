@@ -3,6 +3,7 @@
 // Texts without what tells whose machine they come from.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,7 +19,7 @@ class PrivateText
 public:
     /// The folders are those of the user, the names what the user is called; empty ones do not count. The
     /// last part of a folder is a name, too.
-    PrivateText(const std::vector<std::string> &itsHomes, const std::vector<std::string> &itsNames);
+    PrivateText(const std::vector<std::string> &itsHomes, std::vector<std::string> itsNames);
 
     /// What the environment says of the user.
     static PrivateText ofThisUser();

@@ -69,7 +69,7 @@ void CtlCompletionTest::completes_data()
     row({"set", "camera.contrastType", "=", "clhe", "camera.polarity", "=", "t"}, {"true"});
     row({"set", "camera.frameRate", "=", ""}, {"9", "25", "30", "50", "60"});
     row({"bad-pixels", "list", "--"},
-        {"--help", "--picture", "--unit", "--version", "--port", "--baud-rate"});
+        {"--help", "--picture", "--unit", "--version", "--port", "--baud-rate", "--record"});
     row({"nothing", "like", "this"}, {});
 }
 

@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QObject>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QRegularExpression>
 #include <QString>
 #include <QStringList>
@@ -24,9 +25,13 @@ struct Result
 };
 
 /// Runs the program of that folder, which finds the library that lies beside it.
-Result run(const QString &folder, const QString &program, const QStringList &arguments)
+Result run(const QString &folder, const QString &program, const QStringList &arguments,
+           const QString &recording = {})
 {
     QProcess process;
+    QProcessEnvironment environment{QProcessEnvironment::systemEnvironment()};
+    environment.insert(QStringLiteral("PILOTEL_RECORD"), recording);
+    process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.start(folder + QLatin1Char{'/'} + program + QStringLiteral(".exe"), arguments);
     if (!process.waitForFinished(120'000)) {
@@ -49,6 +54,14 @@ QByteArray contentOf(const QString &name)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray{};
 }
 
+/// The lines of a recording without their times.
+QStringList callsIn(const QString &name)
+{
+    QString text{QString::fromUtf8(contentOf(name))};
+    return text.remove(QRegularExpression{QStringLiteral(R"re("time":"[^"]*"(,"microseconds":\d+,)?)re")})
+        .split(QLatin1Char{'\n'});
+}
+
 QByteArray sumOf(const QString &name)
 {
     return QCryptographicHash::hash(contentOf(name), QCryptographicHash::Sha256).toHex();
@@ -66,6 +79,7 @@ private slots:
     void programsAreTheSame();
     void everyCheckPasses();
     void tourIsTheSame();
+    void recordingIsTheSame();
     void missingLibraryOfTheMakersIsTold();
 };
 
@@ -123,6 +137,24 @@ void MicrosoftSdkTest::tourIsTheSame()
     QCOMPARE(log.count('\n'), 259);
     QCOMPARE(contentOf(simulatedPictures.filePath(QStringLiteral("log.txt"))), log);
     QCOMPARE(contentOf(microsoftPictures.filePath(QStringLiteral("log.txt"))), log);
+}
+
+void MicrosoftSdkTest::recordingIsTheSame()
+{
+    const QTemporaryDir folder;
+    const QString simulated{folder.filePath(QStringLiteral("simulated.recording"))};
+    const QString microsoft{folder.filePath(QStringLiteral("microsoft.recording"))};
+    const QString check{QStringLiteral("pilotel-sdk-check")};
+    const QStringList arguments{QStringLiteral("--port"), QStringLiteral("SIM1"), QStringLiteral("--write"),
+                                QStringLiteral("--repeat"), QStringLiteral("1")};
+    QCOMPARE(run(SIMULATED_FOLDER, check, arguments, simulated).exitCode, 0);
+    QCOMPARE(run(MICROSOFT_FOLDER, check, arguments, microsoft).exitCode, 0);
+    const QStringList calls{callsIn(microsoft)};
+    QCOMPARE(calls, callsIn(simulated));
+    // The record that is a result, and a text that is an object.
+    QVERIFY(!calls.filter(QStringLiteral(R"("operation":"getEdgeCorrection")")).isEmpty());
+    QVERIFY(!calls.filter(QStringLiteral("Check of the SDK library on a port")).isEmpty());
+    QVERIFY(calls.size() > 400);
 }
 
 void MicrosoftSdkTest::missingLibraryOfTheMakersIsTold()
