@@ -3,7 +3,7 @@
 // Writes a line for each call that goes to the device library.
 #pragma once
 
-#include "calls/missing.h"
+#include "operations/missing.h"
 #include "calls/objects.h"
 #include "calls/parameter.h"
 #include "calls/tracefile.h"

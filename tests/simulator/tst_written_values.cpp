@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // How the journal and the trace write numbers and times.
-#include "calls/callwriter.h"
 #include "output/clock.h"
 #include "testclass.h"
+#include "values/numbertext.h"
 
 #include <QObject>
 #include <QTest>
@@ -26,7 +26,7 @@ namespace
 std::string written(float value)
 {
     std::string line;
-    appendNumber(line, {Kind::Float, static_cast<double>(value)});
+    appendNumber(line, Kind::Float, static_cast<double>(value));
     return line;
 }
 

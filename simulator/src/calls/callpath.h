@@ -3,7 +3,6 @@
 // The way that every call of the contract goes.
 #pragma once
 
-#include "calls/missing.h"
 #include "calls/objects.h"
 #include "calls/parameter.h"
 #include "calls/trace.h"
@@ -11,6 +10,7 @@
 #include "faults/activefaults.h"
 #include "faults/faultrule.h"
 #include "faults/plannedeffect.h"
+#include "operations/missing.h"
 #include "operations/operations.h"
 #include "time/life.h"
 #include "time/link.h"

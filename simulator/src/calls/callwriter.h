@@ -8,7 +8,6 @@
 #include "calls/parameter.h"
 #include "units/recordmembers.h"
 
-#include <string>
 #include <string_view>
 #include <variant>
 
@@ -20,9 +19,6 @@ struct ObjectName
 {
     std::string_view text;
 };
-
-/// Appends a number in the shortest form that reads back; of a float in single precision.
-void appendNumber(std::string &line, const Number &number);
 
 inline Number plainNumberAt(const NumbersToRead &numbers)
 {

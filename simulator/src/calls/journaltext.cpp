@@ -6,7 +6,7 @@
 #include "calls/callwriter.h"
 #include "calls/numbersat.h"
 #include "units/recordmembers.h"
-#include "values/value.h"
+#include "values/numbertext.h"
 
 #include <array>
 #include <cstddef>
@@ -57,26 +57,9 @@ public:
 private:
     void append(std::nullptr_t) { line.append("null"); }
 
-    void append(const Number &number)
-    {
-        if (number.kind == Kind::Boolean) {
-            line.append(number.value != 0.0 ? "true" : "false");
-        } else {
-            appendNumber(line, number);
-        }
-    }
+    void append(const Number &number) { appendPlain(line, number.kind, number.value); }
 
-    void append(std::string_view text)
-    {
-        line.push_back('"');
-        for (const char character : text) {
-            if (character == '"' || character == '\\' || character == '\n') {
-                line.push_back('\\');
-            }
-            line.push_back(character == '\n' ? 'n' : character);
-        }
-        line.push_back('"');
-    }
+    void append(std::string_view text) { appendQuoted(line, text); }
 
     void append(const ObjectName &object) { line.append(object.text); }
 

@@ -3,9 +3,9 @@
 // One call as the journal's line.
 #pragma once
 
-#include "calls/missing.h"
 #include "calls/objects.h"
 #include "calls/parameter.h"
+#include "operations/missing.h"
 
 #include <string>
 #include <string_view>

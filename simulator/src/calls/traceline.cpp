@@ -5,10 +5,11 @@
 
 #include "calls/callwriter.h"
 #include "calls/numbersat.h"
+#include "operations/operations.h"
 #include "output/clock.h"
 #include "units/configurationfields.h"
 #include "units/recordmembers.h"
-#include "values/value.h"
+#include "values/numbertext.h"
 
 #include <array>
 #include <chrono>
@@ -21,23 +22,6 @@ namespace veltrix_simulator
 {
 namespace
 {
-
-const char *nameOf(Interface interface)
-{
-    switch (interface) {
-    case Interface::Root:
-        return "root";
-    case Interface::Configuration:
-        return "configuration";
-    case Interface::Manager:
-        return "manager";
-    case Interface::Device:
-        return "device";
-    case Interface::Log:
-        break;
-    }
-    return "log";
-}
 
 // In the order of Missing; after the name of the operation.
 constexpr std::array<const char *, 3> missingKeys{R"(")", R"(","notOpen":true)", R"(","notHeld":true)"};
@@ -108,10 +92,8 @@ private:
 
     void append(const Number &number)
     {
-        if (number.kind == Kind::Boolean) {
-            line.append(number.value != 0.0 ? "true" : "false");
-        } else if (std::isfinite(number.value)) {
-            appendNumber(line, number);
+        if (std::isfinite(number.value)) {
+            appendPlain(line, number.kind, number.value);
         } else {
             line.append(std::isnan(number.value) ? R"("nan")" : number.value > 0 ? R"("inf")" : R"("-inf")");
         }
@@ -147,7 +129,7 @@ void beginLine(std::string &line, std::chrono::system_clock::time_point time, st
 {
     line.assign(R"({"time":")").append(formatTime(time, Precision::Microseconds));
     line.append(R"(","microseconds":)").append(std::to_string(microseconds));
-    line.append(R"(,"interface":")").append(nameOf(interface));
+    line.append(R"(,"interface":")").append(interfaceNames[static_cast<std::size_t>(interface)]);
 }
 
 } // namespace

@@ -3,9 +3,9 @@
 // One call as a line of the trace.
 #pragma once
 
-#include "calls/missing.h"
 #include "calls/objects.h"
 #include "calls/parameter.h"
+#include "operations/missing.h"
 #include "units/allowed.h"
 #include "veltrix_simulator/simulator.h"
 

@@ -54,13 +54,51 @@ constexpr void appendArgumentKinds(Kinds &kinds)
     }
 }
 
+/// A number, a text, an object or a record, as a result or in the place that a pointer leads to.
+template <typename T>
+Passed describeValue()
+{
+    Passed passed;
+    if constexpr (isRecord<T>) {
+        passed.shape = Passed::Shape::Record;
+        passed.members = membersOf<T>();
+        if constexpr (bringsMember<T>) {
+            passed.brought = broughtKind<T>();
+        }
+    } else if constexpr (std::is_same_v<T, const char *>) {
+        passed.shape = Passed::Shape::Text;
+    } else if constexpr (std::is_arithmetic_v<T>) {
+        passed.shape = Passed::Shape::Number;
+        passed.kind = kindOf<T>();
+    } else if constexpr (!std::is_void_v<T>) {
+        passed.shape = Passed::Shape::Object;
+    }
+    return passed;
+}
+
+template <typename Parameter>
+Passed describeParameter()
+{
+    using Target = std::remove_const_t<std::remove_pointer_t<Parameter>>;
+    if constexpr (std::is_pointer_v<Parameter> &&
+                  (std::is_arithmetic_v<Target> ||
+                   isRecord<Target>)&&!std::is_same_v<Parameter, const char *>) {
+        Passed passed{describeValue<Target>()};
+        passed.isFilled = std::is_same_v<Parameter, Target *>;
+        return passed;
+    } else {
+        return describeValue<Parameter>();
+    }
+}
+
 template <typename Result, typename... Parameters>
 Operation describeCall(OperationId id, Role role)
 {
-    Operation operation{id, nameOf(id).name, nameOf(id).interface, role, {}, {}};
+    Operation operation{id, nameOf(id).name, nameOf(id).interface, role, {}, {}, {}, describeValue<Result>()};
     appendKinds<Result>(operation.answer);
     (appendFilledKinds<Parameters>(operation.answer), ...);
     (appendArgumentKinds<Parameters>(operation.arguments), ...);
+    (operation.parameters.push_back(describeParameter<Parameters>()), ...);
     return operation;
 }
 

@@ -3,10 +3,12 @@
 // The operations of the contract, with what each of them takes and answers.
 #pragma once
 
+#include "units/recordmembers.h"
 #include "values/value.h"
 #include "veltrix_simulator/simulator.h"
 
 #include <cstddef>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -39,6 +41,9 @@ template <>
 inline constexpr Interface interfaceOf<veltrix_sdk::IDeviceManager> = Interface::Manager;
 template <>
 inline constexpr Interface interfaceOf<veltrix_sdk::IDeviceControl> = Interface::Device;
+
+/// The names of the interfaces in the trace, in the order of Interface.
+inline constexpr std::string_view interfaceNames[]{"root", "configuration", "manager", "device", "log"};
 
 /// What every call needs to know of its operation.
 struct OperationName
@@ -78,6 +83,25 @@ enum class Role
     Other,
 };
 
+/// A parameter or the result of an operation.
+struct Passed
+{
+    enum class Shape
+    {
+        Nothing, ///< There is no result.
+        Number,
+        Text,
+        Object, ///< An object of the contract.
+        Record,
+    };
+    Shape shape{Shape::Nothing};
+    bool isFilled{false};        ///< The call fills it in where it points to.
+    Kind kind{};                 ///< Of a number.
+    Members members{nullptr, 0}; ///< Of a record.
+    /// Of a record that the call fills in, and that brings the number that says which.
+    std::optional<Kind> brought{};
+};
+
 /// An operation with what it takes and answers.
 struct Operation
 {
@@ -89,6 +113,8 @@ struct Operation
     std::vector<Kind> answer;
     /// The numbers and texts that a call brings, the members of a record in its place.
     std::vector<Kind> arguments;
+    std::vector<Passed> parameters;
+    Passed result;
 };
 
 /// All operations, by their id.

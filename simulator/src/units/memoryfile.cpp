@@ -6,12 +6,11 @@
 #include "output/wording.h"
 #include "units/allowed.h"
 #include "units/unitnames.h"
+#include "values/jsonvalue.h"
 #include "values/value.h"
 #include "veltrix_simulator/simulator.h"
 
 #include <algorithm>
-#include <cstdint>
-#include <limits>
 #include <nlohmann/json.hpp>
 #include <utility>
 
@@ -67,23 +66,9 @@ const json &requireObject(const json &value, const std::string &name)
     return value;
 }
 
-std::optional<Value> toValue(const json &value)
-{
-    if (value.is_boolean()) {
-        return value.get<bool>();
-    }
-    if (value.is_number_float()) {
-        return value.get<double>();
-    }
-    constexpr auto largest = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
-    const bool tooLarge{value.is_number_unsigned() && value.get<std::uint64_t>() > largest};
-    return value.is_number_integer() && !tooLarge ? std::optional<Value>{value.get<std::int64_t>()}
-                                                  : std::nullopt;
-}
-
 double parseNumber(const json &value, const UnitField &row, const std::string &name)
 {
-    const std::optional<Value> given = toValue(value);
+    const std::optional<Value> given = valueOf(value);
     const std::optional<Value> converted = given ? convert(*given, row.kind) : std::nullopt;
     if (!converted) {
         refuse(name + " is not " + std::string{describe(row.kind)});

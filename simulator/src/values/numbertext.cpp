@@ -1,9 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// Which parts of a call are written and in which order, in the journal and in the trace alike.
-#include "calls/callwriter.h"
-
-#include "values/value.h"
+// How the values of calls are written for people and for programs.
+#include "values/numbertext.h"
 
 #include <charconv>
 #include <cstddef>
@@ -30,20 +28,41 @@ bool isWrittenAsInteger(double value)
 
 } // namespace
 
-void appendNumber(std::string &line, const Number &number)
+void appendNumber(std::string &line, Kind kind, double number)
 {
     // The longest is a negative double.
     char digits[32];
     char *const end = digits + sizeof digits;
     std::to_chars_result written{};
-    if (number.kind == Kind::Double) {
-        written = std::to_chars(digits, end, number.value);
-    } else if (number.kind == Kind::Float && !isWrittenAsInteger(number.value)) {
-        written = std::to_chars(digits, end, static_cast<float>(number.value));
+    if (kind == Kind::Double) {
+        written = std::to_chars(digits, end, number);
+    } else if (kind == Kind::Float && !isWrittenAsInteger(number)) {
+        written = std::to_chars(digits, end, static_cast<float>(number));
     } else {
-        written = std::to_chars(digits, end, static_cast<std::int64_t>(number.value));
+        written = std::to_chars(digits, end, static_cast<std::int64_t>(number));
     }
     line.append(digits, static_cast<std::size_t>(written.ptr - digits));
+}
+
+void appendPlain(std::string &line, Kind kind, double number)
+{
+    if (kind == Kind::Boolean) {
+        line.append(number != 0.0 ? "true" : "false");
+    } else {
+        appendNumber(line, kind, number);
+    }
+}
+
+void appendQuoted(std::string &line, std::string_view text)
+{
+    line.push_back('"');
+    for (const char character : text) {
+        if (character == '"' || character == '\\' || character == '\n') {
+            line.push_back('\\');
+        }
+        line.push_back(character == '\n' ? 'n' : character);
+    }
+    line.push_back('"');
 }
 
 } // namespace veltrix_simulator
