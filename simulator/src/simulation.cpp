@@ -79,6 +79,7 @@ void Simulation::powerOn(const Scenario &scenario)
 {
     state.reset();
     path.start(scenario.link, scenario.life, scenario.faults, scenario.seed);
+    player.start(scenario.play);
     state.ports = scenario.ports;
     for (const auto &[key, value] : scenario.values) {
         state.set(key, value);

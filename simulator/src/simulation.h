@@ -9,6 +9,7 @@
 #include "contract/devicemanager.h"
 #include "contract/sdkroot.h"
 #include "output/logoutput.h"
+#include "recordings/player.h"
 #include "scenarios/scenario.h"
 #include "units/badpixels.h"
 #include "units/memory.h"
@@ -52,7 +53,8 @@ struct Simulation
     SimulatedDeviceManager manager{path, state, log, device};
     SimulatedSdk sdk{path, log, configuration, manager};
     State state{configuration.words};
-    CallPath path{state, {&sdk, &configuration, &manager, &device}};
+    Player player{log};
+    CallPath path{state, {&sdk, &configuration, &manager, &device}, player};
     std::vector<const char *> names; ///< What portNames() returned last.
 
 private:

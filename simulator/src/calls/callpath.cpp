@@ -8,6 +8,8 @@
 #include "calls/traceline.h"
 #include "faults/alteredstate.h"
 #include "faults/effects.h"
+#include "recordings/recordedcall.h"
+#include "recordings/recording.h"
 #include "units/recordmembers.h"
 #include "values/value.h"
 
@@ -57,7 +59,8 @@ void CallPath::start(const Link &itsLink, const Life &life, const std::vector<Fa
     }
 }
 
-void CallPath::pass(OperationId operation, Parameters parameters, const ResultPlace &result, const Work &work)
+void CallPath::pass(OperationId operation, Parameters parameters, const ResultPlace &result, const Work &work,
+                    const Lesson &learn)
 {
     const int target{state.target};
     const CallTime begun{trace.isOn() ? CallTime::now() : CallTime{}};
@@ -67,20 +70,10 @@ void CallPath::pass(OperationId operation, Parameters parameters, const ResultPl
     const bool isAnswered{isOpen && (!isOfDevice || deviceAnswers())};
     callsNotOpen += isOpen ? 0 : 1;
 
-    std::optional<PlannedEffect> planned;
-    if (isAnswered && !faults.isEmpty()) {
-        planned = plan(operation, parameters);
-    }
-    if (isOfDevice && isOpen) {
-        letTimePass();
-    }
-    const bool isAllThere{prepare(parameters, planned && planned->leavesOutputs)};
-    if (isAnswered && isAllThere) {
-        if (planned) {
-            workUnder(*planned, parameters, result, work);
-        } else {
-            work();
-        }
+    if (isAnswered && player.isOn() && operation != OperationId::log) {
+        play(operation, parameters, result, work, learn);
+    } else {
+        simulate(operation, parameters, result, work, isAnswered);
     }
 
     if (journalEnabled) {
@@ -91,11 +84,70 @@ void CallPath::pass(OperationId operation, Parameters parameters, const ResultPl
     }
 }
 
+void CallPath::simulate(OperationId operation, Parameters parameters, const ResultPlace &result,
+                        const Work &work, bool isAnswered)
+{
+    std::optional<PlannedEffect> planned;
+    if (isAnswered && !faults.isEmpty()) {
+        planned = plan(operation, parameters);
+    }
+    if (nameOf(operation).interface == Interface::Device && state.deviceOpen) {
+        letTimePass();
+    }
+    const bool isAllThere{prepare(parameters, planned && planned->leavesOutputs)};
+    if (isAnswered && isAllThere) {
+        if (planned) {
+            workUnder(*planned, parameters, result, work);
+        } else {
+            work();
+        }
+    }
+}
+
+void CallPath::play(OperationId operation, Parameters parameters, const ResultPlace &result, const Work &work,
+                    const Lesson &learn)
+{
+    const Operation &description = operationOf(operation);
+    writeCallText(callText, description.name, objects, parameters);
+    const RecordedAnswer *const answer{player.answerTo(description, state.target, callText)};
+    if (answer != nullptr) {
+        playAnswer(*answer, operation, parameters, result, work);
+        const std::vector<Value> readings{readingsOf(description, answer->answer)};
+        if (readsValues(description) && answer->succeeded && !readings.empty()) {
+            learn(readings);
+        }
+    } else if (!player.refusesMissing() || operation == OperationId::get_instance) {
+        simulate(operation, parameters, result, work, true);
+    } else {
+        prepare(parameters, false);
+    }
+}
+
+void CallPath::playAnswer(const RecordedAnswer &answer, OperationId operation, Parameters parameters,
+                          const ResultPlace &result, const Work &work)
+{
+    player.passTime(answer);
+    const bool isAllThere{prepare(parameters, !answer.hasOutputs)};
+    const Role role{operationOf(operation).role};
+    // The state follows what the device did. The files of saved parameters and of bad pixels do not: the
+    // recording does not say what was in them.
+    const bool isFollowed{role == Role::Stores || role == Role::Other || operation == OperationId::setTarget};
+    if (answer.succeeded && isFollowed && isAllThere) {
+        state.storesAnything = true;
+        work();
+        state.storesAnything = false;
+    }
+    for (const auto &[row, number] : answer.words) {
+        state.words.*row->word = number;
+    }
+    fillInAnswer(answer.answer, !answer.hasOutputs, parameters, result);
+}
+
 void CallPath::workUnder(const PlannedEffect &planned, Parameters parameters, const ResultPlace &result,
                          const Work &work)
 {
     if (planned.answer) {
-        fillInAnswer(planned, parameters, result);
+        fillInAnswer(*planned.answer, planned.leavesOutputs, parameters, result);
     } else if (rowOf(planned.effect).works()) {
         const AlteredState altered{state, planned};
         work();
@@ -120,9 +172,10 @@ std::optional<PlannedEffect> CallPath::plan(OperationId operation, Parameters pa
     return planned;
 }
 
-void CallPath::fillInAnswer(const PlannedEffect &planned, Parameters parameters, const ResultPlace &result)
+void CallPath::fillInAnswer(const std::vector<Value> &answer, bool leavesOutputs, Parameters parameters,
+                            const ResultPlace &result)
 {
-    AnswerReader reader{*planned.answer};
+    AnswerReader reader{answer};
     if (const auto *const numbers = std::get_if<NumbersToFill>(&result.content())) {
         reader.fill(*numbers);
     } else if (const auto *const text = std::get_if<ResultPlace::Text>(&result.content())) {
@@ -131,7 +184,7 @@ void CallPath::fillInAnswer(const PlannedEffect &planned, Parameters parameters,
     } else if (const auto *const object = std::get_if<ResultPlace::Object>(&result.content())) {
         object->write(object->place, std::get<bool>(reader.next()) ? &objects : nullptr);
     }
-    if (planned.leavesOutputs) {
+    if (leavesOutputs) {
         return;
     }
     for (const Parameter &parameter : parameters) {

@@ -12,6 +12,7 @@
 #include "faults/plannedeffect.h"
 #include "operations/missing.h"
 #include "operations/operations.h"
+#include "recordings/player.h"
 #include "time/life.h"
 #include "time/link.h"
 #include "units/state.h"
@@ -46,12 +47,39 @@ private:
     void (*run)(const void *called);
 };
 
+/// What a read that a recording answers shows of the state: a function object that lives as long as the call.
+/// It is given the values that were read.
+class Lesson
+{
+public:
+    template <typename Function>
+    explicit Lesson(const Function &itsFunction)
+        : function{&itsFunction}, run{[](const void *called, const std::vector<Value> &values) {
+              (*static_cast<const Function *>(called))(values);
+          }}
+    {}
+
+    void operator()(const std::vector<Value> &values) const { run(function, values); }
+
+private:
+    const void *function;
+    void (*run)(const void *called, const std::vector<Value> &values);
+};
+
+/// Of a call that reads nothing.
+struct NoLesson
+{
+    void operator()(const std::vector<Value> & /*values*/) const {}
+};
+
 /// Counts the calls, lets the time of the link and of the units pass, applies the faults, keeps the journal
 /// and writes the trace, for all operations alike.
 class CallPath
 {
 public:
-    CallPath(State &itsState, const Objects &itsObjects) : state{itsState}, objects{itsObjects} {}
+    CallPath(State &itsState, const Objects &itsObjects, Player &itsPlayer)
+        : player{itsPlayer}, state{itsState}, objects{itsObjects}
+    {}
 
     /// Power-on: an empty journal, switched on, and this link, this life and these faults; the seed settles
     /// what is drawn. Throws std::invalid_argument when one of them cannot be played.
@@ -62,10 +90,11 @@ public:
 
     /// Runs one operation, whose parameters are given in its own order. The work runs only when the call
     /// reaches what it was made on, nothing that it reads or fills in is missing, and no fault is in the way.
-    /// What it has to fill in is zero before.
-    template <typename Function>
+    /// What it has to fill in is zero before. While a recording is played, its answer replaces that of the
+    /// work, and the lesson learns from what was read.
+    template <typename Function, typename Learning = NoLesson>
     std::invoke_result_t<const Function &> call(OperationId operation, Parameters parameters,
-                                                const Function &work)
+                                                const Function &work, const Learning &learn = {})
     {
         using Result = std::invoke_result_t<const Function &>;
         // A call that nothing can happen to does its work and nothing else: the time of a program that is
@@ -74,13 +103,13 @@ public:
             return work();
         }
         if constexpr (std::is_void_v<Result>) {
-            pass(operation, parameters, ResultPlace{}, Work{work});
+            pass(operation, parameters, ResultPlace{}, Work{work}, Lesson{learn});
         } else {
             Result result{zero<Result>()};
             const auto answer = [&] {
                 result = work();
             };
-            pass(operation, parameters, ResultPlace{&result}, Work{answer});
+            pass(operation, parameters, ResultPlace{&result}, Work{answer}, Lesson{learn});
             return result;
         }
     }
@@ -98,14 +127,23 @@ public:
     ActiveFaults &activeFaults() { return faults; }
 
 private:
-    void pass(OperationId operation, Parameters parameters, const ResultPlace &result, const Work &work);
+    void pass(OperationId operation, Parameters parameters, const ResultPlace &result, const Work &work,
+              const Lesson &learn);
+    /// A call that faults and time may change.
+    void simulate(OperationId operation, Parameters parameters, const ResultPlace &result, const Work &work,
+                  bool isAnswered);
+    /// A call while a recording is played.
+    void play(OperationId operation, Parameters parameters, const ResultPlace &result, const Work &work,
+              const Lesson &learn);
+    void playAnswer(const RecordedAnswer &answer, OperationId operation, Parameters parameters,
+                    const ResultPlace &result, const Work &work);
 
-    /// Whether nothing is switched on (journal, trace, faults, time), and the device is open and answers.
-    /// Then the manager is held, too.
+    /// Whether nothing is switched on (journal, trace, faults, time, recording), and the device is open and
+    /// answers. Then the manager is held, too.
     bool goesTheShortWay() const
     {
-        return !journalEnabled && !trace.isOn() && faults.isEmpty() && !takesTime() && state.deviceOpen &&
-               deviceAnswers();
+        return !journalEnabled && !trace.isOn() && faults.isEmpty() && !takesTime() && !player.isOn() &&
+               state.deviceOpen && deviceAnswers();
     }
 
     /// Whether the open device answers: its cable is in, and it is not silent.
@@ -127,8 +165,9 @@ private:
     /// state, or does nothing.
     void workUnder(const PlannedEffect &planned, Parameters parameters, const ResultPlace &result,
                    const Work &work);
-    /// Puts the values of an effect's answer into the result and into what the call fills in.
-    void fillInAnswer(const PlannedEffect &planned, Parameters parameters, const ResultPlace &result);
+    /// Puts the values of an answer into the result and, unless that is to stay, into what the call fills in.
+    void fillInAnswer(const std::vector<Value> &answer, bool leavesOutputs, Parameters parameters,
+                      const ResultPlace &result);
 
     void keepInJournal(OperationId operation, int target, Missing missing, Parameters parameters,
                        const ResultPlace &result);
@@ -151,12 +190,15 @@ private:
     std::size_t callsNotOpen{0};
     ActiveFaults faults;
     Trace trace;
+    Player &player;
     State &state;
     const Objects objects;
     LinkTime link{{}, 0};
     UnitTime unitTime{{}};
     std::string line;     ///< Text of the latest call; a member, so that its memory is used again.
-    std::string heldText; ///< A fault's answer that is a text; its caller points to it until the next one.
+    std::string callText; ///< What a recording knows the latest call by.
+    std::string heldText; ///< An answer that is a text and not of the state; its caller points to it until
+                          ///< the next one.
 };
 
 } // namespace veltrix_simulator

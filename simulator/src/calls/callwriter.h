@@ -35,12 +35,17 @@ class CallWriter
 public:
     CallWriter(Form &itsForm, const Objects &itsObjects) : form{itsForm}, objects{itsObjects} {}
 
-    void write(Parameters parameters, const ResultPlace &result) const
+    void writeArguments(Parameters parameters) const
     {
         for (const Parameter &parameter : parameters) {
             writeArgument(parameter);
         }
         form.endArguments();
+    }
+
+    void write(Parameters parameters, const ResultPlace &result) const
+    {
+        writeArguments(parameters);
         writeResult(result);
         for (const Parameter &parameter : parameters) {
             writeOutput(parameter);

@@ -92,4 +92,12 @@ void writeJournalText(std::string &line, std::string_view operation, Missing mis
     CallWriter{form, objects}.write(parameters, result);
 }
 
+void writeCallText(std::string &line, std::string_view operation, const Objects &objects,
+                   Parameters parameters)
+{
+    line.assign(operation).push_back('(');
+    JournalForm form{line};
+    CallWriter{form, objects}.writeArguments(parameters);
+}
+
 } // namespace veltrix_simulator

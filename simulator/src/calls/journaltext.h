@@ -18,4 +18,8 @@ namespace veltrix_simulator
 void writeJournalText(std::string &line, std::string_view operation, Missing missing, const Objects &objects,
                       Parameters parameters, const ResultPlace &result);
 
+/// Writes the call alone: its operation and what it brings.
+void writeCallText(std::string &line, std::string_view operation, const Objects &objects,
+                   Parameters parameters);
+
 } // namespace veltrix_simulator

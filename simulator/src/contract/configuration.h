@@ -9,8 +9,12 @@
 #include "units/state.h"
 #include "values/value.h"
 #include "veltrix_sdk/configuration.h"
+#include "veltrix_simulator/simulator.h"
 
 #include <cstdint>
+#include <string>
+#include <variant>
+#include <vector>
 
 namespace veltrix_simulator
 {
@@ -31,14 +35,21 @@ public:
 #define WORD_VALUE(operation, word)                                                                          \
     std::int32_t operation() override                                                                        \
     {                                                                                                        \
-        return path.call(OperationId::operation, {}, [&] { return words.word; });                            \
+        return path.call(                                                                                    \
+            OperationId::operation, {}, [&] { return words.word; },                                          \
+            [&](const std::vector<Value> &shown) {                                                           \
+                words.word = static_cast<std::int32_t>(toNumber(shown.front()));                             \
+            });                                                                                              \
     }
 #include "units/configurationfields.inc"
 
     const char *getCommunicationType() override
     {
-        return path.call(OperationId::getCommunicationType, {},
-                         [&] { return state.communicationType.c_str(); });
+        return path.call(
+            OperationId::getCommunicationType, {}, [&] { return state.communicationType.c_str(); },
+            [&](const std::vector<Value> &shown) {
+                state.communicationType = std::get<std::string>(shown.front());
+            });
     }
     void setBaudRate(std::int32_t baudRate) override
     {
@@ -49,7 +60,9 @@ private:
     template <ConfigurationField field>
     TypeOf<rowOf(field).kind> get(OperationId operation)
     {
-        return path.call(operation, {}, [&] { return static_cast<TypeOf<rowOf(field).kind>>(state[field]); });
+        return path.call(
+            operation, {}, [&] { return static_cast<TypeOf<rowOf(field).kind>>(state[field]); },
+            [&](const std::vector<Value> &shown) { state[field] = toNumber(shown.front()); });
     }
 
     CallPath &path;

@@ -88,20 +88,27 @@ bool UnitAccess::configureEdge(OperationId operation, Parameters parameters)
 
 veltrix_sdk::EdgeCorrection UnitAccess::getEdge(OperationId operation)
 {
-    return call(operation, {}, [&] {
-        veltrix_sdk::EdgeCorrection correction{};
-        load(NumbersToFill{&correction});
-        return correction;
-    });
+    return call(
+        operation, {},
+        [&] {
+            veltrix_sdk::EdgeCorrection correction{};
+            load(NumbersToFill{&correction});
+            return correction;
+        },
+        [&](const std::vector<Value> &shown) { state.learn(Field::edgeType, shown); });
 }
 
 std::uint32_t UnitAccess::getRoi(OperationId operation, Field coordinate, std::uint32_t region)
 {
-    return call(operation, {region}, [&] {
-        return region < veltrix_sdk::regionCount
-                   ? static_cast<std::uint32_t>(unit()[coordinate + region * fieldsOfRegion])
-                   : 0;
-    });
+    const bool known{region < veltrix_sdk::regionCount};
+    const Field field{known ? coordinate + region * fieldsOfRegion : coordinate};
+    return call(
+        operation, {region}, [&] { return known ? static_cast<std::uint32_t>(unit()[field]) : 0; },
+        [&](const std::vector<Value> &shown) {
+            if (known) {
+                state.learn(field, shown);
+            }
+        });
 }
 
 bool UnitAccess::setRoi(OperationId operation, Field coordinate, std::int32_t region, Parameters parameters)
@@ -125,13 +132,20 @@ bool UnitAccess::setWarpOf(OperationId operation, std::int32_t stream, Parameter
 
 bool UnitAccess::getWarpOf(OperationId operation, veltrix_sdk::Warp *warp)
 {
-    return call(operation, {warp}, [&] {
-        const bool known{isWarpStream(warp->stream)};
-        if (known) {
-            load(NumbersToFill{warp}, warpField(warp->stream) - Field::warp0A11);
-        }
-        return known;
-    });
+    return call(
+        operation, {warp},
+        [&] {
+            const bool known{isWarpStream(warp->stream)};
+            if (known) {
+                load(NumbersToFill{warp}, warpField(warp->stream) - Field::warp0A11);
+            }
+            return known;
+        },
+        [&](const std::vector<Value> &shown) {
+            if (isWarpStream(warp->stream)) {
+                state.learn(warpField(warp->stream), shown);
+            }
+        });
 }
 
 bool UnitAccess::select(OperationId operation, std::int32_t target)

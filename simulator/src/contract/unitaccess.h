@@ -15,10 +15,12 @@
 #include "values/value.h"
 #include "veltrix_sdk/numbers.h"
 #include "veltrix_sdk/records.h"
+#include "veltrix_simulator/simulator.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <type_traits>
+#include <vector>
 
 namespace veltrix_simulator
 {
@@ -34,39 +36,49 @@ public:
 protected:
     ~UnitAccess() = default;
 
-    template <typename Function>
+    template <typename Function, typename Learning = NoLesson>
     std::invoke_result_t<const Function &> call(OperationId operation, Parameters parameters,
-                                                const Function &work)
+                                                const Function &work, const Learning &learn = {})
     {
-        return path.call(operation, parameters, work);
+        return path.call(operation, parameters, work, learn);
     }
 
     /// A read of one value as the result.
     template <Field field>
     TypeOf<rowOf(field).kind> get(OperationId operation)
     {
-        return call(operation, {}, [&] { return static_cast<TypeOf<rowOf(field).kind>>(unit()[field]); });
+        return call(
+            operation, {}, [&] { return static_cast<TypeOf<rowOf(field).kind>>(unit()[field]); },
+            [&](const std::vector<Value> &shown) { state.learn(field, shown); });
     }
 
     /// A read of one value into the number that is the only parameter.
     template <typename Result = bool>
     Result fill(OperationId operation, Field field, Parameters filled)
     {
-        return call(operation, filled, [&] {
-            const NumbersToFill &number = *filled.begin()->filledMemory();
-            number.set(*number.members().begin(), unit()[field]);
-            return Result{1};
-        });
+        return call(
+            operation, filled,
+            [&] {
+                const NumbersToFill &number = *filled.begin()->filledMemory();
+                number.set(*number.members().begin(), unit()[field]);
+                return Result{1};
+            },
+            [&](const std::vector<Value> &shown) { state.learn(field, shown); });
     }
 
     /// A read into the record that is the only parameter: its members know their fields.
     template <typename Result = bool>
     Result fill(OperationId operation, Parameters filled)
     {
-        return call(operation, filled, [&] {
-            load(*filled.begin()->filledMemory());
-            return Result{1};
-        });
+        return call(
+            operation, filled,
+            [&] {
+                load(*filled.begin()->filledMemory());
+                return Result{1};
+            },
+            [&](const std::vector<Value> &shown) {
+                state.learn(filled.begin()->filledMemory()->members().begin()->field, shown);
+            });
     }
 
     /// A write of the numbers that the call brings into the fields from `first` on.

@@ -4,7 +4,9 @@
 #pragma once
 
 #include <chrono>
+#include <optional>
 #include <string>
+#include <string_view>
 
 namespace veltrix_simulator
 {
@@ -18,5 +20,9 @@ enum class Precision
 
 /// A time in UTC, such as "2026-03-14T09:26:53.589Z" or "2026-03-14T09:26:53.589793Z".
 std::string formatTime(std::chrono::system_clock::time_point time, Precision precision);
+
+/// The microseconds from 1970 to a time that is written so, with any digits behind the point or with none;
+/// nothing when the text is no such time.
+std::optional<std::chrono::microseconds> parseTime(std::string_view text);
 
 } // namespace veltrix_simulator

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "faults/faultrule.h"
+#include "recordings/player.h"
 #include "time/life.h"
 #include "time/link.h"
 #include "units/port.h"
@@ -37,7 +38,9 @@ struct Scenario
     Link link;
     std::vector<FaultRule> faults;
     Life life;
-    std::string memoryFile; ///< Where saved parameters are kept; empty: they are not kept.
+    std::string recordingFile; ///< As it is written, seen from the folder of the scenario; empty: none.
+    Play play;                 ///< With what is in that file.
+    std::string memoryFile;    ///< Where saved parameters are kept; empty: they are not kept.
 };
 
 } // namespace veltrix_simulator

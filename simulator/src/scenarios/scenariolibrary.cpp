@@ -5,12 +5,15 @@
 
 #include "output/process.h"
 #include "output/wording.h"
+#include "recordings/player.h"
+#include "recordings/recording.h"
 #include "scenarios/limits.h"
 #include "scenarios/scenarioreader.h"
 
 #include <cstddef>
 #include <filesystem>
 #include <fstream>
+#include <memory>
 #include <optional>
 #include <system_error>
 #include <utility>
@@ -49,6 +52,29 @@ std::optional<std::string> bytesOf(const std::string &name)
     return bytes;
 }
 
+/// Loads what the scenario plays; what is wrong with it, if something is.
+std::optional<std::string> loadPlay(Scenario &scenario, const std::string &fileName)
+{
+    if (scenario.recordingFile.empty()) {
+        return std::nullopt;
+    }
+    const std::filesystem::path folder{std::filesystem::u8path(fileName).parent_path()};
+    std::variant<Recording, std::string> loaded =
+        loadRecording((folder / std::filesystem::u8path(scenario.recordingFile)).u8string());
+    if (auto *const reason = std::get_if<std::string>(&loaded)) {
+        return std::move(*reason);
+    }
+    auto recording = std::make_shared<const Recording>(std::get<Recording>(std::move(loaded)));
+    if (!recording->ports.empty()) {
+        scenario.ports.clear();
+        for (const std::string &name : recording->ports) {
+            scenario.ports.push_back({name});
+        }
+    }
+    scenario.play.recording = std::move(recording);
+    return std::nullopt;
+}
+
 std::variant<Scenario, std::string> read(std::string_view text, const std::string &fileName,
                                          const std::string &asked)
 {
@@ -57,6 +83,9 @@ std::variant<Scenario, std::string> read(std::string_view text, const std::strin
         return error->message();
     }
     auto &scenario = std::get<Scenario>(result);
+    if (std::optional<std::string> reason = loadPlay(scenario, fileName)) {
+        return *std::move(reason);
+    }
     // Without its folder, so that traces of the same file can be compared wherever it lies.
     scenario.name = asked.substr(asked.find_last_of("/\\") + 1);
     return std::move(scenario);

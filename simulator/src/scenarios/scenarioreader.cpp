@@ -5,6 +5,7 @@
 
 #include "faults/faultrule.h"
 #include "output/wording.h"
+#include "recordings/player.h"
 #include "scenarios/entry.h"
 #include "scenarios/faultreader.h"
 #include "scenarios/limits.h"
@@ -36,6 +37,7 @@ constexpr Choice<Link::Kind> linkKinds[]{
     {Link::Kind::None, "none"},
     {Link::Kind::Fixed, fixedLink},
     {Link::Kind::Serial, serialLink},
+    {Link::Kind::Recorded, "recorded"},
 };
 
 const std::vector<Belonging> &linkBelongings()
@@ -230,6 +232,34 @@ constexpr Setting<std::string> memorySettings[]{
      }},
 };
 
+constexpr std::string_view recordingKey{"recording"};
+
+constexpr Choice<MissingCalls> missingCallsRules[]{
+    {MissingCalls::Refuse, "refuse"},
+    {MissingCalls::Simulate, "simulate"},
+};
+
+/// What only plays with a recording, and what a recording has of its own.
+void checkPlay(const Entry &file, Scenario &scenario)
+{
+    const std::optional<Entry> recording = file.find(recordingKey);
+    if (!recording) {
+        if (const std::optional<Entry> rule = file.find("missingCalls")) {
+            rule->fail("stands only where there is a recording");
+        }
+        if (scenario.link.kind == Link::Kind::Recorded) {
+            file.find("link")->find("kind")->fail("is \"recorded\" only where there is a recording");
+        }
+        return;
+    }
+    for (const std::string_view key : {"port", "fault", "life", "memory"}) {
+        if (const std::optional<Entry> other = file.find(key)) {
+            other->fail("cannot stand beside a recording, which settles it");
+        }
+    }
+    scenario.play.takesRecordedTime = scenario.link.kind == Link::Kind::Recorded;
+}
+
 template <std::int32_t target>
 void readUnitOf(const Entry &entry, Scenario &scenario)
 {
@@ -248,6 +278,14 @@ constexpr Setting<Scenario> scenarioSettings[]{
     {"port",
      [](const Entry &entry, Scenario &scenario) {
          readPorts(entry, scenario.ports);
+     }},
+    {recordingKey,
+     [](const Entry &entry, Scenario &scenario) {
+         scenario.recordingFile = entry.text();
+     }},
+    {"missingCalls",
+     [](const Entry &entry, Scenario &scenario) {
+         scenario.play.missingCalls = chosen(entry, missingCallsRules);
      }},
     {"link",
      [](const Entry &entry, Scenario &scenario) {
@@ -325,6 +363,7 @@ std::variant<Scenario, ScenarioError> readScenario(std::string_view text, const 
         const Entry file{std::get<TomlNode>(parsed), {}, fileName};
         readTable(file, scenarioSettings, scenario);
         refuseLifeWithoutTime(file, scenario);
+        checkPlay(file, scenario);
         return scenario;
     } catch (ScenarioError &error) {
         return std::move(error);

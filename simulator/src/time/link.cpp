@@ -44,6 +44,7 @@ microseconds LinkTime::next(std::int32_t baudRate)
     microseconds time{0};
     switch (link.kind) {
     case Link::Kind::None:
+    case Link::Kind::Recorded:
         return time;
     case Link::Kind::Fixed:
         time = bounded(link.perCall);

@@ -25,16 +25,17 @@ struct Link
 {
     enum class Kind
     {
-        None,   ///< No time of its own.
-        Fixed,  ///< perCall.
-        Serial, ///< bytesPerCommand at ten bits a byte and the baud rate, and thinkTime.
+        None,     ///< No time of its own.
+        Fixed,    ///< perCall.
+        Recorded, ///< What each call took in the recording that is played.
+        Serial,   ///< bytesPerCommand at ten bits a byte and the baud rate, and thinkTime.
     };
     Kind kind{Kind::None};
     std::chrono::microseconds perCall{0};
     std::uint32_t bytesPerCommand{24}; ///< Command and answer together.
     std::int32_t baudRate{0};          ///< Bits per second; 0: the rate that the program set last.
     std::chrono::microseconds thinkTime{0};
-    std::chrono::microseconds jitter{0}; ///< Up to so much more, drawn from the seed; of every kind but None.
+    std::chrono::microseconds jitter{0}; ///< Up to so much more, drawn from the seed; of Fixed and Serial.
 };
 
 class LinkTime
@@ -42,7 +43,7 @@ class LinkTime
 public:
     LinkTime(const Link &itsLink, std::uint64_t seed) : link{itsLink}, jitter{seed, "link"} {}
 
-    bool passes() const { return link.kind != Link::Kind::None; }
+    bool passes() const { return link.kind == Link::Kind::Fixed || link.kind == Link::Kind::Serial; }
 
     /// What the next call takes, bounded, at this many bits per second; a rate of the link itself replaces
     /// it.

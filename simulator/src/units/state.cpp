@@ -94,6 +94,7 @@ void State::reset()
     deviceOpen = false;
     silent = false;
     cableOut = false;
+    storesAnything = false;
     storesAreLost = false;
     lost.clear();
     baudRateIsChosen = false;
@@ -228,7 +229,7 @@ bool State::store(Field first, const double *begin, const double *end)
 {
     Field field{first};
     for (const double *number{begin}; number != end; ++number) {
-        if (!rowOf(field).allowed.accepts(*number, words)) {
+        if (!storesAnything && !rowOf(field).allowed.accepts(*number, words)) {
             return false;
         }
         field = field + 1;
@@ -239,6 +240,15 @@ bool State::store(Field first, const double *begin, const double *end)
         field = field + 1;
     }
     return true;
+}
+
+void State::learn(Field first, const std::vector<Value> &shown)
+{
+    Field field{first};
+    for (const Value &value : shown) {
+        addressed()[field] = toNumber(value);
+        field = field + 1;
+    }
 }
 
 void State::noteLost(const UnitPlace &place)

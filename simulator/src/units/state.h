@@ -72,6 +72,9 @@ public:
     static UnitPlace placeOfNumber(std::string_view key);
     double &operator[](const UnitPlace &place) { return units[place.target][place.field]; }
 
+    /// Takes over values that the addressed unit is known to hold, in the fields from `first` on.
+    void learn(Field first, const std::vector<Value> &shown);
+
     /// Opens the device after a power cycle: the Blend Unit is addressed, and what a fault did not let the
     /// units keep is as before.
     void open(bool isSilent);
@@ -84,9 +87,10 @@ public:
     /// The manager was fetched and is not released. No device is open without it.
     bool managerHeld{false};
     bool deviceOpen{false};
-    bool silent{false};        ///< The device that is open never answers.
-    bool cableOut{false};      ///< Nothing reaches the device until it is opened again.
-    bool storesAreLost{false}; ///< What is stored now lasts until the device is opened again.
+    bool silent{false};         ///< The device that is open never answers.
+    bool cableOut{false};       ///< Nothing reaches the device until it is opened again.
+    bool storesAnything{false}; ///< What is stored now was accepted by a real device, whatever it is.
+    bool storesAreLost{false};  ///< What is stored now lasts until the device is opened again.
     std::array<Unit, unitCount> units{};
     std::array<double, configurationFields.size()> configuration{};
     std::vector<Port> ports;
