@@ -113,13 +113,15 @@ void CallPath::play(OperationId operation, Parameters parameters, const ResultPl
     if (answer != nullptr) {
         playAnswer(*answer, operation, parameters, result, work);
         const std::vector<Value> readings{readingsOf(description, answer->answer)};
-        if (readsValues(description) && answer->succeeded && !readings.empty()) {
-            learn(readings);
+        if (readsValues(description) && answer->succeeded && !readings.empty() && !learn(readings)) {
+            work();
         }
-    } else if (!player.refusesMissing() || operation == OperationId::get_instance) {
-        simulate(operation, parameters, result, work, true);
-    } else {
+    } else if (player.refuses(description)) {
         prepare(parameters, false);
+    } else {
+        state.storedBy = StoredBy::Beyond;
+        simulate(operation, parameters, result, work, true);
+        state.storedBy = StoredBy::Program;
     }
 }
 
@@ -133,9 +135,9 @@ void CallPath::playAnswer(const RecordedAnswer &answer, OperationId operation, P
     // recording does not say what was in them.
     const bool isFollowed{role == Role::Stores || role == Role::Other || operation == OperationId::setTarget};
     if (answer.succeeded && isFollowed && isAllThere) {
-        state.storesAnything = true;
+        state.storedBy = StoredBy::Recording;
         work();
-        state.storesAnything = false;
+        state.storedBy = StoredBy::Program;
     }
     for (const auto &[row, number] : answer.words) {
         state.words.*row->word = number;

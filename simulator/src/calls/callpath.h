@@ -47,29 +47,29 @@ private:
     void (*run)(const void *called);
 };
 
-/// What a read that a recording answers shows of the state: a function object that lives as long as the call.
-/// It is given the values that were read.
+/// Puts the values that a recorded read answered into the state: a function object that lives as long as the
+/// call. False when the state knows better, because the program has set something else meanwhile.
 class Lesson
 {
 public:
     template <typename Function>
     explicit Lesson(const Function &itsFunction)
         : function{&itsFunction}, run{[](const void *called, const std::vector<Value> &values) {
-              (*static_cast<const Function *>(called))(values);
+              return (*static_cast<const Function *>(called))(values);
           }}
     {}
 
-    void operator()(const std::vector<Value> &values) const { run(function, values); }
+    bool operator()(const std::vector<Value> &values) const { return run(function, values); }
 
 private:
     const void *function;
-    void (*run)(const void *called, const std::vector<Value> &values);
+    bool (*run)(const void *called, const std::vector<Value> &values);
 };
 
 /// Of a call that reads nothing.
 struct NoLesson
 {
-    void operator()(const std::vector<Value> & /*values*/) const {}
+    bool operator()(const std::vector<Value> & /*values*/) const { return true; }
 };
 
 /// Counts the calls, lets the time of the link and of the units pass, applies the faults, keeps the journal

@@ -39,6 +39,7 @@ public:
             OperationId::operation, {}, [&] { return words.word; },                                          \
             [&](const std::vector<Value> &shown) {                                                           \
                 words.word = static_cast<std::int32_t>(toNumber(shown.front()));                             \
+                return true;                                                                                 \
             });                                                                                              \
     }
 #include "units/configurationfields.inc"
@@ -49,6 +50,7 @@ public:
             OperationId::getCommunicationType, {}, [&] { return state.communicationType.c_str(); },
             [&](const std::vector<Value> &shown) {
                 state.communicationType = std::get<std::string>(shown.front());
+                return true;
             });
     }
     void setBaudRate(std::int32_t baudRate) override
@@ -62,7 +64,10 @@ private:
     {
         return path.call(
             operation, {}, [&] { return static_cast<TypeOf<rowOf(field).kind>>(state[field]); },
-            [&](const std::vector<Value> &shown) { state[field] = toNumber(shown.front()); });
+            [&](const std::vector<Value> &shown) {
+                state[field] = toNumber(shown.front());
+                return true;
+            });
     }
 
     CallPath &path;

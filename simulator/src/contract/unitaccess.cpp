@@ -95,7 +95,7 @@ veltrix_sdk::EdgeCorrection UnitAccess::getEdge(OperationId operation)
             load(NumbersToFill{&correction});
             return correction;
         },
-        [&](const std::vector<Value> &shown) { state.learn(Field::edgeType, shown); });
+        [&](const std::vector<Value> &shown) { return state.learn(Field::edgeType, shown); });
 }
 
 std::uint32_t UnitAccess::getRoi(OperationId operation, Field coordinate, std::uint32_t region)
@@ -104,11 +104,7 @@ std::uint32_t UnitAccess::getRoi(OperationId operation, Field coordinate, std::u
     const Field field{known ? coordinate + region * fieldsOfRegion : coordinate};
     return call(
         operation, {region}, [&] { return known ? static_cast<std::uint32_t>(unit()[field]) : 0; },
-        [&](const std::vector<Value> &shown) {
-            if (known) {
-                state.learn(field, shown);
-            }
-        });
+        [&](const std::vector<Value> &shown) { return !known || state.learn(field, shown); });
 }
 
 bool UnitAccess::setRoi(OperationId operation, Field coordinate, std::int32_t region, Parameters parameters)
@@ -142,9 +138,7 @@ bool UnitAccess::getWarpOf(OperationId operation, veltrix_sdk::Warp *warp)
             return known;
         },
         [&](const std::vector<Value> &shown) {
-            if (isWarpStream(warp->stream)) {
-                state.learn(warpField(warp->stream), shown);
-            }
+            return !isWarpStream(warp->stream) || state.learn(warpField(warp->stream), shown);
         });
 }
 

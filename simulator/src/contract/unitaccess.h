@@ -49,7 +49,7 @@ protected:
     {
         return call(
             operation, {}, [&] { return static_cast<TypeOf<rowOf(field).kind>>(unit()[field]); },
-            [&](const std::vector<Value> &shown) { state.learn(field, shown); });
+            [&](const std::vector<Value> &shown) { return state.learn(field, shown); });
     }
 
     /// A read of one value into the number that is the only parameter.
@@ -63,7 +63,7 @@ protected:
                 number.set(*number.members().begin(), unit()[field]);
                 return Result{1};
             },
-            [&](const std::vector<Value> &shown) { state.learn(field, shown); });
+            [&](const std::vector<Value> &shown) { return state.learn(field, shown); });
     }
 
     /// A read into the record that is the only parameter: its members know their fields.
@@ -77,7 +77,7 @@ protected:
                 return Result{1};
             },
             [&](const std::vector<Value> &shown) {
-                state.learn(filled.begin()->filledMemory()->members().begin()->field, shown);
+                return state.learn(filled.begin()->filledMemory()->members().begin()->field, shown);
             });
     }
 

@@ -45,9 +45,15 @@ const RecordedAnswer *Player::answerTo(const Operation &operation, int target, c
     }
     // Each program asks for the library itself as often as it likes.
     if (operation.id != OperationId::get_instance) {
-        tellMissing(name, isKnown);
+        tellMissing(operation, name, isKnown);
     }
     return nullptr;
+}
+
+bool Player::refuses(const Operation &operation) const
+{
+    return play.missingCalls == MissingCalls::Refuse && operation.result.shape != Passed::Shape::Nothing &&
+           operation.id != OperationId::get_instance;
 }
 
 void Player::passTime(const RecordedAnswer &answer) const
@@ -57,7 +63,7 @@ void Player::passTime(const RecordedAnswer &answer) const
     }
 }
 
-void Player::tellMissing(const std::string &name, bool hadSome)
+void Player::tellMissing(const Operation &operation, const std::string &name, bool hadSome)
 {
     if (missed.size() > mostReports || !missed.insert(name).second) {
         return;
@@ -77,7 +83,7 @@ void Player::tellMissing(const std::string &name, bool hadSome)
     }
     tell(place + ": the recording has no " + (hadSome ? "further " : "") + oneLine(name, longestName) +
          (isAtEnd ? " and ends here" : " here, but " + oneLine(*instead->second, longestName)) +
-         (refusesMissing() ? "; the call is refused" : "; the call is simulated"));
+         (refuses(operation) ? "; the call is refused" : "; the call is simulated"));
 }
 
 void Player::tell(const std::string &report)

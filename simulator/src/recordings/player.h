@@ -41,7 +41,8 @@ public:
     void start(const Play &played);
 
     bool isOn() const { return play.recording != nullptr; }
-    bool refusesMissing() const { return play.missingCalls == MissingCalls::Refuse; }
+    /// Whether a call that the recording does not have is refused; what answers nothing cannot be.
+    bool refuses(const Operation &operation) const;
 
     /// The next answer to a call on a unit, which writeCallText() wrote; null when the recording has none or
     /// no further one, which is told once for each call.
@@ -51,7 +52,7 @@ public:
     void passTime(const RecordedAnswer &answer) const;
 
 private:
-    void tellMissing(const std::string &name, bool hadSome);
+    void tellMissing(const Operation &operation, const std::string &name, bool hadSome);
     void tell(const std::string &report);
 
     LogOutput &log;

@@ -94,7 +94,8 @@ void State::reset()
     deviceOpen = false;
     silent = false;
     cableOut = false;
-    storesAnything = false;
+    storedBy = StoredBy::Program;
+    beyond = {};
     storesAreLost = false;
     lost.clear();
     baudRateIsChosen = false;
@@ -229,7 +230,7 @@ bool State::store(Field first, const double *begin, const double *end)
 {
     Field field{first};
     for (const double *number{begin}; number != end; ++number) {
-        if (!storesAnything && !rowOf(field).allowed.accepts(*number, words)) {
+        if (storedBy != StoredBy::Recording && !rowOf(field).allowed.accepts(*number, words)) {
             return false;
         }
         field = field + 1;
@@ -242,13 +243,20 @@ bool State::store(Field first, const double *begin, const double *end)
     return true;
 }
 
-void State::learn(Field first, const std::vector<Value> &shown)
+bool State::learn(Field first, const std::vector<Value> &shown)
 {
+    const auto &ofUnit = beyond[static_cast<std::size_t>(target)];
+    for (std::size_t place{0}; place < shown.size(); ++place) {
+        if (ofUnit[static_cast<std::size_t>(first + place)]) {
+            return false;
+        }
+    }
     Field field{first};
     for (const Value &value : shown) {
         addressed()[field] = toNumber(value);
         field = field + 1;
     }
+    return true;
 }
 
 void State::noteLost(const UnitPlace &place)

@@ -14,6 +14,7 @@
 #include "veltrix_simulator/simulator.h"
 
 #include <array>
+#include <bitset>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -39,6 +40,14 @@ struct UnitPlace
 {
     std::size_t target;
     Field field;
+};
+
+/// Who stores a value.
+enum class StoredBy
+{
+    Program,   ///< No recording is played.
+    Recording, ///< A call that the recording has: a device accepted the value, whatever it is.
+    Beyond,    ///< A call that the recording does not have.
 };
 
 /// The state behind all objects of the contract.
@@ -72,8 +81,9 @@ public:
     static UnitPlace placeOfNumber(std::string_view key);
     double &operator[](const UnitPlace &place) { return units[place.target][place.field]; }
 
-    /// Takes over values that the addressed unit is known to hold, in the fields from `first` on.
-    void learn(Field first, const std::vector<Value> &shown);
+    /// Takes over values that a recording shows of the addressed unit, in the fields from `first` on. False
+    /// when one of them was stored beyond the recording; then they stay as they are.
+    bool learn(Field first, const std::vector<Value> &shown);
 
     /// Opens the device after a power cycle: the Blend Unit is addressed, and what a fault did not let the
     /// units keep is as before.
@@ -87,10 +97,10 @@ public:
     /// The manager was fetched and is not released. No device is open without it.
     bool managerHeld{false};
     bool deviceOpen{false};
-    bool silent{false};         ///< The device that is open never answers.
-    bool cableOut{false};       ///< Nothing reaches the device until it is opened again.
-    bool storesAnything{false}; ///< What is stored now was accepted by a real device, whatever it is.
-    bool storesAreLost{false};  ///< What is stored now lasts until the device is opened again.
+    bool silent{false};   ///< The device that is open never answers.
+    bool cableOut{false}; ///< Nothing reaches the device until it is opened again.
+    StoredBy storedBy{StoredBy::Program};
+    bool storesAreLost{false}; ///< What is stored now lasts until the device is opened again.
     std::array<Unit, unitCount> units{};
     std::array<double, configurationFields.size()> configuration{};
     std::vector<Port> ports;
@@ -112,6 +122,9 @@ private:
         if (storesAreLost || !lost.empty()) {
             noteLost(place);
         }
+        if (storedBy != StoredBy::Program) {
+            beyond[place.target][static_cast<std::size_t>(field)] = storedBy == StoredBy::Beyond;
+        }
         (*this)[place] = number;
     }
     /// Before a store: notes what the place holds if the store will be lost, else drops the note.
@@ -119,6 +132,8 @@ private:
     std::vector<Lost>::iterator findLost(const UnitPlace &place);
 
     std::vector<Lost> lost;
+    /// By target and field, what was stored beyond the recording that is played.
+    std::array<std::bitset<unitFields.size()>, unitCount> beyond{};
     bool baudRateIsChosen{false};
 };
 
