@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // The same scenario and the same seed make the same trace, whatever goes wrong in it.
 #include "testclass.h"
+#include "tracedrun.h"
 
 #include <QByteArray>
 #include <QDir>
@@ -10,9 +11,6 @@
 #include <QIODevice>
 #include <QList>
 #include <QObject>
-#include <QProcess>
-#include <QProcessEnvironment>
-#include <QRegularExpression>
 #include <QString>
 #include <QTemporaryDir>
 #include <QTest>
@@ -20,27 +18,10 @@
 namespace
 {
 
-/// A process that calls every operation of the contract, on a scenario; the bytes of its trace without the
-/// times.
-QByteArray traceOf(const QString &scenario)
+/// The trace of a process that calls every operation of the contract, without the times.
+QByteArray checkOn(const QString &scenario)
 {
-    const QTemporaryDir directory;
-    const QString name{directory.filePath(QStringLiteral("calls.trace"))};
-    QProcessEnvironment environment{QProcessEnvironment::systemEnvironment()};
-    environment.insert(QStringLiteral("VELTRIX_SIMULATOR_TRACE"), name);
-    environment.insert(QStringLiteral("VELTRIX_SIMULATOR_SCENARIO"), scenario);
-    QProcess process;
-    process.setProcessEnvironment(environment);
-    process.start(QStringLiteral(SDK_CHECK),
-                  {QStringLiteral("--port"), QStringLiteral("SIM1"), QStringLiteral("--write"),
-                   QStringLiteral("--repeat"), QStringLiteral("2")});
-    QFile trace{name};
-    if (!process.waitForFinished(120000) || !trace.open(QIODevice::ReadOnly)) {
-        return {};
-    }
-    static const QRegularExpression times{
-        QStringLiteral("(\"time\":\"[^\"]*Z\",?)|(\"microseconds\":\\d+,)")};
-    return QString::fromUtf8(trace.readAll()).remove(times).toUtf8();
+    return withoutTimes(traceOfCheck(scenario));
 }
 
 /// Noise, chance and a link with jitter, drawn from the seed in front.
@@ -95,12 +76,12 @@ void RepeatableScenariosTest::scenarioMakesTheSameTrace_data()
 void RepeatableScenariosTest::scenarioMakesTheSameTrace()
 {
     QFETCH(QString, name);
-    const QByteArray trace{traceOf(name)};
+    const QByteArray trace{checkOn(name)};
     const QByteArray header{R"({"trace":1,"scenario":")" + name.toUtf8() + '"'};
     QVERIFY2(trace.startsWith(header), trace.left(200).constData());
     QVERIFY(trace.contains("\"operation\":\"openDevice\""));
     QVERIFY(!trace.contains("\"time\""));
-    QCOMPARE(traceOf(name), trace);
+    QCOMPARE(checkOn(name), trace);
 }
 
 void RepeatableScenariosTest::seedMakesTheTrace()
@@ -113,7 +94,7 @@ void RepeatableScenariosTest::seedMakesTheTrace()
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write("seed = " + QByteArray::number(seed) + noise);
         file.close();
-        traces.append(traceOf(name));
+        traces.append(checkOn(name));
     }
     QVERIFY(traces[0].count('\n') > 500);
     // By its name alone, wherever the file lies.

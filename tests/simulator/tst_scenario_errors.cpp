@@ -56,7 +56,7 @@ void ScenarioErrorsTest::fileIsRefusedWith_data()
             R"(flaky.toml:1:2: "lynk" is unknown here; did you mean "link"?)");
     refuses(
         "nothing like it", "zzzzzzzz = 1",
-        R"(flaky.toml:1:1: "zzzzzzzz" is unknown here; it can be "seed", "configuration", "camera", "blendUnit", "port", "link", "fault", "memory" or "life")");
+        R"(flaky.toml:1:1: "zzzzzzzz" is unknown here; it can be "seed", "configuration", "camera", "blendUnit", "port", "recording", "missingCalls", "link", "fault", "memory" or "life")");
     refuses("case counts", "[[fault]]\noperation = \"setGamma\"\neffect = \"refuse\"\noncall = 3",
             R"(flaky.toml:4:1: "fault.oncall" is unknown here; did you mean "onCall"?)");
     refuses(
@@ -128,11 +128,21 @@ void ScenarioErrorsTest::fileIsRefusedWith_data()
     refuses("opening takes too long", "[[port]]\nname = \"A\"\ndelayMilliseconds = 60001",
             R"(flaky.toml:3:21: "port.delayMilliseconds" takes a number from 0 to 60000)");
     refuses("unknown kind", "[link]\nkind = \"seriall\"",
-            R"(flaky.toml:2:8: "link.kind" takes "none", "fixed" or "serial", not "seriall")");
+            R"(flaky.toml:2:8: "link.kind" takes "none", "fixed", "serial" or "recorded", not "seriall")");
     const QByteArray umlaut{"\xC3\xA4"};
     refuses("a long text is cut between two letters", "[link]\nkind = \"a" + umlaut.repeated(60) + '"',
-            R"(flaky.toml:2:8: "link.kind" takes "none", "fixed" or "serial", not "a)" + umlaut.repeated(39) +
-                R"(...")");
+            R"(flaky.toml:2:8: "link.kind" takes "none", "fixed", "serial" or "recorded", not "a)" +
+                umlaut.repeated(39) + R"(...")");
+    refuses("recorded times without a recording", "[link]\nkind = \"recorded\"",
+            R"(flaky.toml:2:8: "link.kind" is "recorded" only where there is a recording)");
+    refuses("rule without a recording", "missingCalls = \"refuse\"",
+            R"(flaky.toml:1:16: "missingCalls" stands only where there is a recording)");
+    refuses("recording that is no name", "recording = 1",
+            R"(flaky.toml:1:13: "recording" takes a text that is not empty and of one line)");
+    refuses("recording with a life of its own", "recording = \"a\"\n[life]\nmillisecondsPerCall = 1",
+            R"(flaky.toml:2:1: "life" cannot stand beside a recording, which settles it)");
+    refuses("recording with a memory", "recording = \"a\"\n[memory]\nfile = \"b\"",
+            R"(flaky.toml:2:1: "memory" cannot stand beside a recording, which settles it)");
     refuses("link without a kind", "[link]\nbaudRate = 9600", R"(flaky.toml:1:1: "link" lacks "kind")");
     refuses("fixed link without a time", R"(link.kind = "fixed")",
             R"(flaky.toml:1:1: "link" lacks "millisecondsPerCall")");

@@ -106,11 +106,11 @@ void WrittenValuesTest::everyKindOfFloatIsAsShortAsCanBe()
 
 void WrittenValuesTest::timesAreInUtc_data()
 {
-    QTest::addColumn<qint64>("microseconds");
+    QTest::addColumn<qint64>("since1970");
     QTest::addColumn<Precision>("precision");
     QTest::addColumn<QByteArray>("text");
-    const auto row = [](qint64 microseconds, Precision precision, const char *text) {
-        QTest::newRow(text) << microseconds << precision << QByteArray{text};
+    const auto row = [](qint64 since1970, Precision precision, const char *text) {
+        QTest::newRow(text) << since1970 << precision << QByteArray{text};
     };
     row(0, Precision::Microseconds, "1970-01-01T00:00:00.000000Z");
     row(0, Precision::Milliseconds, "1970-01-01T00:00:00.000Z");
@@ -123,13 +123,17 @@ void WrittenValuesTest::timesAreInUtc_data()
 
 void WrittenValuesTest::timesAreInUtc()
 {
-    QFETCH(const qint64, microseconds);
+    QFETCH(const qint64, since1970);
     QFETCH(const Precision, precision);
     QFETCH(const QByteArray, text);
     using std::chrono::system_clock;
     const system_clock::time_point time{
-        std::chrono::duration_cast<system_clock::duration>(std::chrono::microseconds{microseconds})};
+        std::chrono::duration_cast<system_clock::duration>(std::chrono::microseconds{since1970})};
     QCOMPARE(QByteArray::fromStdString(formatTime(time, precision)), text);
+    const qint64 kept{precision == Precision::Microseconds ? since1970 : since1970 / 1000 * 1000};
+    const auto read = parseTime(text.toStdString());
+    QVERIFY(read);
+    QCOMPARE(qint64{read->count()}, kept);
 }
 
 PILOTEL_TEST_CLASS(WrittenValuesTest)

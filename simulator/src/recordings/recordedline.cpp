@@ -188,7 +188,10 @@ const Operation &operationNamed(const std::string &name)
 Value numberOf(const json &value, Kind kind, std::string_view name)
 {
     std::optional<Value> given = valueOf(value);
-    if (value.is_string()) {
+    if (hasFractions(kind) && value.is_number_integer() && !value.is_number_unsigned() && value == 0) {
+        // The parser takes "-0" for an integer, and then only its type tells the sign.
+        given = -0.0;
+    } else if (value.is_string()) {
         constexpr double infinity{std::numeric_limits<double>::infinity()};
         if (value == "nan") {
             given = std::numeric_limits<double>::quiet_NaN();

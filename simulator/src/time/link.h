@@ -27,8 +27,8 @@ struct Link
     {
         None,     ///< No time of its own.
         Fixed,    ///< perCall.
-        Recorded, ///< What each call took in the recording that is played.
         Serial,   ///< bytesPerCommand at ten bits a byte and the baud rate, and thinkTime.
+        Recorded, ///< What each call took in the recording that is played.
     };
     Kind kind{Kind::None};
     std::chrono::microseconds perCall{0};
