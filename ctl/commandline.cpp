@@ -3,6 +3,7 @@
 // The command line: which command with what, for the program and for each line of its shell.
 #include "commandline.h"
 
+#include "recordings.h"
 #include "shell.h"
 #include "veltrix_sdk/numbers.h"
 #include "wronguse.h"
@@ -67,6 +68,7 @@ public:
         addStore();
         addWatch();
         addBadPixels();
+        addRecording();
     }
 
 private:
@@ -223,6 +225,26 @@ private:
         added->add_option("--column", arguments.pixels.columns, "All pixels of a column")
             ->type_name("COLUMN")
             ->check(CLI::Range(0U, veltrix_sdk::sensorColumns - 1));
+    }
+
+    void addRecording()
+    {
+        CLI::App *const recording{parser.add_subcommand("recording", "Recorded sessions, without a device")};
+        recording->fallthrough();
+        recording->require_subcommand(1);
+        CLI::App *const show{
+            add(*recording, "show", "Every call with its answer, a line each",
+                [&given = arguments](Session & /*session*/) { return showRecording(given.file); })};
+        CLI::App *const profile{add(*recording, "profile", "What the units held at its end, as a profile",
+                                    [&given = arguments](Session & /*session*/) {
+                                        return saveRecordedProfile(given.file, given.profile);
+                                    })};
+        for (CLI::App *const each : {show, profile}) {
+            each->add_option("FILE", arguments.file,
+                             "What a program recorded, or a trace of the simulated camera")
+                ->required();
+        }
+        profile->add_option("PROFILE", arguments.profile, "The file to write; standard output if not given");
     }
 
     CLI::Option *addUnits(CLI::App &to, const char *what)

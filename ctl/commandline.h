@@ -23,6 +23,7 @@ struct Arguments
     std::string recording{};          ///< The file that every call is written to.
     std::vector<std::string> names{}; ///< Of settings, with or without values.
     std::string file{};
+    std::string profile{"-"};
     bool json{false};
     bool dryRun{false};
     std::string set{};

@@ -6,6 +6,7 @@
 #include "escaped.h"
 #include "failure.h"
 #include "fieldtext.h"
+#include "files.h"
 #include "messages.h"
 #include "names.h"
 #include "output/wording.h"
@@ -13,6 +14,7 @@
 #include "scenarios/tomltext.h"
 #include "values.h"
 
+#include <QByteArray>
 #include <QFile>
 #include <QString>
 
@@ -20,6 +22,7 @@
 #include <charconv>
 #include <cstddef>
 #include <cstdint>
+#include <iostream>
 #include <optional>
 #include <sstream>
 #include <system_error>
@@ -192,6 +195,24 @@ std::string profileText(const std::string &comment, const std::vector<ProfileLin
         }
     }
     return text.str();
+}
+
+ExitStatus writeProfile(const std::string &file, const std::string &comment,
+                        const std::vector<ProfileLine> &lines)
+{
+    const std::string text{profileText(comment, lines)};
+    if (file == "-") {
+        std::cout << text << std::flush;
+        return done;
+    }
+    writeWhole(file, QByteArray::fromStdString(text), wrongUse);
+    std::cout << countedSettings(lines.size()) << " saved in " << sdk_check::escaped(file) << std::endl;
+    return done;
+}
+
+std::string countedSettings(std::size_t count)
+{
+    return std::to_string(count) + (count == 1 ? " setting" : " settings");
 }
 
 Profile parseProfile(const std::string &fileName, std::string_view text, const std::vector<Setting> &table)

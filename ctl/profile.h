@@ -5,8 +5,10 @@
 
 #include "changes.h"
 #include "devicesettings.h"
+#include "failure.h"
 #include "session.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -31,6 +33,13 @@ struct ProfileLine
 /// The text of a profile. Its first line says how many settings it has, so that a file that was cut is found
 /// out, and has the comment.
 std::string profileText(const std::string &comment, const std::vector<ProfileLine> &lines);
+
+/// Writes a profile, all of it or nothing; "-" is standard output. What cannot be written is a Failure.
+ExitStatus writeProfile(const std::string &file, const std::string &comment,
+                        const std::vector<ProfileLine> &lines);
+
+/// Such as "1 setting" or "77 settings".
+std::string countedSettings(std::size_t count);
 
 /// Reads the text of a profile. A mistake is a Failure of one line with the name of the file and the place.
 /// No text can crash it.

@@ -3,16 +3,12 @@
 // Settings of both units in a file: save, apply, compare.
 #include "changes.h"
 #include "commands.h"
-#include "escaped.h"
 #include "fieldtext.h"
-#include "files.h"
 #include "messages.h"
 #include "names.h"
 #include "profile.h"
 #include "progress.h"
 #include "values.h"
-
-#include <QByteArray>
 
 #include <iostream>
 
@@ -75,25 +71,13 @@ void writeDifference(const Difference &difference)
               << device_settings::numberInWords(field, difference.wanted) << '\n';
 }
 
-std::string counted(std::size_t count)
-{
-    return std::to_string(count) + (count == 1 ? " setting" : " settings");
-}
-
 } // namespace
 
 ExitStatus saveProfile(Session &session, const std::string &file)
 {
     const std::string comment{commentOf(session)};
     const std::vector<ProfileLine> lines{readLines(session)};
-    const std::string text{profileText(comment, lines)};
-    if (file == "-") {
-        std::cout << text << std::flush;
-        return done;
-    }
-    writeWhole(file, QByteArray::fromStdString(text), wrongUse);
-    std::cout << counted(lines.size()) << " saved in " << sdk_check::escaped(file) << std::endl;
-    return done;
+    return writeProfile(file, comment, lines);
 }
 
 ExitStatus applyProfile(Session &session, const std::string &file, bool dryRun)
@@ -108,7 +92,7 @@ ExitStatus applyProfile(Session &session, const std::string &file, bool dryRun)
     for (const Difference &difference : differences) {
         writeDifference(difference);
     }
-    std::cout << counted(differences.size()) << (dryRun ? " would be set, " : " set, ")
+    std::cout << countedSettings(differences.size()) << (dryRun ? " would be set, " : " set, ")
               << profile.settings.size() - differences.size() << " as they were" << std::endl;
     return done;
 }
