@@ -126,7 +126,7 @@ install(
 )
 
 install(
-    FILES CHANGELOG.md docs/command-line.md docs/sdk-check.md docs/user-guide.md
+    FILES CHANGELOG.md docs/command-line.md docs/recordings.md docs/sdk-check.md docs/user-guide.md
     DESTINATION ${documentation_root}/pilotel
     COMPONENT pilotel-doc
 )

@@ -51,6 +51,9 @@ void CtlCompletionTest::completes_data()
     row({"p"}, {"ports", "profile"});
     row({"profile", ""}, {"save", "apply", "diff"});
     row({"profile", "apply", ""}, {});
+    row({"rec"}, {"recording"});
+    row({"recording", ""}, {"show", "profile"});
+    row({"recording", "show", ""}, {});
     row({"profile", "apply", "--d"}, {"--dry-run"});
     row({"--port", ""}, ports + QStringList{"SIM1"});
     row({"-p", "SIM"}, {"SIM1"});

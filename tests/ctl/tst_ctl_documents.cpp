@@ -20,6 +20,7 @@ class CtlDocumentsTest : public QObject
     Q_OBJECT
 
 private slots:
+    void examplesAreReal_data();
     void examplesAreReal();
     void manualPageHasEverySetting();
     void manualPageHasEveryCommand();
@@ -44,10 +45,12 @@ void rewrite(const QString &fileName, const QString &text)
     }
 }
 
-/// The times of readings are others each time.
+/// The times of readings and of recorded calls are others each time.
 QString withoutTimes(QString text)
 {
-    return text.replace(QRegularExpression{R"(\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d\.\d{3}Z)"}, "TIME");
+    static const QRegularExpression seconds{R"(^ +\d+\.\d{3}  )", QRegularExpression::MultilineOption};
+    return text.replace(QRegularExpression{R"(\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d\.\d{3}Z)"}, "TIME")
+        .replace(seconds, "SECONDS  ");
 }
 
 /// The text with what the commands of its examples write.
@@ -131,12 +134,21 @@ const QString end{".\\\" End of settings\n.El\n"};
 
 } // namespace
 
+void CtlDocumentsTest::examplesAreReal_data()
+{
+    QTest::addColumn<QString>("document");
+    for (const char *const name : {"command-line.md", "recordings.md"}) {
+        QTest::newRow(name) << QStringLiteral(DOCUMENTS "/") + name;
+    }
+}
+
 void CtlDocumentsTest::examplesAreReal()
 {
-    const QString text{textOf(DOCUMENTS "/command-line.md")};
+    QFETCH(const QString, document);
+    const QString text{textOf(document)};
     QVERIFY(text.contains("```console"));
     const QString real{withRealExamples(text)};
-    rewrite(DOCUMENTS "/command-line.md", real);
+    rewrite(document, real);
     const QStringList lines{withoutTimes(text).split('\n')};
     const QStringList realLines{withoutTimes(real).split('\n')};
     for (int line{0}; line < qMin(lines.size(), realLines.size()); ++line) {
@@ -163,7 +175,7 @@ void CtlDocumentsTest::manualPageHasEveryCommand()
     CtlFolder folder;
     QStringList commands{folder.run({"--complete", ""}).output.split('\n', Qt::SkipEmptyParts)};
     QVERIFY(commands.contains("watch"));
-    for (const char *const group : {"profile", "watch", "bad-pixels"}) {
+    for (const char *const group : {"profile", "watch", "bad-pixels", "recording"}) {
         commands.removeOne(group);
         for (const QString &command :
              folder.run({"--complete", group, ""}).output.split('\n', Qt::SkipEmptyParts)) {

@@ -263,6 +263,11 @@ void RecordingReaderTest::damageIsNamed_data()
     says("an object that is a number",
          line(R"("interface":"manager","target":0,"operation":"openDevice","arguments":["A"],"result":1)"),
          "\"result\" is no text");
+    says("an object of another world",
+         line(R"("interface":"manager","target":0,"operation":"closeDevice","arguments":["a\u001b\n"])"),
+         "\"a??\" is no object of the contract");
+    says("an output of another world", call("getVideoMode", "", R"(,"result":true,"outputs":{"a b":1})"),
+         "\"a b\" is no name of an output");
     says("outputs of nothing", call("getGamma", "", R"(,"result":1,"outputs":{})"),
          "the operation has no \"outputs\"");
     says("two outputs of one", call("getVideoMode", "", R"(,"result":true,"outputs":{"mode":1,"more":2})"),

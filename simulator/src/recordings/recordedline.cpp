@@ -224,6 +224,20 @@ std::vector<Value> recordOf(const json &object, const Members &members, std::str
     return values;
 }
 
+/// The name of an object or of a number, which is a word; the text is what is said of another.
+std::string nameIn(const std::string &name, const char *otherwise)
+{
+    constexpr std::size_t longestName{64};
+    const bool isWord = std::all_of(name.begin(), name.end(), [](char letter) {
+        return (letter >= 'a' && letter <= 'z') || (letter >= 'A' && letter <= 'Z') ||
+               (letter >= '0' && letter <= '9');
+    });
+    if (name.empty() || name.size() > longestName || !isWord) {
+        refuse(inQuotes(name) + otherwise);
+    }
+    return name;
+}
+
 /// Reads the arguments of a call.
 class ArgumentReader
 {
@@ -263,7 +277,9 @@ private:
             if (!value.is_string()) {
                 refuse("an argument is no text");
             }
-            call.arguments.emplace_back(value.get<std::string>());
+            const std::string text{value.get<std::string>()};
+            call.arguments.emplace_back(
+                parameter.shape == Shape::Text ? text : nameIn(text, " is no object of the contract"));
         } else if (parameter.shape == Shape::Record && !parameter.isFilled) {
             for (const Value &number : recordOf(value, parameter.members, "arguments")) {
                 call.arguments.emplace_back(toNumber(number));
@@ -307,7 +323,7 @@ void readResult(const json &line, RecordedCall &call)
         call.answer.emplace_back(text);
     } else {
         call.answer.emplace_back(!value.is_null());
-        call.name = text;
+        call.name = value.is_null() ? "" : nameIn(text, " is no object of the contract");
     }
 }
 
@@ -336,7 +352,7 @@ void readOutputs(const json &outputs, RecordedCall &call)
             if (outputs.size() != 1) {
                 refuse("\"outputs\" is not one number");
             }
-            call.name = outputs.begin().key();
+            call.name = nameIn(outputs.begin().key(), " is no name of an output");
             call.answer.push_back(numberOf(*outputs.begin(), parameter.kind, call.name));
         }
     }

@@ -56,6 +56,25 @@ std::string recordedName(const Operation &operation, int target, const std::stri
     return std::string{unitName(target)}.append(1, '.').append(callText);
 }
 
+std::variant<Recording, std::string> readRecording(std::istream &input, const std::string &fileName)
+{
+    Recording recording;
+    recording.file = fileName;
+    RecordingReader reader{input, fileName};
+    try {
+        while (std::optional<RecordedLine> line = reader.next()) {
+            if (auto *const call = std::get_if<RecordedCall>(&*line)) {
+                append(std::move(*call), reader.line(), recording);
+            }
+        }
+    } catch (const RecordingError &wrong) {
+        return wrong.message();
+    }
+    recording.lines = reader.line();
+    recording.cut = reader.cut();
+    return recording;
+}
+
 std::variant<Recording, std::string> loadRecording(const std::string &fileName)
 {
     const std::filesystem::path path{std::filesystem::u8path(fileName)};
@@ -73,21 +92,7 @@ std::variant<Recording, std::string> loadRecording(const std::string &fileName)
     if (!input) {
         return fileName + ":1: the recording cannot be read; give this user the right to";
     }
-    Recording recording;
-    recording.file = fileName;
-    RecordingReader reader{input, fileName};
-    try {
-        while (std::optional<RecordedLine> line = reader.next()) {
-            if (auto *const call = std::get_if<RecordedCall>(&*line)) {
-                append(std::move(*call), reader.line(), recording);
-            }
-        }
-    } catch (const RecordingError &wrong) {
-        return wrong.message();
-    }
-    recording.lines = reader.line();
-    recording.cut = reader.cut();
-    return recording;
+    return readRecording(input, fileName);
 }
 
 } // namespace veltrix_simulator

@@ -7,6 +7,7 @@
 
 #include <chrono>
 #include <cstddef>
+#include <istream>
 #include <optional>
 #include <string>
 #include <unordered_map>
@@ -54,6 +55,8 @@ struct Recording
     std::optional<std::string> cut; ///< One line when the last line was cut.
 };
 
+/// Reads all lines. What is wrong with them is one line that begins with the name of the file.
+std::variant<Recording, std::string> readRecording(std::istream &input, const std::string &fileName);
 /// Reads a whole file. What is wrong with it is one line that begins with its name. File names are UTF-8.
 std::variant<Recording, std::string> loadRecording(const std::string &fileName);
 
