@@ -162,7 +162,7 @@ void RecordedSessionsTest::otherFileIsLeftAlone_data()
                              << ". The program goes on without a recording." << 0;
     QTest::addRow("pilotel-ctl") << CTL << QStringList{"info"} << "pilotel-ctl: "
                                  << "." << 2;
-    QTest::addRow("pilotel-sdk-check") << CHECK << QStringList{"--port", "SIM1"} << ""
+    QTest::addRow("pilotel-sdk-check") << CHECK << QStringList{"--port", "SIM1"} << "pilotel-sdk-check: "
                                        << "." << 2;
 }
 
@@ -215,7 +215,7 @@ void RecordedSessionsTest::unwritableFileIsTold()
     QCOMPARE(ctl.errors, "pilotel-ctl: " + line + '\n');
     const Outcome check{folder.run(CHECK, {"--port", "SIM1", "--record", name})};
     QCOMPARE(check.status, 2);
-    QCOMPARE(check.errors, line + '\n');
+    QCOMPARE(check.errors, "pilotel-sdk-check: " + line + '\n');
     QCOMPARE(check.output, QString{});
     QVERIFY(!QFile::exists(folder.trace()));
 }
