@@ -3,11 +3,11 @@
 // Writes a line for each call that goes to the device library.
 #pragma once
 
-#include "operations/missing.h"
 #include "calls/objects.h"
 #include "calls/parameter.h"
 #include "calls/tracefile.h"
 #include "calls/traceline.h"
+#include "operations/missing.h"
 #include "operations/operations.h"
 #include "privatetext.h"
 #include "veltrix_sdk/records.h"
