@@ -18,30 +18,30 @@
 namespace
 {
 
-constexpr int measuredCalls{10'000};
-constexpr int timedBatches{20};
+constexpr int recordedCalls{10'000};
+constexpr int recordedBatches{20};
 
 using veltrix_sdk::IDeviceControl;
 
-struct Measured
+struct RecordedCall
 {
     const char *name;
     std::function<bool(IDeviceControl &device)> call; ///< True: the device did it.
 };
 
 /// Microseconds per call of the quickest batch.
-double microsecondsPerCall(const Measured &measured, IDeviceControl &device)
+double microsecondsOf(const RecordedCall &measured, IDeviceControl &device)
 {
     double quickest{std::numeric_limits<double>::max()};
-    for (int batch{0}; batch < timedBatches; ++batch) {
+    for (int batch{0}; batch < recordedBatches; ++batch) {
         int done{0};
         QElapsedTimer timer;
         timer.start();
-        for (int call{0}; call < measuredCalls; ++call) {
+        for (int call{0}; call < recordedCalls; ++call) {
             done += measured.call(device) ? 1 : 0;
         }
-        quickest = std::min(quickest, static_cast<double>(timer.nsecsElapsed()) / 1000.0 / measuredCalls);
-        if (done != measuredCalls) {
+        quickest = std::min(quickest, static_cast<double>(timer.nsecsElapsed()) / 1000.0 / recordedCalls);
+        if (done != recordedCalls) {
             qFatal("the device refused calls; the figures would mean nothing");
         }
     }
@@ -49,7 +49,7 @@ double microsecondsPerCall(const Measured &measured, IDeviceControl &device)
 }
 
 /// Power-on, and the device that is open then.
-IDeviceControl &powerOn(veltrix_sdk::IVeltrixSdk *(*root)())
+IDeviceControl &openedThrough(veltrix_sdk::IVeltrixSdk *(*root)())
 {
     auto &simulator = veltrix_simulator::Simulator::instance();
     simulator.reset();
@@ -61,7 +61,7 @@ IDeviceControl &powerOn(veltrix_sdk::IVeltrixSdk *(*root)())
 
 int main()
 {
-    const Measured calls[]{
+    const RecordedCall calls[]{
         {"getGamma",
          [](IDeviceControl &device) {
              return device.getGamma() != 0;
@@ -96,20 +96,20 @@ int main()
     out.setRealNumberNotation(QTextStream::FixedNotation);
     out.setRealNumberPrecision(3);
     out << "operation           library [us]   recording off [us]   on [us]   bytes a call\n";
-    for (const Measured &measured : calls) {
-        const double library{microsecondsPerCall(measured, powerOn(veltrix_sdk::VeltrixSdk::get_instance))};
-        const double off{microsecondsPerCall(measured, powerOn(recording::sdkRoot))};
+    for (const RecordedCall &measured : calls) {
+        const double library{microsecondsOf(measured, openedThrough(veltrix_sdk::VeltrixSdk::get_instance))};
+        const double off{microsecondsOf(measured, openedThrough(recording::sdkRoot))};
         if (!recording::begin(file.toStdString(), "benchmark_recording").empty()) {
             qFatal("no recording; the figures would mean nothing");
         }
-        IDeviceControl &device = powerOn(recording::sdkRoot);
+        IDeviceControl &device = openedThrough(recording::sdkRoot);
         const qint64 before{QFileInfo{file}.size()};
-        const double on{microsecondsPerCall(measured, device)};
+        const double on{microsecondsOf(measured, device)};
         const qint64 after{QFileInfo{file}.size()};
         recording::end();
         out << Qt::left << qSetFieldWidth(18) << measured.name << Qt::right << qSetFieldWidth(14) << library
             << qSetFieldWidth(21) << off << qSetFieldWidth(10) << on << qSetFieldWidth(15)
-            << (after - before) / (measuredCalls * timedBatches) << qSetFieldWidth(0) << '\n';
+            << (after - before) / recordedCalls / recordedBatches << qSetFieldWidth(0) << '\n';
     }
     return 0;
 }

@@ -191,21 +191,17 @@ std::size_t PrivateText::endOfPath(std::string_view text, std::size_t place) con
     if (beginning == Beginning::None) {
         return place;
     }
-    if (isOneOf(before, quotes)) {
-        const std::size_t closing{text.find(before, place)};
-        if (closing != std::string_view::npos) {
-            return closing;
+    std::size_t end{isOneOf(before, quotes) ? text.find(before, place) : std::string_view::npos};
+    if (end == std::string_view::npos) {
+        std::size_t from{beginning == Beginning::WithDrive ? place + 2 : place};
+        for (const std::string &home : homes) {
+            // It may have blanks.
+            if (continuesWith(text, place, home)) {
+                from = std::max(from, place + home.size());
+            }
         }
+        end = endWithoutQuotes(text, from);
     }
-    std::size_t from{place};
-    for (const std::string &home : homes) {
-        // It may have blanks.
-        if (continuesWith(text, place, home)) {
-            from = std::max(from, place + home.size());
-        }
-    }
-    const std::size_t end{
-        endWithoutQuotes(text, beginning == Beginning::WithDrive ? std::max(from, place + 2) : from)};
     const std::string_view path{withoutSeparatorsAtEnd(text.substr(place, end - place))};
     const bool hasParts{path.find_first_of(separators, 1) != std::string_view::npos};
     return hasParts ? end : place;

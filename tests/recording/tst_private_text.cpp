@@ -29,7 +29,7 @@ namespace
 
 recording::PrivateText ofJane()
 {
-    return {{"/home/jane", "C:\\Users\\Jane Doe", "/", ""}, {"jdoe", ""}};
+    return {{"/home/jane", R"(C:\Users\Jane Doe)", "/", ""}, {"jdoe", ""}};
 }
 
 } // namespace
@@ -54,21 +54,22 @@ void PrivateTextTest::textReads_data()
     same("bpr_SN10417.bin is damaged");
     same("janet, jdoes, xjane and JDOE2 are others");
     same("a: b, C: d");
+    same("'/', \"~\", `/s`, / and ~");
     same("\xC3\xA9 \xFF\n\t");
 
     row("/dev/ttyUSB0", "ttyUSB0");
     row("/dev/serial/by-id/usb-KR_10417-port0", "usb-KR_10417-port0");
-    row("\\\\.\\COM12", "COM12");
+    row(R"(\\.\COM12)", "COM12");
     row("/home/jane/cameras/bpr.bin is damaged", "bpr.bin is damaged");
     row("read ~/cameras/bpr.bin", "read bpr.bin");
     row("read ~jdoe/bpr.bin", "read bpr.bin");
     row("read \"/home/jane/my cameras/bpr 1.bin\": no", "read \"bpr 1.bin\": no");
     row("'/srv/a b/c d.bin'", "'c d.bin'");
     row("\"/srv/a/b.bin without an end", "\"b.bin without an end");
-    row("C:\\Users\\Jane Doe\\cameras\\bpr.bin:12: wrong", "bpr.bin:12: wrong");
+    row(R"(C:\Users\Jane Doe\cameras\bpr.bin:12: wrong)", "bpr.bin:12: wrong");
     row("c:/users/jane doe/bpr.bin", "bpr.bin");
-    row("(D:\\delivery\\veltrix.sdk.dll)", "(veltrix.sdk.dll)");
-    row("\\\\server\\jane\\bpr.bin", "bpr.bin");
+    row(R"((D:\delivery\veltrix.sdk.dll))", "(veltrix.sdk.dll)");
+    row(R"(\\server\jane\bpr.bin)", "bpr.bin");
     row("file:///home/jane/bpr.bin", "file:bpr.bin");
     row("/srv/a:/srv/b", "a:b");
     row("/home/jane/", "USER");
@@ -104,7 +105,7 @@ void PrivateTextTest::textsWithNothingPrivateAreTheSame()
 void PrivateTextTest::environmentNamesTheUser()
 {
     qputenv("HOME", "/home/of/mary");
-    qputenv("USERPROFILE", "D:\\People\\anna");
+    qputenv("USERPROFILE", R"(D:\People\anna)");
     qputenv("USER", "mmoore");
     qputenv("USERNAME", "asmith");
     qunsetenv("LOGNAME");
