@@ -1,12 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// What a start costs until the window is painted: as the program starts, the window alone, and an empty
-// window as Qt shows it. benchmark_start_up [STARTS] starts each so many times, in turn.
+// What a start costs until the window is painted. First within one process: as the program starts, the window
+// alone, and an empty window as Qt shows it. Then, on an X server, the programs themselves beside each other.
+// benchmark_start_up [STARTS] starts each so many times, in turn.
 #include "appearance.h"
 #include "fittedwindow.h"
 #include "mainwindow.h"
 #include "operatorinput.h"
 #include "scaling.h"
+#if defined(WATCHES_X11)
+#include "screenwatch.h"
+#endif
 
 #include <QApplication>
 #include <QByteArray>
@@ -14,19 +18,25 @@
 #include <QEvent>
 #include <QEventLoop>
 #include <QFile>
+#include <QFileInfo>
 #include <QList>
 #include <QMainWindow>
-#include <QMap>
 #include <QObject>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QString>
 #include <QStringList>
 #include <QTextStream>
+#include <QVector>
 #include <QWidget>
 
 #include <algorithm>
 #include <cstdlib>
 #include <ctime>
+#include <functional>
+#if defined(WATCHES_X11)
+#include <sys/resource.h>
+#endif
 
 namespace
 {
@@ -41,10 +51,17 @@ struct Start
     double kilobytes;             ///< Of memory that is resident; 0 where the system does not tell.
 };
 
-double residentKilobytes()
+/// What is compared, and how one start of it is measured.
+struct Candidate
+{
+    QString name;
+    std::function<Start()> start;
+};
+
+double residentKilobytes(qint64 process)
 {
 #if defined(Q_OS_LINUX)
-    QFile status{QStringLiteral("/proc/self/status")};
+    QFile status{QStringLiteral("/proc/%1/status").arg(process)};
     if (!status.open(QIODevice::ReadOnly)) {
         return 0;
     }
@@ -53,6 +70,8 @@ double residentKilobytes()
             return line.mid(6).trimmed().split(' ').first().toDouble();
         }
     }
+#else
+    Q_UNUSED(process)
 #endif
     return 0;
 }
@@ -81,7 +100,7 @@ public:
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
     QTextStream{stdout} << 1000.0 * static_cast<double>(std::clock()) / CLOCKS_PER_SEC << ' '
-                        << residentKilobytes() << '\n';
+                        << residentKilobytes(QCoreApplication::applicationPid()) << '\n';
     // What comes after the painting is no part of a start.
     std::_Exit(0);
 }
@@ -135,6 +154,39 @@ Start measure(const QString &kind)
     return {nanoseconds / 1e6, figures.first().toDouble(), figures.last().toDouble()};
 }
 
+#if defined(WATCHES_X11)
+/// What the processor worked for the processes that have ended.
+double processorMilliseconds()
+{
+    rusage usage{};
+    getrusage(RUSAGE_CHILDREN, &usage);
+    const auto milliseconds = [](const timeval &time) {
+        return 1000.0 * static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1000.0;
+    };
+    return milliseconds(usage.ru_utime) + milliseconds(usage.ru_stime);
+}
+
+Start watchStart(ScreenWatch &screen, const QString &program)
+{
+    const double before{processorMilliseconds()};
+    screen.begin();
+    QElapsedTimer sinceStart;
+    sinceStart.start();
+    QProcess process;
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.setStandardErrorFile(QProcess::nullDevice());
+    process.start(program, QStringList{});
+    if (!screen.waitUntilDrawn(process.processId())) {
+        qFatal("%s shows no window", qPrintable(program));
+    }
+    const auto nanoseconds = static_cast<double>(sinceStart.nsecsElapsed());
+    const double kilobytes{residentKilobytes(process.processId())};
+    process.kill();
+    process.waitForFinished();
+    return {nanoseconds / 1e6, processorMilliseconds() - before, kilobytes};
+}
+#endif
+
 double median(QList<Start> all, double Start::*figure)
 {
     const auto middle = all.begin() + all.size() / 2;
@@ -142,6 +194,72 @@ double median(QList<Start> all, double Start::*figure)
         return left.*figure < right.*figure;
     });
     return (*middle).*figure;
+}
+
+/// Starts each candidate so many times, in turn; the times are told beside those of the last one.
+void compare(const QString &title, const QList<Candidate> &candidates, int starts)
+{
+    QVector<QList<Start>> taken(candidates.size());
+    for (int run{0}; run < starts; ++run) {
+        for (int each{0}; each < candidates.size(); ++each) {
+            taken[each].append(candidates[each].start());
+        }
+    }
+    QTextStream out{stdout};
+    out.setRealNumberNotation(QTextStream::FixedNotation);
+    out.setRealNumberPrecision(1);
+    out << Qt::left << qSetFieldWidth(14) << title << qSetFieldWidth(0)
+        << "painted after [ms]   processor [ms]   memory [kB]   time / that of an empty window\n";
+    const double empty{median(taken.last(), &Start::milliseconds)};
+    for (int each{0}; each < candidates.size(); ++each) {
+        const QList<Start> &all{taken[each]};
+        const double shown{median(all, &Start::milliseconds)};
+        out << Qt::left << qSetFieldWidth(14) << candidates[each].name << Qt::right << qSetFieldWidth(18)
+            << shown << qSetFieldWidth(17) << median(all, &Start::processorMilliseconds) << qSetFieldWidth(14)
+            << qRound(median(all, &Start::kilobytes)) << qSetRealNumberPrecision(2) << qSetFieldWidth(33)
+            << shown / empty << qSetRealNumberPrecision(1) << qSetFieldWidth(0) << '\n';
+    }
+}
+
+/// The processes of this benchmark, each measured by itself.
+void compareWithinOneProcess(int starts)
+{
+    QList<Candidate> candidates;
+    for (const QString &kind : kinds) {
+        candidates.append({kind, [kind] {
+                               return measure(kind);
+                           }});
+    }
+    compare(QStringLiteral("in a process"), candidates, starts);
+}
+
+/// Programs as operators start them, each measured by what the X server shows.
+void compareOnTheScreen(int starts)
+{
+#if defined(WATCHES_X11)
+    ScreenWatch screen;
+    if (!screen.isConnected()) {
+        QTextStream{stdout} << "without an X server, the programs are not compared\n";
+        return;
+    }
+    const auto candidate = [&screen](const QString &program) {
+        return Candidate{QFileInfo{program}.fileName(), [&screen, program] {
+                             return watchStart(screen, program);
+                         }};
+    };
+    const QString here{QCoreApplication::applicationDirPath()};
+    QList<Candidate> candidates{candidate(here + "/pilotel")};
+    const QString other{QStandardPaths::findExecutable(QStringLiteral("qv4l2"))};
+    if (other.isEmpty()) {
+        QTextStream{stdout} << "qv4l2 is not installed and left out\n";
+    } else {
+        candidates.append(candidate(other));
+    }
+    candidates.append(candidate(here + "/empty_window"));
+    compare(QStringLiteral("on the screen"), candidates, starts);
+#else
+    Q_UNUSED(starts)
+#endif
 }
 
 } // namespace
@@ -163,24 +281,7 @@ int main(int argc, char *argv[])
     if (starts <= 0) {
         qFatal("%s is neither a number of starts nor one of: %s", argv[1], qPrintable(kinds.join(' ')));
     }
-    QMap<QString, QList<Start>> taken;
-    for (int run{0}; run < starts; ++run) {
-        for (const QString &each : kinds) {
-            taken[each].append(measure(each));
-        }
-    }
-    QTextStream out{stdout};
-    out.setRealNumberNotation(QTextStream::FixedNotation);
-    out.setRealNumberPrecision(1);
-    out << "        painted after [ms]   processor [ms]   memory [kB]   time / that of an empty window\n";
-    const double empty{median(taken[kinds[2]], &Start::milliseconds)};
-    for (const QString &each : kinds) {
-        const QList<Start> &all{taken[each]};
-        const double shown{median(all, &Start::milliseconds)};
-        out << Qt::left << qSetFieldWidth(10) << each << Qt::right << qSetFieldWidth(16) << shown
-            << qSetFieldWidth(17) << median(all, &Start::processorMilliseconds) << qSetFieldWidth(14)
-            << qRound(median(all, &Start::kilobytes)) << qSetRealNumberPrecision(2) << qSetFieldWidth(33)
-            << shown / empty << qSetRealNumberPrecision(1) << qSetFieldWidth(0) << '\n';
-    }
+    compareWithinOneProcess(starts);
+    compareOnTheScreen(starts);
     return 0;
 }
