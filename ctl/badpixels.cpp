@@ -9,6 +9,7 @@
 #include "messages.h"
 #include "progress.h"
 #include "units/bprfile.h"
+#include "values.h"
 #include "veltrix_sdk/numbers.h"
 
 #include <QBuffer>
@@ -38,9 +39,16 @@ namespace
 
 using Pixel = std::pair<std::uint32_t, std::uint32_t>; ///< Column and row.
 
+/// The library names the file after the serial number; a lost answer must not name another one.
 std::string fileNameOf(Session &session, Unit unit)
 {
-    return bprFileNameBegin + std::to_string(session.on(unit).getSerialNumber()) + bprFileNameEnd;
+    const auto place = device_settings::findSetting(session.settings(), keyOf(unit) + ".serialNumber");
+    const Reading reading{session.readTwice(unit, *place->setting)};
+    if (!reading.fault.empty()) {
+        throw Failure{refused,
+                      reading.fault + "\nSo it is not known which file belongs to " + nameOf(unit) + '.'};
+    }
+    return bprFileNameBegin + device_settings::numberText(reading.values[0]) + bprFileNameEnd;
 }
 
 std::string textOf(const Pixel &pixel)
@@ -165,6 +173,7 @@ ExitStatus writeBadPixels(Session &session, Unit unit)
 ExitStatus declareBadPixels(Session &session, Unit unit, const Pixels &pixels, bool bad)
 {
     const std::vector<Pixel> all{pixelsOf(pixels)};
+    const std::string file{fileNameOf(session, unit)};
     const auto declare = bad ? &Device::addBadPixel : &Device::removeBadPixel;
     std::size_t declared{0};
     {
@@ -183,7 +192,6 @@ ExitStatus declareBadPixels(Session &session, Unit unit, const Pixels &pixels, b
             }
         }
     }
-    const std::string file{fileNameOf(session, unit)};
     // The library saves what was declared when the device is closed.
     session.close();
     std::cout << declared << " of " << all.size() << (all.size() == 1 ? " pixel " : " pixels ")
