@@ -10,6 +10,7 @@
 #if defined(_WIN32)
 #include <io.h>
 #else
+#include <poll.h>
 #include <unistd.h>
 #endif
 
@@ -35,6 +36,20 @@ bool errorsAreWatched()
 #else
     return ::isatty(STDERR_FILENO) != 0;
 #endif
+}
+
+Output outputUntilNow()
+{
+    if (std::cout.flush().good()) {
+        return Output::Written;
+    }
+#if !defined(_WIN32)
+    pollfd output{STDOUT_FILENO, POLLOUT, 0};
+    if (::poll(&output, 1, 0) == 1 && (output.revents & POLLERR) != 0) {
+        return Output::WithoutReader;
+    }
+#endif
+    return Output::Lost;
 }
 
 void tell(const std::string &program, const std::string &text)

@@ -259,6 +259,19 @@ private:
     Command &command;
 };
 
+/// The help has a name for each word that a command takes; that it is text goes without saying.
+void leaveOutKinds(CLI::App &command)
+{
+    for (CLI::Option *const option : command.get_options()) {
+        if (option->get_positional() && option->get_type_name() == "TEXT") {
+            option->type_name("");
+        }
+    }
+    for (CLI::App *const each : command.get_subcommands({})) {
+        leaveOutKinds(*each);
+    }
+}
+
 constexpr const char *description{"Reads and sets the Veltrix KR thermal camera and its Blend Unit."};
 constexpr const char *footer{
     "Exit status: 0 done, 1 the device refuses or differs, 2 wrong use, 3 no device."};
@@ -268,6 +281,7 @@ constexpr const char *footer{
 void addCommands(CLI::App &parser, Arguments &arguments, Command &command, TypedIn where)
 {
     Builder{parser, arguments, command}.addAll(where);
+    leaveOutKinds(parser);
 }
 
 Command parse(const std::vector<std::string> &words, Arguments &arguments, TypedIn where)

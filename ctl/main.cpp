@@ -8,6 +8,7 @@
 #include "messages.h"
 #include "sdkentry.h"
 #include "session.h"
+#include "telling.h"
 
 #include <QCoreApplication>
 #include <QString>
@@ -41,6 +42,17 @@ int complete(const std::vector<std::string> &words)
     return ctl::done;
 }
 
+/// What was answered is of no use when it did not arrive; a reader that has seen enough is none of our
+/// concern.
+int statusWithOutput(int status)
+{
+    if (sdk_check::outputUntilNow() != sdk_check::Output::Lost) {
+        return status;
+    }
+    ctl::tell("Standard output could not be written.");
+    return status == ctl::done ? ctl::wrongUse : status;
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -50,12 +62,12 @@ int main(int argc, char *argv[])
     const std::vector<std::string> words{wordsOf(QCoreApplication::arguments())};
     try {
         if (!words.empty() && words.front() == "--complete") {
-            return complete({words.begin() + 1, words.end()});
+            return statusWithOutput(complete({words.begin() + 1, words.end()}));
         }
         ctl::Arguments arguments;
         const ctl::Command command{ctl::parse(words, arguments, ctl::TypedIn::Bash)};
         if (!command) {
-            return ctl::done;
+            return statusWithOutput(ctl::done);
         }
         const std::string fault{recording::begin(arguments.recording.empty() ? recording::fileOfEnvironment()
                                                                              : arguments.recording,
@@ -64,7 +76,7 @@ int main(int argc, char *argv[])
             throw ctl::Failure{ctl::wrongUse, fault + "."};
         }
         ctl::Session session{arguments.link};
-        return command(session);
+        return statusWithOutput(command(session));
     } catch (const ctl::Failure &failure) {
         ctl::tell(failure.what());
         return failure.status();

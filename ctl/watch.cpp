@@ -7,6 +7,7 @@
 #include "interruption.h"
 #include "messages.h"
 #include "plot.h"
+#include "telling.h"
 #include "values.h"
 
 #include <QByteArray>
@@ -137,6 +138,9 @@ public:
 private:
     bool csvAlone() const { return watch.csvFile == "-"; }
 
+    /// False when nobody reads what is written any more, and when it cannot be written.
+    static bool isWatched() { return sdk_check::outputUntilNow() == sdk_check::Output::Written; }
+
     void takeSamples()
     {
         if (!csvAlone()) {
@@ -144,7 +148,7 @@ private:
         }
         const Clock::time_point start{Clock::now()};
         std::int64_t tick{0};
-        for (int taken{0}; !watch.count || taken < *watch.count; ++taken) {
+        for (int taken{0}; isWatched() && (!watch.count || taken < *watch.count); ++taken) {
             if (!waitUntil(start + tick * watch.every)) {
                 if (watch.count) {
                     heedInterruption();

@@ -21,6 +21,11 @@ class CtlSettingsTest : public QObject
 private slots:
     void namesThePorts();
     void saysThatThereIsNoPort();
+#if defined(Q_OS_UNIX)
+    void saysThatItCannotWrite_data();
+    void saysThatItCannotWrite();
+    void endsWellWithoutAReader();
+#endif
     void tellsWhoTheUnitsAre();
     void listsEverySetting();
     void listsWhatANameBeginsWith();
@@ -79,6 +84,35 @@ void CtlSettingsTest::saysThatThereIsNoPort()
              lines({"pilotel-ctl: No port found. Plug the camera in, or name a port with --port."}));
     QCOMPARE(outcome.status, 3);
 }
+
+#if defined(Q_OS_UNIX)
+void CtlSettingsTest::saysThatItCannotWrite_data()
+{
+    QTest::addColumn<QString>("command");
+    for (const char *const command :
+         {"ports", "info", "list", "list --json", "get camera", "--help", "--version", "profile save -"}) {
+        QTest::addRow("%s", command) << QString{command};
+    }
+}
+
+void CtlSettingsTest::saysThatItCannotWrite()
+{
+    QFETCH(const QString, command);
+    const Outcome outcome{
+        run("bash", {"-c", "\"$0\" " + command + " >/dev/full", CTL}, CtlFolder{}.environment)};
+    QCOMPARE(outcome.errors, lines({"pilotel-ctl: Standard output could not be written."}));
+    QCOMPARE(outcome.status, 2);
+}
+
+void CtlSettingsTest::endsWellWithoutAReader()
+{
+    const Outcome outcome{run("bash", {"-c", R"("$0" list | head -n 1; exit "${PIPESTATUS[0]}")", CTL},
+                              CtlFolder{}.environment)};
+    QCOMPARE(outcome.errors, QString{});
+    QCOMPARE(outcome.output.count('\n'), 1);
+    QCOMPARE(outcome.status, 0);
+}
+#endif
 
 void CtlSettingsTest::tellsWhoTheUnitsAre()
 {
@@ -244,7 +278,7 @@ void CtlSettingsTest::refusesWrongUse_data()
     row({"watch", "temperature"},
         {R"(There is no command "temperature"; did you mean "temperatures"?)", help});
     row({"profile"}, {"A subcommand is required", help});
-    row({"info", "camera\n"}, {R"("camera\n" is too much.)", help});
+    row({"info", "\x1b[31m"}, {R"("\x1b[31m" is too much.)", help});
     row({"info", "--port"}, {"--port needs a value", help});
     row({"--port", "SIM1", "--port", "SIM2", "info"}, {"--port is there more than once", help});
     row({"get"}, {"NAME is required", help});

@@ -34,6 +34,8 @@ private slots:
     void saysThatItHasNoPictures();
 #if defined(Q_OS_UNIX)
     void endsWithCtrlC();
+    void endsWithItsReader();
+    void endsWhenItCannotWrite();
 #endif
 };
 
@@ -209,6 +211,31 @@ void CtlWatchTest::endsWithCtrlC()
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);
     QCOMPARE(process.exitCode(), 0);
     QCOMPARE(folder.calls().last(), QString{"releaseDeviceManager(\"manager\")"});
+}
+
+void CtlWatchTest::endsWithItsReader()
+{
+    CtlFolder folder;
+    const Outcome outcome{
+        run("bash",
+            {"-c", R"("$0" watch temperatures --every 10ms --csv t.csv | head -n 3; exit "${PIPESTATUS[0]}")",
+             CTL},
+            folder.environment, folder.path("."))};
+    QCOMPARE(outcome.errors, QString{});
+    QVERIFY(outcome.exited);
+    QCOMPARE(outcome.status, 0);
+    QCOMPARE(outcome.output.count('\n'), 3);
+    QVERIFY(folder.read("t.csv").endsWith('\n'));
+    QCOMPARE(folder.calls().last(), QString{"releaseDeviceManager(\"manager\")"});
+}
+
+void CtlWatchTest::endsWhenItCannotWrite()
+{
+    CtlFolder folder;
+    const Outcome outcome{run("bash", {"-c", R"("$0" watch temperatures --every 10ms >/dev/full)", CTL},
+                              folder.environment, folder.path("."))};
+    QCOMPARE(outcome.errors, lines({"pilotel-ctl: Standard output could not be written."}));
+    QCOMPARE(outcome.status, 2);
 }
 #endif
 
