@@ -209,9 +209,9 @@ std::string Changes::putBack(const Step &step)
             now.clear();
             for (const Change &change : step.changes) {
                 now += (now.empty() ? "it is " : ", ") +
-                       textOf(change.place, reading.values[change.place.field]) +
-                       (acknowledged ? "" : ", and setting it is refused");
+                       textOf(change.place, reading.values[change.place.field]);
             }
+            now += acknowledged ? "" : ", and setting it is refused";
         } catch (const Failure &failure) {
             now = failure.what();
         }

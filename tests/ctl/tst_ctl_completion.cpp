@@ -74,6 +74,12 @@ void CtlCompletionTest::completes_data()
     row({"bad-pixels", "list", "--"},
         {"--help", "--picture", "--unit", "--version", "--port", "--baud-rate", "--record"});
     row({"nothing", "like", "this"}, {});
+    row({"--frob", "inf"}, {"info"});
+    row({"--version", "inf"}, {"info"});
+    row({"watch", "temperatures", "--every", ""}, {});
+    row({"watch", "temperatures", ""}, {});
+    row({"bad-pixels", "list", ""}, {});
+    row({"list", "camera.gai"}, {"camera.gainCorrection"});
 }
 
 void CtlCompletionTest::completes()

@@ -55,6 +55,7 @@ private slots:
     void drawsWhatWasSeenUntilCtrlC_data();
     void drawsWhatWasSeenUntilCtrlC();
     void drawsWhatWasSeenUntilTheCableWasPulled();
+    void tellsThatNothingIsDrawnBehindWhyItEnded();
 };
 
 namespace
@@ -428,6 +429,20 @@ void CtlPlotTest::drawsWhatWasSeenUntilTheCableWasPulled()
              lines({"pilotel-ctl: No answer from the Blend Unit: look at its power and its cable."}));
     QCOMPARE(outcome.status, 3);
     QVERIFY(!placesOf(picture(folder.read("curves.png")), colours[0], curvesOnly).isEmpty());
+}
+
+void CtlPlotTest::tellsThatNothingIsDrawnBehindWhyItEnded()
+{
+    CtlFolder folder;
+    const QString program{programAlone(folder)};
+    folder.write("pilotel-curves", "#!/bin/sh\nexit 1\n");
+    QVERIFY(QFile::setPermissions(folder.path("pilotel-curves"), QFile::ReadOwner | QFile::ExeOwner));
+    folder.play("[[fault]]\noperation = \"getTemperatures\"\nonCall = 7\neffect = \"cableOut\"\n");
+    const Outcome outcome{run(program, plot, folder.environment, folder.path("."))};
+    QCOMPARE(outcome.errors,
+             lines({"pilotel-ctl: No answer from the Blend Unit: look at its power and its cable.",
+                    "pilotel-ctl: curves.png: the curves could not be drawn"}));
+    QCOMPARE(outcome.status, 3);
 }
 
 PILOTEL_TEST_CLASS(CtlPlotTest)
