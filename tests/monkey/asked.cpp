@@ -139,9 +139,11 @@ Asked askedByKeys(OperatorWindow &test, const Action &action)
         // An arrow that is held goes from a button to the control beside it, and on in that one.
         asked.anything = true;
     }
-    // What is typed into a spin box, or stepped there, is not finished.
-    if (qobject_cast<const QAbstractSpinBox *>(focused) == nullptr || ends) {
-        asked += times(askedFrom(focused), keys ? 6 : std::max(1, text.size()));
+    // What is typed into a spin box, or stepped there, is not finished; one key finishes it once.
+    const bool inSpinBox{qobject_cast<const QAbstractSpinBox *>(focused) != nullptr};
+    if (!inSpinBox || ends) {
+        const bool once{inSpinBox && action.verb == QStringLiteral("key")};
+        asked += times(askedFrom(focused), once ? 1 : keys ? 6 : std::max(1, text.size()));
     }
     if (text.contains(QStringLiteral("Ctrl"))) {
         // To the next page.
@@ -206,6 +208,15 @@ Asked askedBy(OperatorWindow &test, const Action &action)
     if (verb == QStringLiteral("edit")) {
         Asked asked{askedFrom(test.window().focusWidget())};
         asked += times(askedFrom(action.target), 1 + action.text.count(QLatin1Char{'\n'}));
+        return asked;
+    }
+    if (verb == QStringLiteral("begin")) {
+        const QWidget *const focused{test.window().focusWidget()};
+        return sendingControl(focused) == action.target ? Asked{} : askedFrom(focused);
+    }
+    if (verb == QStringLiteral("page")) {
+        Asked asked{askedFrom(test.window().focusWidget())};
+        asked += askedFrom(QStringLiteral("Principal_tab"));
         return asked;
     }
     if (verb == QStringLiteral("resize")) {

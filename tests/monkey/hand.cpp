@@ -147,6 +147,12 @@ bool Hand::perform(const Action &action)
     if (verb == QStringLiteral("edit")) {
         return edit(action);
     }
+    if (verb == QStringLiteral("begin")) {
+        return begin(action);
+    }
+    if (verb == QStringLiteral("page")) {
+        return turnTo(action.target);
+    }
     return useKeys(action) || useMouse(action);
 }
 
@@ -231,8 +237,8 @@ bool Hand::type(const QString &text)
     return true;
 }
 
-/// Types into a spin box and finishes the edit, by Enter or by Tab.
-bool Hand::edit(const Action &action)
+/// Types into a spin box and leaves the edit as it is.
+bool Hand::begin(const Action &action)
 {
     auto *const box = test.window().findChild<QAbstractSpinBox *>(action.target);
     // A list that is open would take the keys.
@@ -243,10 +249,38 @@ bool Hand::edit(const Action &action)
     box->setFocus(Qt::TabFocusReason);
     box->selectAll();
     type(action.text);
+    return true;
+}
+
+/// Types into a spin box and finishes the edit, by Enter or by Tab.
+bool Hand::edit(const Action &action)
+{
+    if (!begin(action)) {
+        return false;
+    }
     if (isInView()) {
         QTest::keyClick(&test.native(), action.x < 0.5 ? Qt::Key_Return : Qt::Key_Tab);
     }
     return true;
+}
+
+/// Brings a control into view, as clicks on tabs do. The pages inside others come first, while they are not
+/// in view, so that the focus moves once.
+bool Hand::turnTo(const QString &control)
+{
+    auto *const widget = test.window().findChild<QWidget *>(control);
+    if (widget == nullptr || QApplication::activePopupWidget() != nullptr) {
+        return false;
+    }
+    for (QWidget *around{widget->parentWidget()}; around != nullptr; around = around->parentWidget()) {
+        auto *const tabs = qobject_cast<QTabWidget *>(around);
+        for (int page{0}; tabs != nullptr && page < tabs->count(); ++page) {
+            if (tabs->widget(page)->isAncestorOf(widget)) {
+                tabs->setCurrentIndex(page);
+            }
+        }
+    }
+    return widget->isVisible();
 }
 
 /// By keys: from the first item downwards.

@@ -41,7 +41,9 @@ private:
     bool useMouse(const Action &action);
     bool useKeys(const Action &action);
     bool type(const QString &text);
+    bool begin(const Action &action);
     bool edit(const Action &action);
+    bool turnTo(const QString &control);
     bool choose(const Action &action);
     bool work(const Action &action);
     bool invoke(const QString &signature, const QString &argument);

@@ -3,21 +3,40 @@
 // The monkey: chooses what to do next.
 #include "monkey.h"
 
+#include "controls.h"
 #include "misbehaviour.h"
 #include "reach.h"
 
+#include <QAbstractButton>
 #include <QAbstractSpinBox>
 #include <QComboBox>
+#include <QLatin1Char>
 #include <QRegularExpression>
+#include <QSpinBox>
 #include <QTabWidget>
 #include <QWidget>
+
+#include <cstddef>
+#include <utility>
 
 Action Monkey::next(OperatorWindow &test)
 {
     Action action;
     const bool connected{test.child<QWidget>("paramSection").isEnabled()};
     const int dice{random.bounded(1000)};
-    if (dice < 4) {
+    if (!connected) {
+        planned.clear();
+    } else if (planned.empty() && oneIn(20)) {
+        if (oneIn(2)) {
+            planContradiction(test);
+        } else {
+            planEdit(test);
+        }
+    }
+    if (!planned.empty()) {
+        action = planned.front();
+        planned.pop_front();
+    } else if (dice < 4) {
         action = {oneIn(2) ? QStringLiteral("close") : QStringLiteral("destroy")};
     } else if (dice < 14) {
         action = {QStringLiteral("resize")};
@@ -185,7 +204,7 @@ Action Monkey::byName(OperatorWindow &test)
     const int dice{random.bounded(10)};
     if (dice < 5) {
         action.verb = QStringLiteral("invoke");
-        action.target = oneOf(handlers());
+        action.target = inTurn(handlers());
         action.text = action.target.contains(QStringLiteral("string")) ? oneOf(oddTexts()) : someNumber();
     } else if (dice < 6) {
         static const QStringList book{QStringLiteral("connectDevice()"), QStringLiteral("disconnectDevice()"),
@@ -196,9 +215,79 @@ Action Monkey::byName(OperatorWindow &test)
         action.target = oneOf(book);
     } else {
         action.verb = QStringLiteral("work");
-        action.target = oneOf(namesOf(controlsOf(test.window())));
+        action.target = inTurn(namesOf(controlsOf(test.window())));
         action.x = random.generateDouble();
         action.text = someNumber();
     }
     return action;
+}
+
+const QString &Monkey::inTurn(const QStringList &all)
+{
+    return oneIn(3) ? oneOf(all) : all.at(turn++ % all.size());
+}
+
+void Monkey::plan(const QString &verb, const QString &target, const QString &text)
+{
+    Action action{verb, target, random.generateDouble(), random.generateDouble()};
+    action.text = text;
+    planned.push_back(std::move(action));
+}
+
+void Monkey::planEnd(OperatorWindow &test, bool mayEndWindow)
+{
+    if (mayEndWindow && oneIn(3)) {
+        plan(oneIn(4) ? QStringLiteral("close") : QStringLiteral("destroy"), {});
+        return;
+    }
+    static const QStringList keys{QStringLiteral("Return"), QStringLiteral("Enter"), QStringLiteral("Tab"),
+                                  QStringLiteral("Backtab")};
+    const int dice{random.bounded(8)};
+    if (dice < 4) {
+        plan(QStringLiteral("key"), {}, oneOf(keys));
+    } else if (dice < 6) {
+        plan(QStringLiteral("click"),
+             dice < 5 ? QStringLiteral("clearLogButton") : QStringLiteral("logView"));
+    } else if (dice < 7) {
+        plan(QStringLiteral("away"), {});
+    } else {
+        plan(QStringLiteral("focus"), someControl(test));
+    }
+}
+
+void Monkey::planEdit(OperatorWindow &test)
+{
+    QStringList names;
+    if (oneIn(2)) {
+        // Several of these send together, when any of them is left.
+        for (const BoxRow &row : boxRows) {
+            names.append(row.box);
+        }
+    } else {
+        for (const QWidget *const control : controlsOf(test.window())) {
+            if (qobject_cast<const QAbstractSpinBox *>(control) != nullptr) {
+                names.append(control->objectName());
+            }
+        }
+    }
+    const QString box{oneOf(names)};
+    plan(QStringLiteral("page"), box);
+    plan(QStringLiteral("begin"), box, QString::number(random.bounded(640)));
+    planEnd(test, true);
+}
+
+void Monkey::planContradiction(OperatorWindow &test)
+{
+    const RegionRow &region{regionRows.at(static_cast<std::size_t>(random.bounded(4)))};
+    const QString axis{oneIn(2) ? QStringLiteral("X") : QStringLiteral("Y")};
+    const QString first{region.boxes + axis + QLatin1Char{'1'}};
+    const QString second{region.boxes + axis + QLatin1Char{'2'}};
+    if (region.enable != nullptr && !test.child<QAbstractButton>(region.enable).isChecked()) {
+        plan(QStringLiteral("work"), region.enable);
+    }
+    plan(QStringLiteral("page"), first);
+    plan(QStringLiteral("begin"), second, QString::number(test.child<QSpinBox>(second).minimum()));
+    planEnd(test, false);
+    plan(QStringLiteral("begin"), first, QString::number(test.child<QSpinBox>(first).maximum()));
+    planEnd(test, true);
 }
