@@ -36,6 +36,8 @@ Action Monkey::next(OperatorWindow &test)
     if (!planned.empty()) {
         action = planned.front();
         planned.pop_front();
+    } else if (dueDone < 2 * dueOfAKind && oneIn(4)) {
+        action = due(test);
     } else if (dice < 4) {
         action = {oneIn(2) ? QStringLiteral("close") : QStringLiteral("destroy")};
     } else if (dice < 14) {
@@ -204,7 +206,7 @@ Action Monkey::byName(OperatorWindow &test)
     const int dice{random.bounded(10)};
     if (dice < 5) {
         action.verb = QStringLiteral("invoke");
-        action.target = inTurn(handlers());
+        action.target = oneOf(handlers());
         action.text = action.target.contains(QStringLiteral("string")) ? oneOf(oddTexts()) : someNumber();
     } else if (dice < 6) {
         static const QStringList book{QStringLiteral("connectDevice()"), QStringLiteral("disconnectDevice()"),
@@ -215,16 +217,23 @@ Action Monkey::byName(OperatorWindow &test)
         action.target = oneOf(book);
     } else {
         action.verb = QStringLiteral("work");
-        action.target = inTurn(namesOf(controlsOf(test.window())));
+        action.target = oneOf(namesOf(controlsOf(test.window())));
         action.x = random.generateDouble();
         action.text = someNumber();
     }
     return action;
 }
 
-const QString &Monkey::inTurn(const QStringList &all)
+Action Monkey::due(OperatorWindow &test)
 {
-    return oneIn(3) ? oneOf(all) : all.at(turn++ % all.size());
+    const bool byHandler{dueDone % 2 == 0};
+    QStringList names{byHandler ? handlers() : namesOf(controlsOf(test.window()))};
+    names.sort();
+    Action action{byHandler ? QStringLiteral("invoke") : QStringLiteral("work"),
+                  names.at((turn + dueDone / 2) % names.size()), random.generateDouble()};
+    action.text = action.target.contains(QStringLiteral("string")) ? oneOf(oddTexts()) : someNumber();
+    ++dueDone;
+    return action;
 }
 
 void Monkey::plan(const QString &verb, const QString &target, const QString &text)

@@ -17,7 +17,7 @@
 class Monkey
 {
 public:
-    explicit Monkey(quint32 seed) : random{seed}, turn{static_cast<int>(seed % 10'000) * turnsInASession} {}
+    explicit Monkey(quint32 seed) : random{seed}, turn{static_cast<int>(seed % 10'000) * dueOfAKind} {}
 
     Action next(OperatorWindow &test);
 
@@ -32,8 +32,8 @@ private:
     Action editing(OperatorWindow &test);
     Action connecting(OperatorWindow &test);
     Action byName(OperatorWindow &test);
-    /// The next one of those, or any of them.
-    const QString &inTurn(const QStringList &all);
+    /// What is due in this session: handlers and controls by turns, so that following seeds leave none out.
+    Action due(OperatorWindow &test);
 
     /// Plans an edit that something ends.
     void planEdit(OperatorWindow &test);
@@ -43,10 +43,10 @@ private:
     /// Plans what leaves or finishes the edit; it may also end the window.
     void planEnd(OperatorWindow &test, bool mayEndWindow);
 
-    /// A session takes at least as many; the one with the next seed goes on from there.
-    static constexpr int turnsInASession{2};
+    static constexpr int dueOfAKind{4};
 
     QRandomGenerator random;
-    int turn;
+    int turn; ///< Place of the first handler and of the first control that are due.
+    int dueDone{0};
     std::deque<Action> planned;
 };
