@@ -73,6 +73,27 @@ bool isRegionBox(const QString &control)
     return control.startsWith(QStringLiteral("Roi"));
 }
 
+double numberIn(const Panel &panel, const QString &property)
+{
+    return panel.value(property).toDouble();
+}
+
+/// Whether a slider stands where its box says.
+bool standsAtItsBox(const Panel &panel, const Pair &pair)
+{
+    const QString slider{named(pair.slider)};
+    const QString box{named(pair.box)};
+    const double lowest{numberIn(panel, slider + QStringLiteral(".minimum"))};
+    const double highest{std::max(lowest, numberIn(panel, slider + QStringLiteral(".maximum")))};
+    const double value{numberIn(panel, box + QStringLiteral(".value"))};
+    const double position{std::round((value - pair.lowest) * pair.stepsPerUnit)};
+    const double expected{std::clamp(position, lowest, highest)};
+    const double shown{numberIn(panel, slider + QStringLiteral(".value"))};
+    // A box at its end has no change to tell, so a slider that reaches further stays where it was put.
+    return (shown >= expected || value <= numberIn(panel, box + QStringLiteral(".minimum"))) &&
+           (shown <= expected || value >= numberIn(panel, box + QStringLiteral(".maximum")));
+}
+
 /// What the off-screen platform says of menus and the lists of combo boxes; it is not about the program.
 bool isAboutPlatform(const QString &warning)
 {
@@ -285,18 +306,11 @@ QString Promises::checkValues(const Panel &panel) const
             (focused != nullptr && sendingControl(focused) == box)) {
             continue;
         }
-        const double position{std::round(
-            (panel.value(box + QStringLiteral(".value")).toDouble() - pair.lowest) * pair.stepsPerUnit)};
-        const double expected{
-            std::clamp(position, panel.value(slider + QStringLiteral(".minimum")).toDouble(),
-                       std::max(panel.value(slider + QStringLiteral(".minimum")).toDouble(),
-                                panel.value(slider + QStringLiteral(".maximum")).toDouble()))};
-        const double shown{panel.value(slider + QStringLiteral(".value")).toDouble()};
-        if (std::not_equal_to<>{}(shown, expected)) {
+        if (!standsAtItsBox(panel, pair)) {
             return QStringLiteral("coupling: %1 stands at %2 beside %3 in its box")
                 .arg(slider)
-                .arg(shown)
-                .arg(panel.value(box + QStringLiteral(".value")).toDouble(), 0, 'g', 12);
+                .arg(numberIn(panel, slider + QStringLiteral(".value")))
+                .arg(numberIn(panel, box + QStringLiteral(".value")), 0, 'g', 12);
         }
     }
     for (const QSlider *const slider : test.window().findChildren<QSlider *>()) {
