@@ -5,7 +5,6 @@
 
 #include "controls.h"
 #include "misbehaviour.h"
-#include "reach.h"
 
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
@@ -36,8 +35,6 @@ Action Monkey::next(OperatorWindow &test)
     if (!planned.empty()) {
         action = planned.front();
         planned.pop_front();
-    } else if (dueDone < 2 * dueOfAKind && oneIn(4)) {
-        action = due(test);
     } else if (dice < 4) {
         action = {oneIn(2) ? QStringLiteral("close") : QStringLiteral("destroy")};
     } else if (dice < 14) {
@@ -74,11 +71,12 @@ QString Monkey::someControl(OperatorWindow &test)
         // Without a device there is little to do, so it disconnects seldom.
         const bool avoided{name == QStringLiteral("disconnectDeviceButton") && !oneIn(20)};
         if (control->isVisible() && (anything || control->isEnabled()) && !avoided) {
-            const bool pages{qobject_cast<const QTabWidget *>(control) != nullptr};
-            names.append(pages ? name + QStringLiteral("/tabs") : name);
+            names.append(name);
         }
     }
-    return oneOf(names);
+    const QString chosen{seldomOneOf(names)};
+    const bool pages{test.window().findChild<QTabWidget *>(chosen) != nullptr};
+    return pages ? chosen + QStringLiteral("/tabs") : chosen;
 }
 
 QString Monkey::someNumber()
@@ -206,7 +204,7 @@ Action Monkey::byName(OperatorWindow &test)
     const int dice{random.bounded(10)};
     if (dice < 5) {
         action.verb = QStringLiteral("invoke");
-        action.target = oneOf(handlers());
+        action.target = seldomOneOf(handlers());
         action.text = action.target.contains(QStringLiteral("string")) ? oneOf(oddTexts()) : someNumber();
     } else if (dice < 6) {
         static const QStringList book{QStringLiteral("connectDevice()"), QStringLiteral("disconnectDevice()"),
@@ -217,22 +215,10 @@ Action Monkey::byName(OperatorWindow &test)
         action.target = oneOf(book);
     } else {
         action.verb = QStringLiteral("work");
-        action.target = oneOf(namesOf(controlsOf(test.window())));
+        action.target = seldomOneOf(namesOf(controlsOf(test.window())));
         action.x = random.generateDouble();
         action.text = someNumber();
     }
-    return action;
-}
-
-Action Monkey::due(OperatorWindow &test)
-{
-    const bool byHandler{dueDone % 2 == 0};
-    QStringList names{byHandler ? handlers() : namesOf(controlsOf(test.window()))};
-    names.sort();
-    Action action{byHandler ? QStringLiteral("invoke") : QStringLiteral("work"),
-                  names.at((turn + dueDone / 2) % names.size()), random.generateDouble()};
-    action.text = action.target.contains(QStringLiteral("string")) ? oneOf(oddTexts()) : someNumber();
-    ++dueDone;
     return action;
 }
 

@@ -5,6 +5,7 @@
 
 #include "action.h"
 #include "operatorwindow.h"
+#include "reach.h"
 
 #include <QRandomGenerator>
 #include <QString>
@@ -13,17 +14,19 @@
 
 #include <deque>
 
-/// Chooses by its seed and by what the window shows.
+/// Chooses by its seed, by what the window shows, and by what was reached before.
 class Monkey
 {
 public:
-    explicit Monkey(quint32 seed) : random{seed}, turn{static_cast<int>(seed % 10'000) * dueOfAKind} {}
+    Monkey(quint32 seed, const Reach &itsReach) : random{seed}, reach{itsReach} {}
 
     Action next(OperatorWindow &test);
 
 private:
     bool oneIn(int count) { return random.bounded(count) == 0; }
     const QString &oneOf(const QStringList &all) { return all.at(random.bounded(all.size())); }
+    /// Every other time one of those that were reached least.
+    QString seldomOneOf(const QStringList &all) { return oneOf(oneIn(2) ? reach.leastReached(all) : all); }
     QString someControl(OperatorWindow &test);
     QString someNumber();
     QString someBoxAnswer();
@@ -32,8 +35,6 @@ private:
     Action editing(OperatorWindow &test);
     Action connecting(OperatorWindow &test);
     Action byName(OperatorWindow &test);
-    /// What is due in this session: handlers and controls by turns, so that following seeds leave none out.
-    Action due(OperatorWindow &test);
 
     /// Plans an edit that something ends.
     void planEdit(OperatorWindow &test);
@@ -43,10 +44,7 @@ private:
     /// Plans what leaves or finishes the edit; it may also end the window.
     void planEnd(OperatorWindow &test, bool mayEndWindow);
 
-    static constexpr int dueOfAKind{4};
-
     QRandomGenerator random;
-    int turn; ///< Place of the first handler and of the first control that are due.
-    int dueDone{0};
+    const Reach &reach;
     std::deque<Action> planned;
 };

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// Which controls and handlers the monkey reached.
+// How often the monkey reached each control and handler.
 #include "reach.h"
 
 #include "mainwindow.h"
@@ -14,6 +14,8 @@
 #include <QSlider>
 #include <QTabWidget>
 #include <QTextEdit>
+
+#include <limits>
 
 QList<QWidget *> controlsOf(const QWidget &window)
 {
@@ -64,11 +66,28 @@ Reach::Reach()
     qApp->installEventFilter(this);
 }
 
+QStringList Reach::leastReached(const QStringList &names) const
+{
+    QStringList least;
+    int fewest{std::numeric_limits<int>::max()};
+    for (const QString &name : names) {
+        const int count{times.value(name)};
+        if (count < fewest) {
+            fewest = count;
+            least.clear();
+        }
+        if (count == fewest) {
+            least.append(name);
+        }
+    }
+    return least;
+}
+
 QStringList Reach::leftOver(const QStringList &names) const
 {
     QStringList left;
     for (const QString &name : names) {
-        if (!reached.contains(name)) {
+        if (!times.contains(name)) {
             left.append(name);
         }
     }
@@ -90,7 +109,7 @@ bool Reach::eventFilter(QObject *watched, QEvent *event)
     for (const QObject *part{watched}; part != nullptr && part->isWidgetType(); part = part->parent()) {
         const QString name{part->objectName()};
         if (!name.isEmpty() && !name.startsWith(QStringLiteral("qt_"))) {
-            reached.insert(name);
+            ++times[name];
             break;
         }
     }

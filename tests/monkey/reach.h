@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// Which controls and handlers the monkey reached.
+// How often the monkey reached each control and handler.
 #pragma once
 
 #include <QEvent>
+#include <QHash>
 #include <QList>
 #include <QObject>
-#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <QWidget>
@@ -18,19 +18,21 @@ QStringList namesOf(const QList<QWidget *> &controls);
 /// Signatures of all handlers of the window, which can be run by their names.
 const QStringList &handlers();
 
-/// While it lives, notes the controls that a press, a key or a turn of the wheel comes to.
+/// While it lives, counts the controls that a press, a key or a turn of the wheel comes to.
 class Reach : public QObject
 {
 public:
     Reach();
 
     /// What was used by its name.
-    void use(const QString &name) { reached.insert(name); }
+    void use(const QString &name) { ++times[name]; }
+    /// Which of the names were reached least.
+    QStringList leastReached(const QStringList &names) const;
     /// Which of the names were not reached.
     QStringList leftOver(const QStringList &names) const;
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    QSet<QString> reached;
+    QHash<QString, int> times;
 };

@@ -50,10 +50,9 @@ QString MonkeySession::startAgain()
     stage->test.simulator.clearJournal();
     stage->test.destroyWindow();
     QString wrong;
-    for (const veltrix_simulator::Call &call : stage->test.simulator.journal()) {
-        if (call.interface == veltrix_simulator::Interface::Device) {
-            wrong = QStringLiteral("destruction: it calls ") + QString::fromStdString(call.text);
-        }
+    if (!stage->test.simulator.journal().empty()) {
+        wrong = QStringLiteral("destruction: it calls ") +
+                QString::fromStdString(stage->test.simulator.journal().front().text);
     }
     stage.reset();
     stage.emplace(prepare, drawing);

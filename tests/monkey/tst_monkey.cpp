@@ -47,6 +47,7 @@ const char *const replayVariable{"PILOTEL_MONKEY_REPLAY"};
 /// For the processes that the monkey sits in: the file that tells its parent what it does.
 const char *const diaryVariable{"PILOTEL_MONKEY_DIARY"};
 const QString findingMark{QStringLiteral("# finding: ")};
+const QString sessionMark{QStringLiteral("# session: ")};
 
 int numberFrom(const char *variable, int otherwise)
 {
@@ -66,6 +67,7 @@ public:
         }
     }
 
+    /// Forgets the session before.
     void begin(const QString &scenario)
     {
         file.resize(0);
@@ -91,20 +93,24 @@ QString scenarioOf(quint32 seed, bool isLong)
     return QStringLiteral("shipped ") + names.at(static_cast<int>(seed / 3) % names.size());
 }
 
-QString where(quint32 seed, int acts)
-{
-    return QStringLiteral(" (seed %1, after %2 actions in all)").arg(seed).arg(acts);
-}
-
 /// What a process of the monkey came to.
 struct Outcome
 {
     Story story;
+    QString session; ///< Where it was; empty for a list.
     QString finding; ///< Empty when all was well.
     QString output;
 
     /// Findings of the same kind are taken for the same.
     QString kind() const { return finding.section(QLatin1Char{':'}, 0, 0); }
+    /// The finding, and where it came.
+    QString told() const
+    {
+        return session.isEmpty() ? finding
+                                 : QStringLiteral("%1 (%2 and %3 in its own)")
+                                       .arg(finding, session)
+                                       .arg(story.actions.size());
+    }
 };
 
 /// Runs this program again: to be at the window for a time, or to go through a list.
@@ -151,6 +157,8 @@ Outcome runMonkey(const QString &directory, const QString &listToReplay)
         for (const QString &line : QString::fromUtf8(file.readAll()).split(QLatin1Char{'\n'})) {
             if (line.startsWith(findingMark)) {
                 outcome.finding = line.mid(findingMark.size());
+            } else if (line.startsWith(sessionMark)) {
+                outcome.session = line.mid(sessionMark.size());
             }
         }
     }
@@ -211,7 +219,7 @@ void MonkeyTest::sitAtTheWindow(Diary &diary)
     const bool isLong{seconds > 60};
     // Left to itself it does the same on every machine, unless one is too slow for it.
     const int mostActs{qEnvironmentVariableIsSet(secondsVariable) ? std::numeric_limits<int>::max() : 400};
-    auto seed = static_cast<quint32>(numberFrom(seedVariable, firstSeed));
+    const auto seedOfRun = static_cast<quint32>(numberFrom(seedVariable, firstSeed));
     const OwnDirectory directory;
     Reach reach;
     QStringList all;
@@ -219,11 +227,16 @@ void MonkeyTest::sitAtTheWindow(Diary &diary)
     int sessions{0};
     QElapsedTimer sinceStart;
     sinceStart.start();
-    for (; sinceStart.elapsed() < seconds * qint64{1000} && acts < mostActs; ++seed) {
+    for (quint32 seed{seedOfRun}; sinceStart.elapsed() < seconds * qint64{1000} && acts < mostActs; ++seed) {
         const QString scenario{scenarioOf(seed, isLong)};
         diary.begin(scenario);
+        diary.add(sessionMark +
+                  QStringLiteral("seed %1 of a run from seed %2, after %3 actions of earlier sessions")
+                      .arg(seed)
+                      .arg(seedOfRun)
+                      .arg(acts));
         MonkeySession session{scenario, reach};
-        Monkey monkey{seed};
+        Monkey monkey{seed, reach};
         QElapsedTimer inSession;
         inSession.start();
         all = namesOf(controlsOf(session.window().window())) + handlers();
@@ -235,13 +248,13 @@ void MonkeyTest::sitAtTheWindow(Diary &diary)
             const QString wrong{session.act(action)};
             ++acts;
             if (!wrong.isEmpty()) {
-                diary.add(findingMark + wrong + where(seed, acts));
+                diary.add(findingMark + wrong);
                 QFAIL(qPrintable(wrong));
             }
         }
         const QString wrong{session.end()};
         if (!wrong.isEmpty()) {
-            diary.add(findingMark + wrong + where(seed, acts));
+            diary.add(findingMark + wrong);
             QFAIL(qPrintable(wrong));
         }
         ++sessions;
@@ -309,11 +322,11 @@ void MonkeyTest::watch()
         story.actions = shortestOf(story.actions, stillShows, [&] { return sinceStart.elapsed() < 150'000; });
     }
     const QString kept{QFileInfo{QStringLiteral("monkey-finding.txt")}.absoluteFilePath()};
-    writeList(kept, story, first.finding);
+    writeList(kept, story, first.told());
     qInfo("%s", qPrintable(first.output.right(6000)));
     QFAIL(qPrintable(
         QStringLiteral("%1\n%2 of %3 actions still show it, found by %4 runs; they stand in %5:\n%6")
-            .arg(first.finding)
+            .arg(first.told())
             .arg(story.actions.size())
             .arg(first.story.actions.size())
             .arg(runs)
