@@ -12,9 +12,12 @@
 
 #include <QByteArray>
 #include <QCheckBox>
+#include <QEvent>
+#include <QObject>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QSpinBox>
+#include <QWidget>
 #include <QtGlobal>
 
 #include <array>
@@ -50,6 +53,30 @@ constexpr RegionCoordinate y2Coordinate{
     &RegionWidgets::y2, &RegionWidgets::y1, &RegionWidgets::y2, &IDeviceControl::setRoiY2, "Y2", yOrderText};
 /// In the order in which a region that is switched on or off sends them.
 constexpr std::array coordinates{&x1Coordinate, &x2Coordinate, &y1Coordinate, &y2Coordinate};
+
+/// While it lives, a control that loses the focus tells nobody. Who leaves a spin box for another one has the
+/// focus there; a message box takes it, and that one would report an edit that nobody made. All else that
+/// the control has to tell meanwhile it does tell.
+class SilentFocusLoss : public QObject
+{
+public:
+    explicit SilentFocusLoss(QWidget *focused)
+    {
+        if (focused != nullptr) {
+            focused->installEventFilter(this);
+        }
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() != QEvent::FocusOut) {
+            return false;
+        }
+        const QSignalBlocker silence{watched};
+        watched->event(event);
+        return true;
+    }
+};
 
 } // namespace
 
@@ -142,9 +169,7 @@ void MainWindow::finishRegionEdit(int roiNumber, const RegionCoordinate &coordin
         if (first->value() > last) {
             first->setValue(last);
             const QScopedValueRollback<bool> whileShown{regionBoxOpen, true};
-            // Who left this spin box for another one has the focus there: the message box takes it, and that
-            // one would report an edit that nobody made.
-            const QSignalBlocker silence{focusWidget()};
+            const SilentFocusLoss silence{focusWidget()};
             const ClickBehindBox click;
             // The number is looked up in the translation like the texts around it: one may have it in other
             // digits.

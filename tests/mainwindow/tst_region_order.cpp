@@ -7,10 +7,12 @@
 #include "testclass.h"
 
 #include <QByteArray>
+#include <QCheckBox>
 #include <QCoreApplication>
 #include <QDialog>
 #include <QMetaObject>
 #include <QObject>
+#include <QRegularExpression>
 #include <QSpinBox>
 #include <QString>
 #include <QStringList>
@@ -33,6 +35,7 @@ private slots:
     void oneCommandHoweverTheEditEnds();
     void theBoxComesBeforeTheCommand();
     void anEditThatIsToldWhileTheBoxIsShownSendsNothing();
+    void aReadWhileTheBoxIsShownIsFollowed();
     void leavingAfterTheCorrectionSendsWhatIsShown();
     void aRefusalAfterTheCorrectionKeepsIt();
     void disconnectingFinishesTheEditFirst();
@@ -219,6 +222,32 @@ void RegionOrderTest::anEditThatIsToldWhileTheBoxIsShownSendsNothing()
     QMetaObject::invokeMethod(&test.window(), "x1RoiUserValueChanged", Q_ARG(int, 0));
     QCOMPARE(test.boxes.takeShown().size(), 1);
     QCOMPARE(test.takeCalls(), QStringList{"setRoiX1(100, 0, false, false, false) -> true"});
+}
+
+void RegionOrderTest::aReadWhileTheBoxIsShownIsFollowed()
+{
+    TestWindow test;
+    openRegion(test, 3);
+    show(test, "Roi1ExcY1", 100);
+    type(test, "Roi1ExcY2", 50);
+    test.simulator.set("camera.roi3.x1", 0);
+    test.boxes.expect([&test](QDialog &box) {
+        // As a script would. The enable box has the focus, and the read switches it off.
+        test.invoke("readCameraParameters");
+        BoxWatcher::pressOk(box);
+    });
+
+    press(test, "Roi1ExcY2", Qt::Key_Tab);
+
+    QCOMPARE(test.boxes.takeShown(), QStringList{orderBox(3, "Y1")});
+    QVERIFY(!test.child<QCheckBox>("roi1ExcEnable").isChecked());
+    QCOMPARE(test.enabledOf({"Roi1ExcX1", "Roi1ExcX2", "Roi1ExcY1", "Roi1ExcY2"}), QStringList{});
+    const QStringList calls{test.takeCalls()};
+    QCOMPARE(calls.filter(QRegularExpression{"^setRoi"}),
+             (QStringList{
+                 "setRoiX1(0, 3, false, false, false) -> true", "setRoiX2(0, 3, false, false, false) -> true",
+                 "setRoiY1(0, 3, false, false, false) -> true", "setRoiY2(0, 3, false, false, false) -> true",
+                 "setRoiY2(50, 3, false, false, false) -> true"}));
 }
 
 void RegionOrderTest::leavingAfterTheCorrectionSendsWhatIsShown()
