@@ -12,6 +12,7 @@
 #include <QLatin1Char>
 #include <QMap>
 #include <QPoint>
+#include <QRegularExpression>
 #include <QSlider>
 #include <QTabBar>
 #include <QTabWidget>
@@ -185,9 +186,7 @@ QWidget *focusOf(OperatorWindow &test)
 Asked askedBy(OperatorWindow &test, const Action &action)
 {
     const QString &verb{action.verb};
-    if (verb == QStringLiteral("invoke") || verb == QStringLiteral("work") ||
-        verb == QStringLiteral("close") || verb == QStringLiteral("destroy") ||
-        action.box.startsWith(QStringLiteral("within"))) {
+    if (verb == QStringLiteral("invoke") || verb == QStringLiteral("work")) {
         return {{}, 0, true};
     }
     if (verb == QStringLiteral("wheel")) {
@@ -197,7 +196,8 @@ Asked askedBy(OperatorWindow &test, const Action &action)
         verb == QStringLiteral("paste")) {
         return askedByKeys(test, action);
     }
-    if (verb == QStringLiteral("focus") || verb == QStringLiteral("away")) {
+    if (verb == QStringLiteral("focus") || verb == QStringLiteral("away") ||
+        verb == QStringLiteral("close")) {
         return askedFrom(test.window().focusWidget());
     }
     if (verb == QStringLiteral("choose")) {
@@ -219,10 +219,27 @@ Asked askedBy(OperatorWindow &test, const Action &action)
         asked += askedFrom(QStringLiteral("Principal_tab"));
         return asked;
     }
-    if (verb == QStringLiteral("resize")) {
+    if (verb == QStringLiteral("resize") || verb == QStringLiteral("destroy")) {
         return {};
     }
     return askedByMouse(test, action);
+}
+
+Asked askedInBoxes(const Action &action, const QStringList &shownBoxes)
+{
+    if (!action.box.startsWith(QStringLiteral("within ")) || shownBoxes.isEmpty()) {
+        return {};
+    }
+    static const QRegularExpression regionHandler{QStringLiteral("([xy][12])RoiUserValueChanged")};
+    const QRegularExpressionMatch handler{regionHandler.match(action.box)};
+    if (!handler.hasMatch()) {
+        return {{}, 0, true};
+    }
+    // The handlers of the regions do nothing while the box about their order is shown.
+    const auto others = std::count_if(shownBoxes.begin(), shownBoxes.end(), [](const QString &box) {
+        return !box.contains(QStringLiteral("\"ROI\""));
+    });
+    return times(one(QStringLiteral("setRoi") + handler.captured(1).toUpper()), static_cast<int>(others));
 }
 
 bool isCommand(const QString &operation)

@@ -39,5 +39,8 @@ QWidget *focusOf(OperatorWindow &test);
 /// What an action may make the window send, as the window is before it.
 Asked askedBy(OperatorWindow &test, const Action &action);
 
+/// What else may be sent by the handler that a script ran in each of the boxes that were shown.
+Asked askedInBoxes(const Action &action, const QStringList &shownBoxes);
+
 /// Whether the operation may change something in the device.
 bool isCommand(const QString &operation);

@@ -94,7 +94,6 @@ void Hand::comeBack()
 bool Hand::act(const Action &action)
 {
     current = action;
-    boxesShown = 0;
     const bool done{perform(action)};
     // What was clicked behind a box comes from the event loop, and what is stale goes from there.
     for (int round{0}; round < 3; ++round) {
@@ -349,7 +348,6 @@ bool Hand::eventFilter(QObject *watched, QEvent *event)
 {
     const auto *const dialog = event->type() == QEvent::Show ? qobject_cast<QDialog *>(watched) : nullptr;
     if (dialog != nullptr && dialog->isModal()) {
-        ++boxesShown;
         test.boxes.expect([this](QDialog &box) { answer(box); });
     }
     return false;
@@ -372,7 +370,8 @@ void Hand::answer(QDialog &box)
     } else if (way == QStringLiteral("window")) {
         test.window().close();
     } else if (way.startsWith(QStringLiteral("within "))) {
-        invoke(way.section(QLatin1Char{' '}, 1), {});
+        // Region 0, where the handler asks for one.
+        invoke(way.section(QLatin1Char{' '}, 1), QStringLiteral("0"));
     }
     if (!still.isNull() && still->isVisible()) {
         still->reject();

@@ -31,9 +31,6 @@ public:
     /// Returns once the window is at rest, and says whether the action could be done.
     bool act(const Action &action);
 
-    /// Boxes during the last action.
-    int boxes() const { return boxesShown; }
-
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
@@ -56,6 +53,5 @@ private:
         chooseInMenu();
     }};
     Action current{};
-    int boxesShown{0};
     int openBoxes{0};
 };

@@ -100,8 +100,9 @@ QString Monkey::someBoxAnswer()
     if (!oneIn(8)) {
         return oneOf(ways);
     }
+    static const QStringList ofRegions{handlers().filter(QStringLiteral("RoiUserValueChanged"))};
     static const QStringList withoutNumbers{handlers().filter(QStringLiteral("()"))};
-    return QStringLiteral("within ") + oneOf(withoutNumbers);
+    return QStringLiteral("within ") + oneOf(oneIn(4) ? ofRegions : withoutNumbers);
 }
 
 Action Monkey::mouseAction(OperatorWindow &test)

@@ -102,8 +102,7 @@ bool isAboutPlatform(const QString &warning)
 
 } // namespace
 
-Promises::Promises(OperatorWindow &itsTest, const Hand &itsHand)
-    : test{itsTest}, hand{itsHand}, atStart{panelOf(itsTest.window())}
+Promises::Promises(OperatorWindow &itsTest) : test{itsTest}, atStart{panelOf(itsTest.window())}
 {
     watchLog();
     QObject::connect(test.child<QComboBox>("selectDeviceComboBox").model(), &QAbstractItemModel::rowsInserted,
@@ -150,6 +149,8 @@ void Promises::before(const Action &action)
 QString Promises::after(const Action &action)
 {
     followDevice();
+    shownBoxes = test.boxes.takeShown();
+    asked += askedInBoxes(action, shownBoxes);
     const Panel panel{panelOf(test.window())};
     const auto firstOf = [](std::initializer_list<QString> findings) {
         const auto found = std::find_if(findings.begin(), findings.end(),
@@ -408,7 +409,7 @@ QString Promises::compareSent(const Sent &sent) const
         // what raised the box about the order is sent as the operator left it.
         const bool isEdit{sent.place + 1 < journal.size() &&
                           recordIn(journal[sent.place + 1]).startsWith(QStringLiteral("Set ROI "))};
-        if (!isEdit || hand.boxes() > 0 || number < 0 || number > 3) {
+        if (!isEdit || !shownBoxes.isEmpty() || number < 0 || number > 3) {
             return {};
         }
         const QString box{named(regionOf(number).boxes) + operation.right(2)};
@@ -485,9 +486,8 @@ QString Promises::compareAll(Oracle &oracle)
     if (!unlike.isEmpty()) {
         return QStringLiteral("oracle: ") + unlike.join(QStringLiteral("; "));
     }
-    const QStringList shown{test.boxes.takeShown()};
-    if (shown != oracle.boxes()) {
-        return QStringLiteral("oracle: the boxes are ") + shown.join(QStringLiteral(" | "));
+    if (shownBoxes != oracle.boxes()) {
+        return QStringLiteral("oracle: the boxes are ") + shownBoxes.join(QStringLiteral(" | "));
     }
     return oracle.session().lastCommandOk == test.lastCommandOk()
                ? QString{}

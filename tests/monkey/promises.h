@@ -6,7 +6,6 @@
 #include "action.h"
 #include "asked.h"
 #include "deviceside.h"
-#include "hand.h"
 #include "operatorwindow.h"
 #include "panel.h"
 
@@ -22,7 +21,7 @@
 class Promises
 {
 public:
-    Promises(OperatorWindow &itsTest, const Hand &itsHand);
+    explicit Promises(OperatorWindow &itsTest);
 
     void before(const Action &action);
     QString after(const Action &action);
@@ -54,15 +53,15 @@ private:
     bool isByTheBook(const Action &action) const;
 
     OperatorWindow &test;
-    const Hand &hand;
     DeviceSide device;
     const Panel atStart;
     QStringList allowedWarnings;
 
     // Of the action that is under way.
     Asked asked;
-    QString leftBox;       ///< The spin box that had the focus and sends when it is left.
-    bool wasOpen{false};   ///< The device, before the action.
+    QString leftBox;     ///< The spin box that had the focus and sends when it is left.
+    bool wasOpen{false}; ///< The device, before the action.
+    QStringList shownBoxes;
     bool byTheBook{false}; ///< The oracle knows all that comes of the action.
     Panel shownBefore;
     Session sessionBefore;

@@ -33,7 +33,7 @@ private:
     struct Stage
     {
         Stage(const OperatorWindow::Preparation &prepare, OperatorWindow::Drawing drawing)
-            : test{prepare, drawing}, hand{test}, promises{test, hand}
+            : test{prepare, drawing}, hand{test}, promises{test}
         {}
 
         OperatorWindow test;
