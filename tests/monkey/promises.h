@@ -7,7 +7,9 @@
 #include "asked.h"
 #include "deviceside.h"
 #include "operatorwindow.h"
+#include "oracle.h"
 #include "panel.h"
+#include "sentcommand.h"
 
 #include <QObject>
 #include <QString>
@@ -29,24 +31,14 @@ public:
     QString connectsAgain();
 
 private:
-    /// What the window showed when it logged the outcome of a command.
-    struct Sent
-    {
-        std::size_t place; ///< Of the call in the journal.
-        Panel panel;
-    };
-
     void watchLog();
     void followDevice();
     QStringList knownValues(const Action &action) const;
     QString checkCalls() const;
-    QString checkLog(const Action &action);
-    QString checkEnabled(const Panel &panel) const;
-    QString checkValues(const Panel &panel) const;
+    QString checkLog(const Action &action) const;
     QString checkAsked() const;
     QString checkFinishedEdit(const Action &action) const;
     QString checkSent() const;
-    QString compareSent(const Sent &sent) const;
     QString compareWithOracle(const Action &action);
     QString compareAll(Oracle &oracle);
     QStringList sentOperations() const;
@@ -55,7 +47,6 @@ private:
     OperatorWindow &test;
     DeviceSide device;
     const Panel atStart;
-    QStringList allowedWarnings;
 
     // Of the action that is under way.
     Asked asked;
@@ -65,8 +56,7 @@ private:
     bool byTheBook{false}; ///< The oracle knows all that comes of the action.
     Panel shownBefore;
     Session sessionBefore;
-    int logLinesBefore{0};
-    std::vector<Sent> sentCommands;
+    std::vector<SentCommand> sentCommands;
     std::vector<std::size_t> scans; ///< Lengths of the journal when ports were offered.
     QObject context;                ///< Of the connections.
 };
