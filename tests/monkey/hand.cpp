@@ -170,16 +170,13 @@ bool Hand::useMouse(const Action &action)
     } else if (action.verb == QStringLiteral("wheel")) {
         test.turn(*place, action.text.toInt());
     } else if (action.verb == QStringLiteral("drag")) {
-        const QSize size{test.window().size()};
-        const QPoint end{
-            static_cast<int>(action.text.section(QLatin1Char{','}, 0, 0).toDouble() * size.width()),
-            static_cast<int>(action.text.section(QLatin1Char{','}, 1).toDouble() * size.height())};
+        const QPoint last{test.window().rect().bottomRight()};
+        const QPoint end{static_cast<int>(action.text.section(QLatin1Char{','}, 0, 0).toDouble() * last.x()),
+                         static_cast<int>(action.text.section(QLatin1Char{','}, 1).toDouble() * last.y())};
         test.press(*place);
-        // A box may have opened, and the window may be gone with it.
-        if (isInView()) {
-            QTest::mouseMove(&test.native(), end);
-            test.release(end);
-        }
+        // Also when a box has closed the window meanwhile: nobody holds a button for ever.
+        QTest::mouseMove(&test.native(), end);
+        test.release(end);
     } else {
         return false;
     }

@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// What the monkey is made of: lists that can be read back and shortened, scenarios that can be played, lines
-// of the log.
+// What the monkey is made of: lists that can be read back and shortened, what was reached, scenarios that can
+// be played, lines of the log.
 #include "action.h"
 #include "loglines.h"
 #include "misbehaviour.h"
+#include "reach.h"
 #include "shortest.h"
 #include "testclass.h"
 #include "veltrix_simulator/simulator.h"
@@ -26,6 +27,7 @@ class MonkeyListsTest : public QObject
 private slots:
     void whatIsWrittenIsReadBack();
     void whatIsNotNeededIsLeftOut();
+    void whatWasReachedLeastIsTold();
     void everySeedMakesAScenario();
     void theSameSeedMakesTheSameScenario();
     void linesOfTheProgramAreKnown();
@@ -71,6 +73,21 @@ void MonkeyListsTest::whatIsNotNeededIsLeftOut()
     const std::vector<Action> nothing{
         shortestOf(actions, [](const std::vector<Action> & /*list*/) { return true; })};
     QVERIFY(nothing.empty());
+}
+
+void MonkeyListsTest::whatWasReachedLeastIsTold()
+{
+    Reach reach;
+    const QStringList names{"scanDevice()", "gammaEdit", "clheEdit"};
+    QCOMPARE(reach.leastReached(names), names);
+    reach.use("scanDevice()");
+    reach.use("scanDevice()");
+    reach.use("clheEdit");
+    QCOMPARE(reach.leastReached(names), QStringList{"gammaEdit"});
+    QCOMPARE(reach.leftOver(names), QStringList{"gammaEdit"});
+    reach.use("gammaEdit");
+    QCOMPARE(reach.leastReached(names), (QStringList{"gammaEdit", "clheEdit"}));
+    QCOMPARE(reach.leftOver(names), QStringList{});
 }
 
 void MonkeyListsTest::everySeedMakesAScenario()
