@@ -15,8 +15,29 @@
 #include <QTabWidget>
 #include <QWidget>
 
+#include <array>
 #include <cstddef>
 #include <utility>
+
+namespace
+{
+
+/// Stands in a plan for what ends an edit. It is chosen when it comes, by what is in view then.
+const QString endOfEdit{QStringLiteral("end")};
+
+QStringList spinBoxesInView(const QWidget &window)
+{
+    QStringList names;
+    for (const QWidget *const control : controlsOf(window)) {
+        if (qobject_cast<const QAbstractSpinBox *>(control) != nullptr && control->isVisible() &&
+            control->isEnabled()) {
+            names.append(control->objectName());
+        }
+    }
+    return names;
+}
+
+} // namespace
 
 Action Monkey::next(OperatorWindow &test)
 {
@@ -35,6 +56,9 @@ Action Monkey::next(OperatorWindow &test)
     if (!planned.empty()) {
         action = planned.front();
         planned.pop_front();
+        if (action.verb == endOfEdit) {
+            action = endingEdit(test, planned.empty());
+        }
     } else if (dice < 4) {
         action = {oneIn(2) ? QStringLiteral("close") : QStringLiteral("destroy")};
     } else if (dice < 14) {
@@ -102,7 +126,7 @@ QString Monkey::someBoxAnswer()
     }
     static const QStringList ofRegions{handlers().filter(QStringLiteral("RoiUserValueChanged"))};
     static const QStringList withoutNumbers{handlers().filter(QStringLiteral("()"))};
-    return QStringLiteral("within ") + oneOf(oneIn(4) ? ofRegions : withoutNumbers);
+    return QStringLiteral("within ") + oneOf(oneIn(2) ? ofRegions : withoutNumbers);
 }
 
 Action Monkey::mouseAction(OperatorWindow &test)
@@ -166,13 +190,7 @@ Action Monkey::keyAction()
 
 Action Monkey::editing(OperatorWindow &test)
 {
-    QStringList names;
-    for (const QWidget *const control : controlsOf(test.window())) {
-        if (qobject_cast<const QAbstractSpinBox *>(control) != nullptr && control->isVisible() &&
-            control->isEnabled()) {
-            names.append(control->objectName());
-        }
-    }
+    const QStringList names{spinBoxesInView(test.window())};
     if (names.isEmpty()) {
         return keyAction();
     }
@@ -230,25 +248,31 @@ void Monkey::plan(const QString &verb, const QString &target, const QString &tex
     planned.push_back(std::move(action));
 }
 
-void Monkey::planEnd(OperatorWindow &test, bool mayEndWindow)
+Action Monkey::endingEdit(OperatorWindow &test, bool mayEndMore)
 {
-    if (mayEndWindow && oneIn(3)) {
-        plan(oneIn(4) ? QStringLiteral("close") : QStringLiteral("destroy"), {});
-        return;
+    if (mayEndMore && oneIn(2)) {
+        static const std::array<Action, 6> ends{{
+            {QStringLiteral("close")},
+            {QStringLiteral("destroy")},
+            {QStringLiteral("destroy")},
+            {QStringLiteral("destroy")},
+            {QStringLiteral("invoke"), QStringLiteral("disconnectDevice()")},
+            {QStringLiteral("invoke"), QStringLiteral("connectDevice()")},
+        }};
+        return ends.at(static_cast<std::size_t>(random.bounded(static_cast<int>(ends.size()))));
     }
     static const QStringList keys{QStringLiteral("Return"), QStringLiteral("Enter"), QStringLiteral("Tab"),
                                   QStringLiteral("Backtab")};
     const int dice{random.bounded(8)};
     if (dice < 4) {
-        plan(QStringLiteral("key"), {}, oneOf(keys));
-    } else if (dice < 6) {
-        plan(QStringLiteral("click"),
-             dice < 5 ? QStringLiteral("clearLogButton") : QStringLiteral("logView"));
-    } else if (dice < 7) {
-        plan(QStringLiteral("away"), {});
-    } else {
-        plan(QStringLiteral("focus"), someControl(test));
+        return {QStringLiteral("key"), {}, 0.5, 0.5, oneOf(keys)};
     }
+    if (dice < 5) {
+        return {QStringLiteral("away")};
+    }
+    const QStringList boxes{spinBoxesInView(test.window())};
+    return {oneIn(2) ? QStringLiteral("click") : QStringLiteral("focus"),
+            oneIn(2) && !boxes.isEmpty() ? oneOf(boxes) : someControl(test)};
 }
 
 void Monkey::planEdit(OperatorWindow &test)
@@ -269,7 +293,7 @@ void Monkey::planEdit(OperatorWindow &test)
     const QString box{oneOf(names)};
     plan(QStringLiteral("page"), box);
     plan(QStringLiteral("begin"), box, QString::number(random.bounded(640)));
-    planEnd(test, true);
+    plan(endOfEdit, {});
 }
 
 void Monkey::planContradiction(OperatorWindow &test)
@@ -283,7 +307,7 @@ void Monkey::planContradiction(OperatorWindow &test)
     }
     plan(QStringLiteral("page"), first);
     plan(QStringLiteral("begin"), second, QString::number(test.child<QSpinBox>(second).minimum()));
-    planEnd(test, false);
+    plan(endOfEdit, {});
     plan(QStringLiteral("begin"), first, QString::number(test.child<QSpinBox>(first).maximum()));
-    planEnd(test, true);
+    plan(endOfEdit, {});
 }

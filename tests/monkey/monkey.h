@@ -41,8 +41,8 @@ private:
     /// Plans two edits of a region, with its first limit behind its second one.
     void planContradiction(OperatorWindow &test);
     void plan(const QString &verb, const QString &target, const QString &text = {});
-    /// Plans what leaves or finishes the edit; it may also end the window.
-    void planEnd(OperatorWindow &test, bool mayEndWindow);
+    /// What leaves or finishes an edit; it may also end the connection or the window.
+    Action endingEdit(OperatorWindow &test, bool mayEndMore);
 
     QRandomGenerator random;
     const Reach &reach;
