@@ -82,10 +82,10 @@ void RecordedSessionsTest::sessionIsThatOfTheTrace_data()
     QTest::addColumn<QString>("program");
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("scenario");
-    QTest::addColumn<int>("atLeast");
+    QTest::addColumn<int>("fewest");
     const auto row = [](const char *name, const char *program, const QStringList &arguments,
-                        const char *scenario, int atLeast) {
-        QTest::addRow("%s", name) << QString{program} << arguments << QString{scenario} << atLeast;
+                        const char *scenario, int fewest) {
+        QTest::addRow("%s", name) << QString{program} << arguments << QString{scenario} << fewest;
     };
 
     row("start of the window", PROGRAM, closing, "", 7);
@@ -105,7 +105,7 @@ void RecordedSessionsTest::sessionIsThatOfTheTrace()
     QFETCH(const QString, program);
     QFETCH(const QStringList, arguments);
     QFETCH(const QString, scenario);
-    QFETCH(const int, atLeast);
+    QFETCH(const int, fewest);
     Folder folder;
     folder.environment.insert("PILOTEL_RECORD", folder.recording());
     folder.environment.insert("VELTRIX_SIMULATOR_SCENARIO", scenario);
@@ -113,7 +113,7 @@ void RecordedSessionsTest::sessionIsThatOfTheTrace()
     QVERIFY2(outcome.exited, qPrintable(outcome.errors));
     const QStringList calls{callsIn(folder.recording())};
     QCOMPARE(calls, callsIn(folder.trace()));
-    QVERIFY2(calls.size() >= atLeast, qPrintable(QString::number(calls.size())));
+    QVERIFY2(calls.size() >= fewest, qPrintable(QString::number(calls.size())));
     QCOMPARE(wordsIn(folder.trace()), QStringList{});
     QVERIFY(headerOf(folder.recording()).startsWith(R"({"trace":1,"program":"pilotel)"));
     // Nothing else is said or done than without.
