@@ -86,7 +86,7 @@ private:
             ->type_name("RATE")
             ->check(CLI::IsMember{linkRates()});
         parser
-            .add_option("--record", arguments.recording,
+            .add_option("--record", arguments.link.recording,
                         "Records every call to the library in this file; else PILOTEL_RECORD names one")
             ->type_name("FILE");
     }

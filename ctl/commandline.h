@@ -20,7 +20,6 @@ namespace ctl
 struct Arguments
 {
     Link link{};
-    std::string recording{};          ///< The file that every call is written to.
     std::vector<std::string> names{}; ///< Of settings, with or without values.
     std::string file{};
     std::string profile{"-"};

@@ -69,11 +69,8 @@ int main(int argc, char *argv[])
         if (!command) {
             return statusWithOutput(ctl::done);
         }
-        const std::string fault{recording::begin(arguments.recording.empty() ? recording::fileOfEnvironment()
-                                                                             : arguments.recording,
-                                                 "pilotel-ctl")};
-        if (!fault.empty()) {
-            throw ctl::Failure{ctl::wrongUse, fault + "."};
+        if (arguments.link.recording.empty()) {
+            arguments.link.recording = recording::fileOfEnvironment();
         }
         ctl::Session session{arguments.link};
         return statusWithOutput(command(session));

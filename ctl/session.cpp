@@ -59,6 +59,11 @@ void Session::bringUp()
     if (itsConfiguration != nullptr) {
         return;
     }
+    // Only here, so that a command that reads a recording does not begin one in the same file.
+    const std::string fault{recording::begin(link.recording, "pilotel-ctl")};
+    if (!fault.empty()) {
+        throw Failure{wrongUse, fault + '.'};
+    }
     sdk = recording::sdkRoot();
     if (sdk == nullptr) {
         throw Failure{noDevice, "The device library has no root object."};

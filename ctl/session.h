@@ -28,6 +28,7 @@ struct Link
 {
     std::string port; ///< Empty: the one that likelyPorts() leaves.
     std::optional<std::int32_t> baudRate{};
+    std::string recording{}; ///< The file that the calls are recorded in; empty: none.
 };
 
 /// What a setting answered.

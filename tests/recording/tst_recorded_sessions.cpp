@@ -235,7 +235,10 @@ void RecordedSessionsTest::fullDiskEndsTheRecording()
     QCOMPARE(outcome.errors,
              QString{"pilotel: Cannot write the recording \"session.recording\": File too large. "
                      "It ends here, and the program goes on.\n"});
-    QCOMPARE(folder.read("session.recording").size(), 1024);
+    // Without a part of the line that had no room.
+    const QByteArray recorded{folder.read("session.recording")};
+    QVERIFY(recorded.size() > 500 && recorded.size() <= 1024);
+    QVERIFY(recorded.endsWith("}\n"));
 }
 
 void RecordedSessionsTest::windowGoesOnWithoutARecording()
@@ -259,7 +262,7 @@ void RecordedSessionsTest::askingAndCompletingRecordNothing()
     folder.environment.insert("PILOTEL_RECORD", folder.recording());
     for (const QStringList &arguments :
          {QStringList{"--help"}, QStringList{"--version"}, QStringList{"--complete", "get", "camera.g"},
-          QStringList{"nothing"}}) {
+          QStringList{"nothing"}, QStringList{"ports"}}) {
         folder.run(CTL, arguments);
         QVERIFY2(!QFile::exists(folder.recording()), qPrintable(arguments.join(' ')));
     }

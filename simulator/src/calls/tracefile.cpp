@@ -3,6 +3,7 @@
 // A file of calls, a line each.
 #include "calls/tracefile.h"
 
+#include <cerrno>
 #include <ios>
 #include <string>
 #include <system_error>
@@ -34,6 +35,8 @@ TraceFile::Opening TraceFile::open(const std::filesystem::path &path)
     if (!isTraceOrNothing(path)) {
         return Opening::OtherFile;
     }
+    name = path;
+    size = 0;
     file.open(path, std::ios::binary | std::ios::trunc);
     return file.is_open() ? Opening::Done : Opening::Unwritable;
 }
@@ -42,9 +45,14 @@ bool TraceFile::write(std::string_view line)
 {
     file << line << std::flush;
     if (!file) {
+        const int reason{errno};
         file.close();
+        std::error_code ignored;
+        std::filesystem::resize_file(name, size, ignored);
+        errno = reason;
         return false;
     }
+    size += line.size();
     return true;
 }
 

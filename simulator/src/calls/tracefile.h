@@ -3,6 +3,7 @@
 // A file of calls, a line each.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <string_view>
@@ -28,12 +29,14 @@ public:
     /// Begins the file anew, also in the place of an earlier trace.
     Opening open(const std::filesystem::path &path);
     bool isOpen() const { return file.is_open(); }
-    /// Appends a line, which ends with its line feed. False, with the file closed, when it cannot be written;
-    /// errno says why.
+    /// Appends a line, which ends with its line feed. False, with the file closed and without a part of the
+    /// line, when it cannot be written; errno says why.
     bool write(std::string_view line);
     void close();
 
 private:
+    std::filesystem::path name;
+    std::uintmax_t size{0}; ///< Of the whole lines.
     std::ofstream file;
 };
 
