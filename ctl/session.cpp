@@ -54,16 +54,23 @@ void Session::close()
     greeted = {};
 }
 
+// Only when the library is needed, so that a command that reads a recording does not begin one in the same
+// file.
+void Session::beginRecording()
+{
+    const std::string fault{recordingSettled ? "" : recording::begin(link.recording, "pilotel-ctl")};
+    if (!fault.empty()) {
+        throw Failure{wrongUse, fault + '.'};
+    }
+    recordingSettled = true;
+}
+
 void Session::bringUp()
 {
     if (itsConfiguration != nullptr) {
         return;
     }
-    // Only here, so that a command that reads a recording does not begin one in the same file.
-    const std::string fault{recording::begin(link.recording, "pilotel-ctl")};
-    if (!fault.empty()) {
-        throw Failure{wrongUse, fault + '.'};
-    }
+    beginRecording();
     sdk = recording::sdkRoot();
     if (sdk == nullptr) {
         throw Failure{noDevice, "The device library has no root object."};
@@ -121,6 +128,7 @@ void Session::open()
     if (device != nullptr) {
         return;
     }
+    beginRecording();
     findPort();
     const char *const type{configuration().getCommunicationType()};
     if (type == nullptr || type != std::string_view{uartCommunication}) {

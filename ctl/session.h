@@ -77,6 +77,7 @@ public:
     bool write(Unit unit, const Setting &setting, const Values &values, RegionFlags flags);
 
 private:
+    void beginRecording();
     void bringUp();
     void findPort();
     void identify();
@@ -84,6 +85,7 @@ private:
     void greet(Unit unit);
 
     Link link;
+    bool recordingSettled{false};
     veltrix_sdk::IVeltrixSdk *sdk{nullptr};
     veltrix_sdk::ISdkConfiguration *itsConfiguration{nullptr};
     veltrix_sdk::IDeviceManager *manager{nullptr};
