@@ -26,7 +26,7 @@ public:
 
     void note(const veltrix_simulator::RecordedCall &call);
     /// Plain words of the configuration, which give the ranges of the expert values.
-    void note(const std::vector<veltrix_simulator::RecordedWord> &words);
+    void note(const std::vector<veltrix_simulator::RecordedWord> &known);
 
     /// What a profile has of it, in the order of the table. They refer to this object.
     std::vector<ProfileLine> lines() const;
@@ -39,7 +39,7 @@ private:
     void noteWrite(const veltrix_simulator::RecordedCall &call, device_settings::Unit unit,
                    const device_settings::Setting &setting);
     /// Keeps the numbers of the first fields of a setting, and forgets the others, if all are allowed.
-    void keep(device_settings::Unit unit, const device_settings::Setting &setting, const Values &numbers);
+    void keep(device_settings::Unit unit, const device_settings::Setting &setting, const Values &known);
     std::string serialNumberOf(device_settings::Unit unit) const;
 
     veltrix_sdk::ConfigurationWords words{};

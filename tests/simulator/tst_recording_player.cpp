@@ -159,6 +159,9 @@ private slots:
     void cutRecordingIsToldAndPlayed();
     void wrongRecordingIsNamed_data();
     void wrongRecordingIsNamed();
+    void fileThatIsNotThereIsNamed();
+    void fileThatIsTooLargeIsNamed();
+    void noMoreThanAThousandCallsAreTold();
     void recordingBeginsAnewWithThePower();
 };
 
@@ -463,6 +466,38 @@ void RecordingPlayerTest::wrongRecordingIsNamed()
     QFETCH(QString, message);
     const Session session{lines, keys};
     QCOMPARE(session.refusal(), message);
+}
+
+void RecordingPlayerTest::fileThatIsNotThereIsNamed()
+{
+    const Session session{header};
+    QVERIFY(QFile::remove(session.path(QStringLiteral("session.trace"))));
+    QCOMPARE(session.refusal(),
+             QStringLiteral("session.trace: there is no such recording; a scenario names it as "
+                            "it is seen from the scenario's folder"));
+}
+
+void RecordingPlayerTest::fileThatIsTooLargeIsNamed()
+{
+    const Session session{header};
+    QFile file{session.path(QStringLiteral("session.trace"))};
+    QVERIFY(file.resize((qint64{512} << 20) + 1));
+    QCOMPARE(session.refusal(),
+             QStringLiteral("session.trace:1: the recording has more than 512 MiB; play a part of it"));
+}
+
+void RecordingPlayerTest::noMoreThanAThousandCallsAreTold()
+{
+    const Session session{header + opened};
+    const ScenarioCamera c{session.scenario()};
+    for (std::uint32_t gamma{0}; gamma < 1100; ++gamma) {
+        c.device.setGamma(gamma);
+    }
+    const QStringList told{session.told()};
+    QCOMPARE(told.size(), 1001);
+    QVERIFY(told[999].contains("camera.setGamma(999)"));
+    QCOMPARE(told.last(), QStringLiteral("session.trace:2: more than 1000 different calls are missing; no "
+                                         "further ones are told"));
 }
 
 void RecordingPlayerTest::recordingBeginsAnewWithThePower()

@@ -38,7 +38,7 @@ public:
     explicit Player(LogOutput &itsLog) : log{itsLog} {}
 
     /// Power-on: plays from the beginning. A last line that was cut is told.
-    void start(const Play &played);
+    void start(const Play &itsPlay);
 
     bool isOn() const { return play.recording != nullptr; }
     /// Whether a call that the recording does not have is refused; what answers nothing cannot be.

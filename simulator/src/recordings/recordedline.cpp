@@ -253,7 +253,7 @@ public:
             read(parameter);
         }
         if (place != list.size()) {
-            refuse("\"arguments\" are too many");
+            refuse(R"("arguments" are too many)");
         }
     }
 
@@ -263,7 +263,7 @@ private:
         const bool isFilledAlone{parameter.isFilled && !parameter.brought};
         if (place == list.size()) {
             if (!isFilledAlone) {
-                refuse("\"arguments\" are too few");
+                refuse(R"("arguments" are too few)");
             }
             return;
         }
@@ -272,7 +272,7 @@ private:
         if (value.is_null() && canBeNull) {
             call.arguments.emplace_back(nullptr);
         } else if (isFilledAlone) {
-            refuse("\"arguments\" are too many");
+            refuse(R"("arguments" are too many)");
         } else if (parameter.shape == Shape::Text || parameter.shape == Shape::Object) {
             if (!value.is_string()) {
                 refuse("an argument is no text");
@@ -300,7 +300,7 @@ void readResult(const json &line, RecordedCall &call)
     const Passed &result = call.operation->result;
     if (result.shape == Shape::Nothing) {
         if (line.contains("result")) {
-            refuse("the operation has no \"result\"");
+            refuse(R"(the operation has no "result")");
         }
         return;
     }
@@ -316,7 +316,7 @@ void readResult(const json &line, RecordedCall &call)
         break;
     }
     if (!value.is_null() && !value.is_string()) {
-        refuse("\"result\" is no text");
+        refuse(R"("result" is no text)");
     }
     const std::string text{value.is_null() ? "" : value.get<std::string>()};
     if (result.shape == Shape::Text) {
@@ -330,11 +330,11 @@ void readResult(const json &line, RecordedCall &call)
 void readOutputs(const json &outputs, RecordedCall &call)
 {
     if (!outputs.is_object()) {
-        refuse("\"outputs\" is no object");
+        refuse(R"("outputs" is no object)");
     }
     if (call.operation->id == OperationId::getConfiguration) {
         if (outputs.size() != 1) {
-            refuse("\"outputs\" has more than \"words\"");
+            refuse(R"("outputs" has more than "words")");
         }
         call.words = wordsOf(member(outputs, "words"));
         return;
@@ -350,14 +350,14 @@ void readOutputs(const json &outputs, RecordedCall &call)
             }
         } else {
             if (outputs.size() != 1) {
-                refuse("\"outputs\" is not one number");
+                refuse(R"("outputs" is not one number)");
             }
             call.name = nameIn(outputs.begin().key(), " is no name of an output");
             call.answer.push_back(numberOf(*outputs.begin(), parameter.kind, call.name));
         }
     }
     if (!call.hasOutputs) {
-        refuse("the operation has no \"outputs\"");
+        refuse(R"(the operation has no "outputs")");
     }
 }
 

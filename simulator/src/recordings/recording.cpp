@@ -81,8 +81,8 @@ std::variant<Recording, std::string> loadRecording(const std::string &fileName)
     // Reading a pipe could wait for ever.
     std::error_code error;
     if (!std::filesystem::is_regular_file(path, error)) {
-        return "the recording " + inQuotes(fileName) +
-               " is no file or cannot be read; a scenario names it as it is seen from the scenario's folder";
+        return fileName +
+               ": there is no such recording; a scenario names it as it is seen from the scenario's folder";
     }
     if (std::filesystem::file_size(path, error) > largestRecording || error) {
         return fileName + ":1: the recording has more than " +

@@ -61,7 +61,7 @@ std::optional<std::string> RecordingReader::cut() const
 
 bool RecordingReader::read()
 {
-    constexpr std::size_t portion{64 * 1024};
+    constexpr std::size_t portion{std::size_t{1} << 16};
     text.clear();
     isEnded = false;
     while (true) {

@@ -50,7 +50,7 @@ private:
     /// Puts the next line into `text`, without its line feed; false at the end.
     bool read();
     RecordedLine parse();
-    [[noreturn]] void fail(const std::string &text) const;
+    [[noreturn]] void fail(const std::string &reason) const;
 
     std::istream &input;
     std::string fileName;
