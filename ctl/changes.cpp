@@ -183,7 +183,10 @@ std::vector<std::string> Changes::putBack(std::size_t count)
     std::vector<std::string> lost;
     for (std::size_t place{count}; place > 0; --place) {
         const Step &step = steps[place - 1];
-        const std::string line{isLeftAlone(step) ? "" : putBack(step)};
+        if (isLeftAlone(step)) {
+            continue;
+        }
+        const std::string line{putBack(step)};
         if (!line.empty()) {
             lost.push_back(line);
         }

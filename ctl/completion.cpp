@@ -126,7 +126,8 @@ Words names(Session &session)
 
 Words awaitedWords(const CLI::Option &option)
 {
-    const std::string name{option.get_lnames().empty() ? "" : option.get_lnames().front()};
+    // Each option that takes a word has a long name.
+    const std::string name{option.get_lnames().front()};
     if (name == "port") {
         return allPorts();
     }
@@ -165,7 +166,10 @@ Words wordsAt(Session &session, const Spot &spot, const std::string &begun)
     if (command == "get" || (command == "list" && !ofPixels)) {
         return names(session);
     }
-    return command == "store" ? Words{"user", "expert"} : Words{};
+    if (command == "store") {
+        return {"user", "expert"};
+    }
+    return {};
 }
 
 } // namespace

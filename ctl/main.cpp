@@ -34,8 +34,12 @@ std::vector<std::string> wordsOf(const QStringList &arguments)
 int complete(const std::vector<std::string> &words)
 {
     ctl::Session session{{}};
-    const std::string begun{words.empty() ? "" : words.back()};
-    const std::vector<std::string> before{words.begin(), words.empty() ? words.end() : words.end() - 1};
+    std::vector<std::string> before{words};
+    std::string begun;
+    if (!before.empty()) {
+        begun = before.back();
+        before.pop_back();
+    }
     for (const std::string &word : ctl::completions(session, before, begun, ctl::TypedIn::Bash)) {
         std::cout << word << '\n';
     }

@@ -79,8 +79,10 @@ void writeTable(const std::vector<Row> &rows)
     for (const Row &row : rows) {
         std::string line;
         for (std::size_t column{0}; column < row.size(); ++column) {
-            const bool last{column + 1 == row.size()};
-            line += row[column] + (last ? "" : std::string(widths[column] + 2 - row[column].size(), ' '));
+            line += row[column];
+            if (column + 1 < row.size()) {
+                line.append(widths[column] + 2 - row[column].size(), ' ');
+            }
         }
         std::cout << line << '\n';
     }

@@ -75,6 +75,7 @@ void CtlCompletionTest::completes_data()
         {"--help", "--picture", "--unit", "--version", "--port", "--baud-rate", "--record"});
     row({"nothing", "like", "this"}, {});
     row({"--frob", "inf"}, {"info"});
+    row({"-", "inf"}, {"info"});
     row({"--version", "inf"}, {"info"});
     row({"watch", "temperatures", "--every", ""}, {});
     row({"watch", "temperatures", ""}, {});

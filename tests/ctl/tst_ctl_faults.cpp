@@ -80,6 +80,12 @@ void CtlFaultsTest::tellsWhatTheDeviceDid_data()
         {"camera.clhe = 5 is refused by the camera.",
          "NOT PUT BACK: camera.edgeCorrection.type was 0 (none), camera.edgeCorrection.gain was 64; it is 2 "
          "(contouring), 100, and setting it is refused"});
+    row("the first unit is addressed at the second attempt", fault("setTarget", "once = true\n" + refuse),
+        {"get", "blendUnit.videoMode"}, 0, {});
+    row("a unit without a version of its processor", "[camera]\nfirmwareVersions.processor = 0\n",
+        {"get", "camera.gamma"}, 0, {});
+    row("a profile of a unit without a number", fault("getSerialNumber", refuse),
+        {"profile", "save", "new.toml"}, 0, {});
     row("nobody says who it is", fault("connect", refuse), {"info"}, 3,
         {"What is on the port SIM1 does not say who it is."});
     row("neither unit stores", fault("saveBlendUnitParameters", refuse), {"store", "expert"}, 1,

@@ -99,7 +99,7 @@ void CtlSettingsTest::saysThatItCannotWrite()
 {
     QFETCH(const QString, command);
     const Outcome outcome{
-        run("bash", {"-c", "\"$0\" " + command + " >/dev/full", CTL}, CtlFolder{}.environment)};
+        run("bash", {"-c", R"("$0" )" + command + " >/dev/full", CTL}, CtlFolder{}.environment)};
     QCOMPARE(outcome.errors, lines({"pilotel-ctl: Standard output could not be written."}));
     QCOMPARE(outcome.status, 2);
 }
@@ -287,6 +287,8 @@ void CtlSettingsTest::refusesWrongUse_data()
     row({"get", "camera.zzzzzzzz"},
         {R"(There is no setting "camera.zzzzzzzz"; "pilotel-ctl list" tells all of them)"});
     row({"get", "\x1b[31m"}, {R"(There is no setting "\x1b[31m"; "pilotel-ctl list" tells all of them)"});
+    row({"set", "=5"}, {R"("=5" is no NAME=VALUE, such as camera.gamma=2.2.)"});
+    row({"get", "camera.gam"}, {R"(There is no setting "camera.gam"; did you mean "camera.gamma"?)"});
     row({"set", "camera.gamma"}, {R"("camera.gamma" is no NAME=VALUE, such as camera.gamma=2.2.)"});
     row({"set", "camera.gamma=3"},
         {R"(camera.gamma cannot be "3": 0.5 to 2.5, or 32768 to 163840 is allowed)"});
