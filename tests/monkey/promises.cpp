@@ -92,7 +92,7 @@ QString Promises::after(const Action &action)
                                         [](const QString &finding) { return !finding.isEmpty(); });
         return found != findings.end() ? *found : QString{};
     };
-    return firstOf({checkCalls(), checkLog(action), wronglyEnabled(panel, atStart, device),
+    return firstOf({checkCalls(), checkWarnings(), checkLog(action), wronglyEnabled(panel, atStart, device),
                     wrongValue(panel, atStart, test.window()), checkAsked(), checkFinishedEdit(action),
                     checkSent(), compareWithOracle(action)});
 }
@@ -124,16 +124,21 @@ QString Promises::checkCalls() const
         }
         return QStringLiteral("not open: a call before the action");
     }
-    for (const QString &warning : test.warnings.take()) {
-        if (!isAboutPlatform(warning)) {
-            return QStringLiteral("warning: ") + warning;
-        }
-    }
     if (test.simulator.isDeviceOpen() != device.session.deviceOpen) {
         return QStringLiteral("device: it is not %1 as the calls say")
             .arg(device.session.deviceOpen ? QStringLiteral("open") : QStringLiteral("closed"));
     }
     return QTest::currentTestFailed() ? QStringLiteral("box or window: see above") : QString{};
+}
+
+QString Promises::checkWarnings() const
+{
+    for (const QString &warning : test.warnings.take()) {
+        if (!isAboutPlatform(warning)) {
+            return QStringLiteral("warning: ") + warning;
+        }
+    }
+    return {};
 }
 
 QStringList Promises::knownValues(const Action &action) const

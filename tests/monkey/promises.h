@@ -27,6 +27,8 @@ public:
 
     void before(const Action &action);
     QString after(const Action &action);
+    /// What Qt has warned of since it was asked last, but for what is about the off-screen platform.
+    QString checkWarnings() const;
     /// Connects to a camera that is well again, whatever was before, and compares all that comes of it.
     QString connectsAgain();
 

@@ -3,6 +3,7 @@
 // A session of the monkey: a scenario, a window, and actions that are drawn or given.
 #include "session.h"
 
+#include "calltexts.h"
 #include "misbehaviour.h"
 
 #include <QDir>
@@ -10,6 +11,8 @@
 #include <QIODevice>
 #include <QLatin1Char>
 #include <QTest>
+
+#include <vector>
 
 namespace
 {
@@ -45,18 +48,16 @@ MonkeySession::MonkeySession(const QString &scenario, Reach &itsReach)
     stage.emplace(prepare, drawing);
 }
 
-QString MonkeySession::startAgain()
+QString MonkeySession::endWindow()
 {
     stage->test.simulator.clearJournal();
     stage->test.destroyWindow();
-    QString wrong;
-    if (!stage->test.simulator.journal().empty()) {
-        wrong = QStringLiteral("destruction: it calls ") +
-                QString::fromStdString(stage->test.simulator.journal().front().text);
-    }
+    const std::vector<veltrix_simulator::Call> &calls{stage->test.simulator.journal()};
+    const QString wrong{calls.empty() ? stage->promises.checkWarnings()
+                                      : QStringLiteral("destruction: it calls ") + textOf(calls.front())};
     stage.reset();
-    stage.emplace(prepare, drawing);
-    return wrong;
+    return !wrong.isEmpty() || !QTest::currentTestFailed() ? wrong
+                                                           : QStringLiteral("end of a window: see above");
 }
 
 QString MonkeySession::act(const Action &action)
@@ -68,26 +69,17 @@ QString MonkeySession::act(const Action &action)
         reach.use(action.target);
     }
     QString wrong{stage->promises.after(action)};
-    if (!wrong.isEmpty()) {
-        return wrong;
-    }
     // Destroyed as it is, with the focus where it is, or closed before.
-    if (action.verb == QStringLiteral("destroy") || !stage->test.window().isVisible()) {
-        QString wrongAtItsEnd{startAgain()};
-        if (!wrongAtItsEnd.isEmpty()) {
-            return wrongAtItsEnd;
-        }
+    if (wrong.isEmpty() && (action.verb == QStringLiteral("destroy") || !stage->test.window().isVisible())) {
+        wrong = endWindow();
+        stage.emplace(prepare, drawing);
     }
-    return QTest::currentTestFailed() ? QStringLiteral("end of a window: see above") : QString{};
+    return wrong;
 }
 
 QString MonkeySession::end()
 {
     stage->hand.comeBack();
-    QString wrong{stage->promises.connectsAgain()};
-    if (!wrong.isEmpty()) {
-        return wrong;
-    }
-    stage.reset();
-    return QTest::currentTestFailed() ? QStringLiteral("end of a window: see above") : QString{};
+    const QString wrong{stage->promises.connectsAgain()};
+    return wrong.isEmpty() ? endWindow() : wrong;
 }

@@ -41,8 +41,8 @@ private:
         Promises promises;
     };
 
-    /// Destroys the window, which must call nothing, and makes another one; what is not as promised.
-    QString startAgain();
+    /// Destroys the window, which must call nothing; what is not as promised.
+    QString endWindow();
 
     const OperatorWindow::Preparation prepare;
     const OperatorWindow::Drawing drawing;
