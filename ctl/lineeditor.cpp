@@ -160,6 +160,9 @@ LineEditor::LineEditor(Complete complete)
     rl_getc_function = nextKey;
     rl_attempted_completion_function = completeWord;
     rl_basic_word_break_characters = wordEnds;
+    for (const std::string &line : history.load()) {
+        add_history(line.c_str());
+    }
 }
 
 LineEditor::~LineEditor()
@@ -188,6 +191,7 @@ std::optional<std::string> LineEditor::read(const char *prompt)
     std::free(typed);
     if (!line.empty()) {
         add_history(line.c_str());
+        history.add(line);
     }
     return line;
 }

@@ -3,6 +3,8 @@
 // Lines that somebody types, with history and completion where the system has an editor for them.
 #pragma once
 
+#include "history.h"
+
 #include <functional>
 #include <optional>
 #include <string>
@@ -29,6 +31,9 @@ public:
 
     /// The next line without its end; nothing at the end of the input.
     std::optional<std::string> read(const char *prompt);
+
+private:
+    History history{History::ownFile()};
 };
 
 } // namespace ctl

@@ -35,7 +35,9 @@ std::string Recorder::open(const std::string &itsFileName, const std::string &pr
     managerHeld = false;
     deviceOpen = false;
     errno = 0;
-    switch (file.open(std::filesystem::u8path(fileName))) {
+    // Who starts the program again with the variable still set must not lose the session that he wanted to
+    // send.
+    switch (file.open(std::filesystem::u8path(fileName), TraceFile::Earlier::Kept)) {
     case TraceFile::Opening::OtherFile:
         return '"' + fileName +
                "\" is no recording, and is left as it is; name another file, or delete this one";

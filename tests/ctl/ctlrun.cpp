@@ -27,6 +27,7 @@ CtlFolder::CtlFolder(const QString &scenario) : environment{programEnvironment()
 {
     environment.insert("VELTRIX_SIMULATOR_SCENARIO", scenario);
     environment.insert("VELTRIX_SIMULATOR_TRACE", path("trace.json"));
+    environment.insert("XDG_STATE_HOME", path("state"));
     environment.remove("NO_COLOR");
 }
 

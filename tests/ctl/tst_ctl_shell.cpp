@@ -24,6 +24,7 @@ private slots:
     void stopsAtTheFirstFailure();
     void hasNoShellInTheShell();
     void talksAtATerminal();
+    void remembersWhatWasTyped();
     void takesBackALineAtCtrlC_data();
     void takesBackALineAtCtrlC();
     void completesAtATerminal();
@@ -131,6 +132,22 @@ void CtlShellTest::talksAtATerminal()
     QVERIFY(terminal.waitForKeyByKey());
     terminal.type("\x04");
     QCOMPARE(terminal.end(), 0);
+}
+
+void CtlShellTest::remembersWhatWasTyped()
+{
+    CtlFolder folder;
+    for (const char *const typed : {"get camera.tint\n", "\x1b[A\x1b[A\n"}) {
+        Terminal terminal{CTL, {"shell"}, folder.environment};
+        QVERIFY2(terminal.waitFor("pilotel> "), terminal.seen());
+        QVERIFY(terminal.waitForKeyByKey());
+        terminal.type(typed);
+        QVERIFY2(terminal.waitFor("camera.tint = 10\r\npilotel> "), terminal.seen());
+        terminal.type("exit\n");
+        QCOMPARE(terminal.end(), 0);
+    }
+    QCOMPARE(folder.read("state/pilotel/history"),
+             QByteArray{"get camera.tint\nexit\nget camera.tint\nexit\n"});
 }
 
 void CtlShellTest::takesBackALineAtCtrlC_data()

@@ -65,7 +65,7 @@ private slots:
     void sessionIsThatOfTheTrace();
     void optionGoesBeforeTheVariable_data();
     void optionGoesBeforeTheVariable();
-    void earlierRecordingIsReplaced();
+    void earlierRecordingIsKept();
     void otherFileIsLeftAlone_data();
     void otherFileIsLeftAlone();
     void unwritableFileIsTold_data();
@@ -143,12 +143,18 @@ void RecordedSessionsTest::optionGoesBeforeTheVariable()
     QVERIFY(!QFile::exists(folder.path("of the variable")));
 }
 
-void RecordedSessionsTest::earlierRecordingIsReplaced()
+void RecordedSessionsTest::earlierRecordingIsKept()
 {
     const Folder folder;
     QCOMPARE(folder.run(CTL, {"--record", folder.recording(), "list"}).status, 0);
+    const QStringList earlier{callsIn(folder.trace())};
     QCOMPARE(folder.run(CTL, {"--record", folder.recording(), "get", "camera.gamma"}).status, 0);
     QCOMPARE(callsIn(folder.recording()), callsIn(folder.trace()));
+    QCOMPARE(callsIn(folder.recording() + '~'), earlier);
+    // The one of before takes the place of the one before that.
+    const QStringList latest{callsIn(folder.trace())};
+    QCOMPARE(folder.run(CTL, {"--record", folder.recording(), "info"}).status, 0);
+    QCOMPARE(callsIn(folder.recording() + '~'), latest);
 }
 
 void RecordedSessionsTest::otherFileIsLeftAlone_data()

@@ -52,7 +52,7 @@ QByteArray opening(const QByteArray &port, const QByteArray &result)
                 R"("],"result":)" + result);
 }
 
-const QByteArray opened{opening("COM7", "\"device\"")};
+const QByteArray opened{opening("COM7", R"("device")")};
 const QByteArray simulated{"missingCalls = \"simulate\"\n"};
 
 /// A recording with a scenario that plays it, and a log of what is told.
@@ -207,7 +207,7 @@ void RecordingPlayerTest::nothingElseIsAnswered()
 void RecordingPlayerTest::callThatReachedNothingAnswersNothing()
 {
     QByteArray notOpen{call("getGamma", "", "0")};
-    notOpen.replace("\"arguments\"", "\"notOpen\":true,\"arguments\"");
+    notOpen.replace(R"("arguments")", R"("notOpen":true,"arguments")");
     const Session session{header + notOpen + opened + call("getGamma", "", "70000")};
     const ScenarioCamera c{session.scenario()};
     QCOMPARE(c.device.getGamma(), 70000U);
@@ -256,7 +256,7 @@ void RecordingPlayerTest::whatWasReadIsKnown_data()
     };
     row("configuration.defaultGamma", "1.5", ofConfiguration("getDefaultGamma", "1.5"));
     row("configuration.gskDefault", "3", ofConfiguration("getDefaultGsk", "3"));
-    row("configuration.communicationType", "USB", ofConfiguration("getCommunicationType", "\"USB\""));
+    row("configuration.communicationType", "USB", ofConfiguration("getCommunicationType", R"("USB")"));
 }
 
 void RecordingPlayerTest::whatWasReadIsKnown()
@@ -418,7 +418,7 @@ void RecordingPlayerTest::wordsComeWithTheConfiguration()
 void RecordingPlayerTest::recordedTimePasses()
 {
     QByteArray slow{call("getGamma", "", "70000")};
-    slow.replace("\"microseconds\":3", "\"microseconds\":80000");
+    slow.replace(R"("microseconds":3)", R"("microseconds":80000)");
     for (const bool taken : {true, false}) {
         const Session session{header + opened + slow, taken ? "link.kind = \"recorded\"\n" : ""};
         const ScenarioCamera c{session.scenario()};
@@ -431,7 +431,7 @@ void RecordingPlayerTest::recordedTimePasses()
 
 void RecordingPlayerTest::cutRecordingIsToldAndPlayed()
 {
-    const Session session{header + opened + call("getGamma", "", "70000") + "{\"time\""};
+    const Session session{header + opened + call("getGamma", "", "70000") + R"({"time")"};
     const ScenarioCamera c{session.scenario()};
     QCOMPARE(c.device.getGamma(), 70000U);
     QCOMPARE(session.told(),
@@ -449,9 +449,9 @@ void RecordingPlayerTest::wrongRecordingIsNamed_data()
         QTest::newRow(name) << lines << keys << QString::fromUtf8(message);
     };
     row("damaged", header + "{}\n", "",
-        "session.trace:2: \"time\" is missing; record the session again, or take this line out");
+        R"(session.trace:2: "time" is missing; record the session again, or take this line out)");
     row("empty", "", "", "session.trace:1: the file is empty; name one that a program recorded");
-    row("unknown rule", header, "missingCalls = \"guess\"",
+    row("unknown rule", header, R"(missingCalls = "guess")",
         R"(played.toml:2:16: "missingCalls" takes "refuse" or "simulate", not "guess")");
     row("with ports", header, "port = []",
         R"(played.toml:2:8: "port" cannot stand beside a recording, which settles it)");

@@ -79,15 +79,12 @@ private:
     std::string &line;
 };
 
-// In the order of Missing.
-constexpr std::array<const char *, 3> beginnings{"", "NOT OPEN: ", "NOT HELD: "};
-
 } // namespace
 
 void writeJournalText(std::string &line, std::string_view operation, Missing missing, const Objects &objects,
                       Parameters parameters, const ResultPlace &result)
 {
-    line.assign(beginnings[static_cast<std::size_t>(missing)]).append(operation).push_back('(');
+    line.assign(missingInWords[static_cast<std::size_t>(missing)]).append(operation).push_back('(');
     JournalForm form{line};
     CallWriter{form, objects}.write(parameters, result);
 }

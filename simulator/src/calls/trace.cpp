@@ -44,7 +44,7 @@ void Trace::open(const std::string &name)
     if (name.empty()) {
         return;
     }
-    switch (file.open(std::filesystem::u8path(name))) {
+    switch (file.open(std::filesystem::u8path(name), TraceFile::Earlier::Replaced)) {
     case TraceFile::Opening::Done:
         return;
     case TraceFile::Opening::OtherFile:

@@ -26,14 +26,31 @@ bool isTraceOrNothing(const std::filesystem::path &path)
     return existing.gcount() == 0 || bytes == traceBeginning;
 }
 
+/// Renames what is there; true also where there is nothing. Else errno says why.
+bool keep(const std::filesystem::path &path)
+{
+    std::error_code error;
+    if (std::filesystem::is_regular_file(path, error) && std::filesystem::file_size(path, error) > 0) {
+        std::filesystem::path kept{path};
+        kept += "~";
+        std::filesystem::rename(path, kept, error);
+        errno = error.value();
+        return !error;
+    }
+    return true;
+}
+
 } // namespace
 
-TraceFile::Opening TraceFile::open(const std::filesystem::path &path)
+TraceFile::Opening TraceFile::open(const std::filesystem::path &path, Earlier earlier)
 {
     close();
     // Whoever mixes up two names must not lose a scenario or a memory.
     if (!isTraceOrNothing(path)) {
         return Opening::OtherFile;
+    }
+    if (earlier == Earlier::Kept && !keep(path)) {
+        return Opening::Unwritable;
     }
     name = path;
     size = 0;

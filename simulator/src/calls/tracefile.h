@@ -26,8 +26,15 @@ public:
         Unwritable, ///< errno says why.
     };
 
-    /// Begins the file anew, also in the place of an earlier trace.
-    Opening open(const std::filesystem::path &path);
+    /// What becomes of an earlier trace in the same place.
+    enum class Earlier
+    {
+        Replaced,
+        Kept, ///< With "~" behind its name, in the place of one that was kept before.
+    };
+
+    /// Begins the file anew.
+    Opening open(const std::filesystem::path &path, Earlier earlier);
     bool isOpen() const { return file.is_open(); }
     /// Appends a line, which ends with its line feed. False, with the file closed and without a part of the
     /// line, when it cannot be written; errno says why.

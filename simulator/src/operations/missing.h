@@ -5,6 +5,9 @@
 
 #include "operations/operations.h"
 
+#include <array>
+#include <string_view>
+
 namespace veltrix_simulator
 {
 
@@ -14,6 +17,9 @@ enum class Missing
     Device,  ///< No device is open.
     Manager, ///< No manager is held: none was fetched, or it has been released.
 };
+
+/// What stands before a call in the journal, in the order of Missing.
+inline constexpr std::array<std::string_view, 3> missingInWords{"", "NOT OPEN: ", "NOT HELD: "};
 
 /// What an operation needs and there is not.
 constexpr Missing missingFor(OperationId operation, bool isDeviceOpen, bool isManagerHeld)

@@ -157,9 +157,6 @@ void appendOutputs(std::string &text, const RecordedCall &call)
     }
 }
 
-// In the order of Missing.
-constexpr std::array<std::string_view, 3> beginnings{"", "NOT OPEN: ", "NOT HELD: "};
-
 } // namespace
 
 bool succeeded(const RecordedCall &call)
@@ -181,7 +178,7 @@ std::vector<Value> readingsOf(const Operation &operation, const std::vector<Valu
 
 std::string callText(const RecordedCall &call)
 {
-    std::string text{beginnings[static_cast<std::size_t>(call.missing)]};
+    std::string text{missingInWords[static_cast<std::size_t>(call.missing)]};
     text.append(call.operation->name).push_back('(');
     ArgumentWriter{text, call}.write();
     text.push_back(')');

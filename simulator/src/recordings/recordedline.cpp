@@ -32,12 +32,12 @@ using Shape = Passed::Shape;
 
 constexpr int traceForm{1};
 // Objects and lists inside each other: the line, its outputs, the words in them.
-constexpr int deepestNesting{3};
+constexpr int deepestLine{3};
 // A year; a call of the contract takes less.
 constexpr std::int64_t longestMicroseconds{31'536'000'000'000};
 constexpr std::string_view writeName{"write"};
 
-[[noreturn]] void refuse(std::string reason)
+[[noreturn]] void refuseLine(std::string reason)
 {
     throw LineError{std::move(reason)};
 }
@@ -52,7 +52,7 @@ bool isTooDeep(std::string_view text)
             inText = character != '"';
             place += character == '\\' ? 1 : 0;
         } else if (character == '{' || character == '[') {
-            if (++depth > deepestNesting) {
+            if (++depth > deepestLine) {
                 return true;
             }
         } else if (character == '}' || character == ']') {
@@ -67,11 +67,11 @@ bool isTooDeep(std::string_view text)
 json parseJson(std::string_view text)
 {
     if (isTooDeep(text)) {
-        refuse("the line is nested too deep");
+        refuseLine("the line is nested too deep");
     }
     json line = json::parse(text, nullptr, false);
     if (line.is_discarded() || !line.is_object()) {
-        refuse("the line is no object of JSON");
+        refuseLine("the line is no object of JSON");
     }
     return line;
 }
@@ -81,7 +81,7 @@ const json &member(const json &object, const char *key)
 {
     const auto found = object.find(key);
     if (found == object.end()) {
-        refuse(inQuotes(key) + " is missing");
+        refuseLine(inQuotes(key) + " is missing");
     }
     return *found;
 }
@@ -90,7 +90,7 @@ std::string textOf(const json &object, const char *key)
 {
     const json &value = member(object, key);
     if (!value.is_string()) {
-        refuse(inQuotes(key) + " is no text");
+        refuseLine(inQuotes(key) + " is no text");
     }
     return value.get<std::string>();
 }
@@ -100,7 +100,7 @@ std::int64_t integerOf(const json &object, const char *key, std::int64_t greates
     const std::optional<Value> value = valueOf(member(object, key));
     const auto *const integer = value ? std::get_if<std::int64_t>(&*value) : nullptr;
     if (integer == nullptr || *integer < 0 || *integer > greatest) {
-        refuse(inQuotes(key) + " is no integer from 0 to " + std::to_string(greatest));
+        refuseLine(inQuotes(key) + " is no integer from 0 to " + std::to_string(greatest));
     }
     return *integer;
 }
@@ -109,7 +109,7 @@ std::chrono::microseconds timeOf(const json &object)
 {
     const std::optional<std::chrono::microseconds> time = parseTime(textOf(object, "time"));
     if (!time) {
-        refuse(R"("time" is no time such as 2026-03-14T09:26:53.589793Z)");
+        refuseLine(R"("time" is no time such as 2026-03-14T09:26:53.589793Z)");
     }
     return *time;
 }
@@ -117,7 +117,7 @@ std::chrono::microseconds timeOf(const json &object)
 RecordedHeader headerOf(const json &line)
 {
     if (line["trace"] != traceForm) {
-        refuse("its form is not " + std::to_string(traceForm) + ", the only one that this program knows");
+        refuseLine("its form is not " + std::to_string(traceForm) + ", the only one that this program knows");
     }
     const bool isOfProgram{line.contains("program")};
     const std::string name{textOf(line, isOfProgram ? "program" : "scenario")};
@@ -130,7 +130,7 @@ void refuseOtherKeys(const json &line)
                                        "notOpen", "notHeld",      "arguments", "result", "outputs"};
     for (const auto &item : line.items()) {
         if (std::find(std::begin(known), std::end(known), item.key()) == std::end(known)) {
-            refuse(inQuotes(item.key()) + " is unknown here");
+            refuseLine(inQuotes(item.key()) + " is unknown here");
         }
     }
 }
@@ -138,7 +138,7 @@ void refuseOtherKeys(const json &line)
 std::vector<RecordedWord> wordsOf(const json &object)
 {
     if (!object.is_object()) {
-        refuse("the words of the configuration are no object");
+        refuseLine("the words of the configuration are no object");
     }
     std::vector<RecordedWord> words;
     for (const WordRow &row : configurationWords) {
@@ -149,12 +149,12 @@ std::vector<RecordedWord> wordsOf(const json &object)
         const std::optional<Value> given = valueOf(*found);
         const std::optional<Value> value = given ? convert(*given, Kind::Signed32) : std::nullopt;
         if (!value) {
-            refuse(inQuotes(row.key) + " takes " + std::string{describe(Kind::Signed32)});
+            refuseLine(inQuotes(row.key) + " takes " + std::string{describe(Kind::Signed32)});
         }
         words.emplace_back(&row, static_cast<std::int32_t>(std::get<std::int64_t>(*value)));
     }
     if (words.size() != object.size()) {
-        refuse("the configuration has no such words");
+        refuseLine("the configuration has no such words");
     }
     return words;
 }
@@ -163,7 +163,7 @@ RecordedWrite writeOf(const json &line)
 {
     const json &arguments = member(line, "arguments");
     if (!arguments.is_array() || arguments.size() != 1) {
-        refuse(R"("arguments" of "write" is no list of one object)");
+        refuseLine(R"("arguments" of "write" is no list of one object)");
     }
     return {timeOf(line), wordsOf(arguments.front())};
 }
@@ -179,7 +179,7 @@ const Operation &operationNamed(const std::string &name)
     }();
     const auto found = byName.find(name);
     if (found == byName.end()) {
-        refuse("there is no operation " + inQuotes(name));
+        refuseLine("there is no operation " + inQuotes(name));
     }
     return *found->second;
 }
@@ -201,7 +201,7 @@ Value numberOf(const json &value, Kind kind, std::string_view name)
     }
     std::optional<Value> converted = given ? convert(*given, kind) : std::nullopt;
     if (!converted) {
-        refuse(inQuotes(name) + " takes " + std::string{describe(kind)});
+        refuseLine(inQuotes(name) + " takes " + std::string{describe(kind)});
     }
     return *std::move(converted);
 }
@@ -210,14 +210,14 @@ Value numberOf(const json &value, Kind kind, std::string_view name)
 std::vector<Value> recordOf(const json &object, const Members &members, std::string_view name)
 {
     if (!object.is_object() || object.size() != members.count) {
-        refuse(inQuotes(name) + " has not the members of its record");
+        refuseLine(inQuotes(name) + " has not the members of its record");
     }
     std::vector<Value> values;
     values.reserve(members.count);
     for (const Member &each : members) {
         const auto found = object.find(each.name);
         if (found == object.end()) {
-            refuse(inQuotes(name) + " has no " + inQuotes(each.name));
+            refuseLine(inQuotes(name) + " has no " + inQuotes(each.name));
         }
         values.push_back(numberOf(*found, each.kind, each.name));
     }
@@ -233,7 +233,7 @@ std::string nameIn(const std::string &name, const char *otherwise)
                (letter >= '0' && letter <= '9');
     });
     if (name.empty() || name.size() > longestName || !isWord) {
-        refuse(inQuotes(name) + otherwise);
+        refuseLine(inQuotes(name) + otherwise);
     }
     return name;
 }
@@ -247,13 +247,13 @@ public:
     void read()
     {
         if (!list.is_array()) {
-            refuse(R"("arguments" is no list)");
+            refuseLine(R"("arguments" is no list)");
         }
         for (const Passed &parameter : call.operation->parameters) {
             read(parameter);
         }
         if (place != list.size()) {
-            refuse(R"("arguments" are too many)");
+            refuseLine(R"("arguments" are too many)");
         }
     }
 
@@ -263,7 +263,7 @@ private:
         const bool isFilledAlone{parameter.isFilled && !parameter.brought};
         if (place == list.size()) {
             if (!isFilledAlone) {
-                refuse(R"("arguments" are too few)");
+                refuseLine(R"("arguments" are too few)");
             }
             return;
         }
@@ -272,10 +272,10 @@ private:
         if (value.is_null() && canBeNull) {
             call.arguments.emplace_back(nullptr);
         } else if (isFilledAlone) {
-            refuse(R"("arguments" are too many)");
+            refuseLine(R"("arguments" are too many)");
         } else if (parameter.shape == Shape::Text || parameter.shape == Shape::Object) {
             if (!value.is_string()) {
-                refuse("an argument is no text");
+                refuseLine("an argument is no text");
             }
             const std::string text{value.get<std::string>()};
             call.arguments.emplace_back(
@@ -300,7 +300,7 @@ void readResult(const json &line, RecordedCall &call)
     const Passed &result = call.operation->result;
     if (result.shape == Shape::Nothing) {
         if (line.contains("result")) {
-            refuse(R"(the operation has no "result")");
+            refuseLine(R"(the operation has no "result")");
         }
         return;
     }
@@ -316,7 +316,7 @@ void readResult(const json &line, RecordedCall &call)
         break;
     }
     if (!value.is_null() && !value.is_string()) {
-        refuse(R"("result" is no text)");
+        refuseLine(R"("result" is no text)");
     }
     const std::string text{value.is_null() ? "" : value.get<std::string>()};
     if (result.shape == Shape::Text) {
@@ -330,11 +330,11 @@ void readResult(const json &line, RecordedCall &call)
 void readOutputs(const json &outputs, RecordedCall &call)
 {
     if (!outputs.is_object()) {
-        refuse(R"("outputs" is no object)");
+        refuseLine(R"("outputs" is no object)");
     }
     if (call.operation->id == OperationId::getConfiguration) {
         if (outputs.size() != 1) {
-            refuse(R"("outputs" has more than "words")");
+            refuseLine(R"("outputs" has more than "words")");
         }
         call.words = wordsOf(member(outputs, "words"));
         return;
@@ -350,14 +350,14 @@ void readOutputs(const json &outputs, RecordedCall &call)
             }
         } else {
             if (outputs.size() != 1) {
-                refuse(R"("outputs" is not one number)");
+                refuseLine(R"("outputs" is not one number)");
             }
             call.name = nameIn(outputs.begin().key(), " is no name of an output");
             call.answer.push_back(numberOf(*outputs.begin(), parameter.kind, call.name));
         }
     }
     if (!call.hasOutputs) {
-        refuse(R"(the operation has no "outputs")");
+        refuseLine(R"(the operation has no "outputs")");
     }
 }
 
@@ -365,7 +365,7 @@ bool isTrue(const json &line, const char *key)
 {
     const auto found = line.find(key);
     if (found != line.end() && *found != true) {
-        refuse(inQuotes(key) + " is not true");
+        refuseLine(inQuotes(key) + " is not true");
     }
     return found != line.end();
 }
@@ -378,7 +378,7 @@ RecordedCall callOf(const json &line)
     call.target = static_cast<int>(integerOf(line, "target", unitCount - 1));
     call.operation = &operationNamed(textOf(line, "operation"));
     if (textOf(line, "interface") != interfaceNames[static_cast<std::size_t>(call.operation->interface)]) {
-        refuse(inQuotes(call.operation->name) + " belongs to another \"interface\"");
+        refuseLine(inQuotes(call.operation->name) + R"( belongs to another "interface")");
     }
     if (isTrue(line, "notOpen")) {
         call.missing = Missing::Device;
