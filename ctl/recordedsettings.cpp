@@ -91,6 +91,10 @@ void RecordedSettings::note(const RecordedCall &call)
         return;
     }
     const auto unit = static_cast<Unit>(call.target);
+    if (std::find(device_settings::units.begin(), device_settings::units.end(), unit) ==
+        device_settings::units.end()) {
+        return;
+    }
     for (const Setting &setting : table) {
         if (!isUsedOn(setting.usedOn, unit)) {
             continue;

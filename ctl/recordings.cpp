@@ -3,7 +3,6 @@
 // Recorded sessions: what they show, without a device.
 #include "recordings.h"
 
-#include "devicesettings.h"
 #include "escaped.h"
 #include "messages.h"
 #include "output/clock.h"
@@ -25,7 +24,6 @@
 #include <string_view>
 #include <variant>
 
-using device_settings::Unit;
 using sdk_check::escaped;
 using veltrix_simulator::RecordedCall;
 using veltrix_simulator::RecordedHeader;
@@ -112,7 +110,7 @@ private:
     static std::string placeOf(const RecordedCall &call)
     {
         if (call.operation->interface == veltrix_simulator::Interface::Device) {
-            return keyOf(static_cast<Unit>(call.target));
+            return veltrix_simulator::addressedName(call.target);
         }
         return std::string{
             veltrix_simulator::interfaceNames[static_cast<std::size_t>(call.operation->interface)]};

@@ -191,6 +191,7 @@ void CtlRecordingsTest::keepsNothingThatIsNotCertain_data()
     QTest::newRow("answer that cannot be") << call("getGamma", "", "0");
     QTest::newRow("set of another unit") << call("setGamma", "80000", "true", {}, 0);
     QTest::newRow("read of another unit") << call("getGamma", "", "80000", {}, 0);
+    QTest::newRow("set of a unit that does not exist") << call("setGamma", "80000", "true", {}, 2);
     QTest::newRow("number that cannot be") << call("setGamma", "1", "true");
     QByteArray notOpen{call("getGamma", "", "80000")};
     notOpen.replace("\"arguments\"", "\"notOpen\":true,\"arguments\"");

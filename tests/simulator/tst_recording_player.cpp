@@ -139,6 +139,7 @@ class RecordingPlayerTest : public QObject
 private slots:
     void answersComeInTheirOrder();
     void argumentsAndUnitTellCallsApart();
+    void unitThatDoesNotExistIsPlayed();
     void nothingElseIsAnswered();
     void callThatReachedNothingAnswersNothing();
     void whatWasSetIsSet();
@@ -185,6 +186,21 @@ void RecordingPlayerTest::argumentsAndUnitTellCallsApart()
     QCOMPARE(c.device.getRoiX1(0), 10U);
     QVERIFY(c.device.setTarget(0));
     QCOMPARE(c.device.getRoiX1(0), 20U);
+}
+
+void RecordingPlayerTest::unitThatDoesNotExistIsPlayed()
+{
+    const Session session{header + opened + call("setTarget", "2", "true") +
+                          call("getGamma", "", "70000", {}, 2) + call("setGamma", "80000", "true", {}, 2) +
+                          call("setTarget", "1", "true", {}, 2) + call("getGamma", "", "90000")};
+    const ScenarioCamera c{session.scenario()};
+    QVERIFY(c.device.setTarget(2));
+    QCOMPARE(c.device.getGamma(), 70000U);
+    QVERIFY(c.device.setGamma(80000));
+    QCOMPARE(held(c, "camera.gamma"), "65536");
+    QVERIFY(c.device.setTarget(1));
+    QCOMPARE(c.device.getGamma(), 90000U);
+    QCOMPARE(session.told(), QStringList{});
 }
 
 void RecordingPlayerTest::nothingElseIsAnswered()

@@ -226,7 +226,8 @@ void RecordingReaderTest::damageIsNamed_data()
          R"({"time":"2026-03-14T09:26:53Z","microseconds":-1})"
          "\n",
          R"("microseconds" is no integer from 0 to 31536000000000)");
-    says("no such unit", lineWith(R"("target":2)"), "\"target\" is no integer from 0 to 1");
+    says("no number of a unit", lineWith(R"("target":2147483648)"),
+         R"("target" is no integer from -2147483648 to 2147483647)");
     says("operation that does not exist", cameraCall("getGama", "", ""),
          R"(there is no operation "getGama")");
     says("other interface",

@@ -11,6 +11,7 @@
 #include "recordings/recordedcall.h"
 #include "recordings/recording.h"
 #include "units/recordmembers.h"
+#include "units/unitnames.h"
 #include "values/value.h"
 
 #include <chrono>
@@ -53,6 +54,7 @@ void CallPath::start(const Link &itsLink, const Life &life, const std::vector<Fa
     callsNotOpen = 0;
     link = LinkTime{itsLink, seed};
     unitTime = UnitTime{life};
+    strangeTarget.reset();
     faults.start(seed);
     for (const FaultRule &rule : rules) {
         faults.add(rule);
@@ -109,16 +111,22 @@ void CallPath::play(OperationId operation, Parameters parameters, const ResultPl
 {
     const Operation &description = operationOf(operation);
     writeCallText(callText, description.name, objects, parameters);
-    const RecordedAnswer *const answer{player.answerTo(description, state.target, callText)};
+    const RecordedAnswer *const answer{
+        player.answerTo(description, strangeTarget.value_or(state.target), callText)};
     if (answer != nullptr) {
         playAnswer(*answer, operation, parameters, result, work);
         const std::vector<Value> readings{readingsOf(description, answer->answer)};
-        if (readsValues(description) && answer->succeeded && !readings.empty() && !learn(readings)) {
+        const bool isKnown{readsValues(description) && answer->succeeded && !readings.empty() &&
+                           !strangeTarget};
+        if (isKnown && !learn(readings)) {
             work();
         }
     } else if (player.refuses(description)) {
         prepare(parameters, false);
     } else {
+        if (operation == OperationId::setTarget || operation == OperationId::openDevice) {
+            strangeTarget.reset();
+        }
         state.storedBy = StoredBy::Beyond;
         simulate(operation, parameters, result, work, true);
         state.storedBy = StoredBy::Program;
@@ -134,7 +142,14 @@ void CallPath::playAnswer(const RecordedAnswer &answer, OperationId operation, P
     // The state follows what the device did. The files of saved parameters and of bad pixels do not: the
     // recording does not say what was in them.
     const bool isFollowed{role == Role::Stores || role == Role::Other || operation == OperationId::setTarget};
-    if (answer.succeeded && isFollowed && isAllThere) {
+    if (answer.succeeded && operation == OperationId::setTarget) {
+        const auto target = static_cast<std::int32_t>(numbersOf(parameters)[0]);
+        strangeTarget = isUnit(target) ? std::nullopt : std::optional{target};
+    } else if (operation == OperationId::openDevice) {
+        strangeTarget.reset();
+    }
+    const bool isOfAUnit{nameOf(operation).interface != Interface::Device || !strangeTarget};
+    if (answer.succeeded && isFollowed && isAllThere && isOfAUnit) {
         state.storedBy = StoredBy::Recording;
         work();
         state.storedBy = StoredBy::Program;

@@ -195,7 +195,10 @@ private:
     const Objects objects;
     LinkTime link{{}, 0};
     UnitTime unitTime{{}};
-    std::string line;     ///< Text of the latest call; a member, so that its memory is used again.
+    std::string line; ///< Text of the latest call; a member, so that its memory is used again.
+    /// A unit that does not exist and that a recorded setTarget was acknowledged for; the recorded calls that
+    /// follow were made on it.
+    std::optional<std::int32_t> strangeTarget;
     std::string callText; ///< What a recording knows the latest call by.
     std::string heldText; ///< An answer that is a text and not of the state; its caller points to it until
                           ///< the next one.

@@ -33,7 +33,8 @@ void Player::start(const Play &itsPlay)
     }
 }
 
-const RecordedAnswer *Player::answerTo(const Operation &operation, int target, const std::string &callText)
+const RecordedAnswer *Player::answerTo(const Operation &operation, std::int32_t target,
+                                       const std::string &callText)
 {
     const std::string name{recordedName(operation, target, callText)};
     const auto found = play.recording->answers.find(name);

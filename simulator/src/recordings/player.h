@@ -8,6 +8,7 @@
 
 #include <chrono>
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <unordered_set>
@@ -46,7 +47,8 @@ public:
 
     /// The next answer to a call on a unit, which writeCallText() wrote; null when the recording has none or
     /// no further one, which is told once for each call.
-    const RecordedAnswer *answerTo(const Operation &operation, int target, const std::string &callText);
+    const RecordedAnswer *answerTo(const Operation &operation, std::int32_t target,
+                                   const std::string &callText);
 
     /// Lets the time pass that the call took then, if the link takes it.
     void passTime(const RecordedAnswer &answer) const;

@@ -4,6 +4,7 @@
 #include "recordings/recordedcall.h"
 
 #include "units/recordmembers.h"
+#include "units/unitnames.h"
 #include "values/numbertext.h"
 #include "values/value.h"
 
@@ -158,6 +159,11 @@ void appendOutputs(std::string &text, const RecordedCall &call)
 }
 
 } // namespace
+
+std::string addressedName(std::int32_t target)
+{
+    return isUnit(target) ? std::string{unitName(target)} : "unit " + std::to_string(target);
+}
 
 bool succeeded(const RecordedCall &call)
 {

@@ -46,7 +46,8 @@ struct RecordedCall
     std::chrono::microseconds time{0}; ///< When it began, since 1970, in UTC.
     std::chrono::microseconds took{0};
     const Operation *operation{nullptr};
-    int target{0}; ///< The unit that was addressed: 0 the Blend Unit, 1 the camera.
+    /// The unit that was addressed: 0 the Blend Unit, 1 the camera; any other when a library acknowledged it.
+    std::int32_t target{0};
     Missing missing{Missing::Nothing};
     std::vector<RecordedArgument> arguments;
     /// The result, if the operation has one, then what was filled in, as Operation::answer lists them. A null
@@ -56,6 +57,9 @@ struct RecordedCall
     std::string name;                ///< Of the object that it answered, or of the number that it filled in.
     std::vector<RecordedWord> words; ///< With the configuration: its plain words, if they are known.
 };
+
+/// Such as "camera"; "unit 2" for one that does not exist.
+std::string addressedName(std::int32_t target);
 
 /// Whether the result says that the operation did its work: 1, true or an object; true where there is none or
 /// where it is the value that was asked for.

@@ -95,12 +95,13 @@ std::string textOf(const json &object, const char *key)
     return value.get<std::string>();
 }
 
-std::int64_t integerOf(const json &object, const char *key, std::int64_t greatest)
+std::int64_t integerOf(const json &object, const char *key, std::int64_t least, std::int64_t greatest)
 {
     const std::optional<Value> value = valueOf(member(object, key));
     const auto *const integer = value ? std::get_if<std::int64_t>(&*value) : nullptr;
-    if (integer == nullptr || *integer < 0 || *integer > greatest) {
-        refuseLine(inQuotes(key) + " is no integer from 0 to " + std::to_string(greatest));
+    if (integer == nullptr || *integer < least || *integer > greatest) {
+        refuseLine(inQuotes(key) + " is no integer from " + std::to_string(least) + " to " +
+                   std::to_string(greatest));
     }
     return *integer;
 }
@@ -374,8 +375,9 @@ RecordedCall callOf(const json &line)
 {
     RecordedCall call;
     call.time = timeOf(line);
-    call.took = std::chrono::microseconds{integerOf(line, "microseconds", longestMicroseconds)};
-    call.target = static_cast<int>(integerOf(line, "target", unitCount - 1));
+    call.took = std::chrono::microseconds{integerOf(line, "microseconds", 0, longestMicroseconds)};
+    using Targets = std::numeric_limits<std::int32_t>;
+    call.target = static_cast<std::int32_t>(integerOf(line, "target", Targets::min(), Targets::max()));
     call.operation = &operationNamed(textOf(line, "operation"));
     if (textOf(line, "interface") != interfaceNames[static_cast<std::size_t>(call.operation->interface)]) {
         refuseLine(inQuotes(call.operation->name) + R"( belongs to another "interface")");

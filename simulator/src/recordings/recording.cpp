@@ -5,7 +5,6 @@
 
 #include "output/wording.h"
 #include "recordings/recordingreader.h"
-#include "units/unitnames.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -48,12 +47,12 @@ void append(RecordedCall &&call, std::size_t line, Recording &recording)
 
 } // namespace
 
-std::string recordedName(const Operation &operation, int target, const std::string &callText)
+std::string recordedName(const Operation &operation, std::int32_t target, const std::string &callText)
 {
     if (operation.interface != Interface::Device) {
         return callText;
     }
-    return std::string{unitName(target)}.append(1, '.').append(callText);
+    return addressedName(target).append(1, '.').append(callText);
 }
 
 std::variant<Recording, std::string> readRecording(std::istream &input, const std::string &fileName)

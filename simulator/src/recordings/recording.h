@@ -7,6 +7,7 @@
 
 #include <chrono>
 #include <cstddef>
+#include <cstdint>
 #include <istream>
 #include <optional>
 #include <string>
@@ -42,7 +43,7 @@ struct RecordedAnswers
 };
 
 /// What a recording has of a call: `camera.setGamma(144179)`, `openDevice("COM3")`.
-std::string recordedName(const Operation &operation, int target, const std::string &callText);
+std::string recordedName(const Operation &operation, std::int32_t target, const std::string &callText);
 
 /// Calls that did not reach what they were made on, and log records, are left out: nobody answers them.
 struct Recording
