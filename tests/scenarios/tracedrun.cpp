@@ -10,22 +10,39 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
-QByteArray traceOf(const QString &program, const QStringList &arguments, const QString &scenario)
+namespace
+{
+
+/// What the program writes into the file that the variable names.
+QByteArray writtenBy(const QString &program, const QStringList &arguments, const QString &scenario,
+                     const QString &variable)
 {
     const QTemporaryDir directory;
     const QString name{directory.filePath(QStringLiteral("calls.trace"))};
     QProcessEnvironment environment{QProcessEnvironment::systemEnvironment()};
-    environment.insert(QStringLiteral("VELTRIX_SIMULATOR_TRACE"), name);
+    environment.insert(variable, name);
     environment.insert(QStringLiteral("VELTRIX_SIMULATOR_SCENARIO"), scenario);
     QProcess process;
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(directory.path());
     process.start(program, arguments);
-    QFile trace{name};
-    if (!process.waitForFinished(120000) || !trace.open(QIODevice::ReadOnly)) {
+    QFile file{name};
+    if (!process.waitForFinished(120000) || !file.open(QIODevice::ReadOnly)) {
         return {};
     }
-    return trace.readAll();
+    return file.readAll();
+}
+
+} // namespace
+
+QByteArray traceOf(const QString &program, const QStringList &arguments, const QString &scenario)
+{
+    return writtenBy(program, arguments, scenario, QStringLiteral("VELTRIX_SIMULATOR_TRACE"));
+}
+
+QByteArray recordingOf(const QString &program, const QStringList &arguments, const QString &scenario)
+{
+    return writtenBy(program, arguments, scenario, QStringLiteral("PILOTEL_RECORD"));
 }
 
 QByteArray traceOfCheck(const QString &scenario)

@@ -11,7 +11,10 @@
 /// of its trace, or none when it does not end.
 QByteArray traceOf(const QString &program, const QStringList &arguments, const QString &scenario);
 
-/// The same of a process that calls every operation of the contract that reads or sets something.
+/// The same, with what the program itself records of its calls in place of the trace.
+QByteArray recordingOf(const QString &program, const QStringList &arguments, const QString &scenario);
+
+/// The trace of a process that calls every operation of the contract that reads or sets something.
 QByteArray traceOfCheck(const QString &scenario);
 
 /// A trace without its times.
