@@ -48,7 +48,7 @@ void show(const std::string &bytes)
 }
 
 /// Some of each kind of operation on both units.
-void play(const Scenario &scenario)
+void playRecorded(const Scenario &scenario)
 {
     Simulation &played{simulation()};
     played.start(scenario);
@@ -102,7 +102,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     scenario.play.recording = std::make_shared<const Recording>(std::get<Recording>(std::move(read)));
     for (const MissingCalls rule : {MissingCalls::Refuse, MissingCalls::Simulate}) {
         scenario.play.missingCalls = rule;
-        play(scenario);
+        playRecorded(scenario);
     }
     return 0;
 }

@@ -30,7 +30,7 @@ private slots:
 namespace
 {
 
-QString textOf(const QString &fileName)
+QString contentsOf(const QString &fileName)
 {
     QFile file{fileName};
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString{};
@@ -145,7 +145,7 @@ void CtlDocumentsTest::examplesAreReal_data()
 void CtlDocumentsTest::examplesAreReal()
 {
     QFETCH(const QString, document);
-    const QString text{textOf(document)};
+    const QString text{contentsOf(document)};
     QVERIFY(text.contains("```console"));
     const QString real{withRealExamples(text)};
     rewrite(document, real);
@@ -159,7 +159,7 @@ void CtlDocumentsTest::examplesAreReal()
 
 void CtlDocumentsTest::manualPageHasEverySetting()
 {
-    const QString text{textOf(MANUAL_PAGE)};
+    const QString text{contentsOf(MANUAL_PAGE)};
     const int from{text.indexOf(begin)};
     const int to{text.indexOf(end)};
     QVERIFY(from > 0 && to > from);
@@ -171,7 +171,7 @@ void CtlDocumentsTest::manualPageHasEverySetting()
 
 void CtlDocumentsTest::manualPageHasEveryCommand()
 {
-    const QString text{textOf(MANUAL_PAGE)};
+    const QString text{contentsOf(MANUAL_PAGE)};
     CtlFolder folder;
     QStringList commands{folder.run({"--complete", ""}).output.split('\n', Qt::SkipEmptyParts)};
     QVERIFY(commands.contains("watch"));

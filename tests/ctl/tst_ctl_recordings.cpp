@@ -67,7 +67,7 @@ void CtlRecordingsTest::showsEveryCall()
 {
     CtlFolder folder;
     QByteArray notOpen{call("getGamma", "", "0", {}, 0, 7)};
-    notOpen.replace("\"arguments\"", "\"notOpen\":true,\"arguments\"");
+    notOpen.replace(R"("arguments")", R"("notOpen":true,"arguments")");
     folder.write(
         "session.trace",
         header +
@@ -157,30 +157,32 @@ void CtlRecordingsTest::keepsWhatWasReadOrSetLast()
     const Outcome outcome{folder.run({"recording", "profile", "session.trace"})};
     QCOMPARE(
         outcome.output,
-        lines({"# Settings in this file: 18. A recording shows them of the Blend Unit without a number and "
-               "the camera 9.",
-               "",
-               "[blendUnit]",
-               "zoom.factor = 2.5",
-               "zoom.xCenter = 1",
-               "zoom.yCenter = 2",
-               "zoom.method = 1  # bilinear",
-               "warp1.a11 = 5",
-               "warp1.a21 = 0",
-               "warp1.a12 = 0",
-               "warp1.a22 = 6",
-               "warp1.a13 = 0",
-               "warp1.a23 = -7",
-               "",
-               "[camera]",
-               "polarity = true",
-               "gamma = 80000  # 1.2207",
-               "clhe = 6",
-               "edgeCorrection.type = 0  # none",
-               "edgeCorrection.gain = 4",
-               "edgeCorrection.firstThreshold = 5",
-               "roi2.x1 = 30",
-               "roi3.y2 = 77"}));
+        lines(
+            {QString{
+                 "# Settings in this file: 18. A recording shows them of the Blend Unit without a number "} +
+                 "and the camera 9.",
+             "",
+             "[blendUnit]",
+             "zoom.factor = 2.5",
+             "zoom.xCenter = 1",
+             "zoom.yCenter = 2",
+             "zoom.method = 1  # bilinear",
+             "warp1.a11 = 5",
+             "warp1.a21 = 0",
+             "warp1.a12 = 0",
+             "warp1.a22 = 6",
+             "warp1.a13 = 0",
+             "warp1.a23 = -7",
+             "",
+             "[camera]",
+             "polarity = true",
+             "gamma = 80000  # 1.2207",
+             "clhe = 6",
+             "edgeCorrection.type = 0  # none",
+             "edgeCorrection.gain = 4",
+             "edgeCorrection.firstThreshold = 5",
+             "roi2.x1 = 30",
+             "roi3.y2 = 77"}));
     QCOMPARE(outcome.status, 0);
 }
 
@@ -194,7 +196,7 @@ void CtlRecordingsTest::keepsNothingThatIsNotCertain_data()
     QTest::newRow("set of a unit that does not exist") << call("setGamma", "80000", "true", {}, 2);
     QTest::newRow("number that cannot be") << call("setGamma", "1", "true");
     QByteArray notOpen{call("getGamma", "", "80000")};
-    notOpen.replace("\"arguments\"", "\"notOpen\":true,\"arguments\"");
+    notOpen.replace(R"("arguments")", R"("notOpen":true,"arguments")");
     QTest::newRow("device that was not open") << notOpen;
     QTest::newRow("record that was not filled in") << call("getAhcGainLimitation", "null", "1");
     QTest::newRow("record that was not acknowledged")

@@ -137,7 +137,7 @@ void RecordingReaderTest::lineSays_data()
         "NOT HELD: closeDevice(device)",
         lineWith(
             R"("interface":"manager","target":0,"operation":"closeDevice","notHeld":true,"arguments":["device"])"));
-    says("log(2, \"a \\\"b\\\"\\n\")",
+    says(R"(log(2, "a \"b\"\n"))",
          lineWith(R"("interface":"log","target":0,"operation":"log","arguments":[2,"a \"b\"\n"])"));
     says(
         "getConfiguration() -> configuration {gskMinimum=1, gskMaximum=3}",
