@@ -6,6 +6,10 @@ set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
 set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
+# What an operator gets has a size that is held; functions that nobody calls stay out of it.
+set(CMAKE_CXX_FLAGS_INIT "-ffunction-sections -fdata-sections")
+set(CMAKE_EXE_LINKER_FLAGS_INIT -Wl,--gc-sections)
+set(CMAKE_SHARED_LINKER_FLAGS_INIT -Wl,--gc-sections)
 
 if(NOT QT_WIN64)
     set(QT_WIN64 "$ENV{QT_WIN64}")
