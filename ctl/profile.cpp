@@ -125,7 +125,7 @@ private:
         if (!number || !mayBeSent(field, *number)) {
             const std::string shown{number ? device_settings::numberText(*number) : "This"};
             fail(member.node.position, shown + " is nothing for " + key + ": " +
-                                           device_settings::rangeText(field) + wholeNumbers(field));
+                                           device_settings::numberRangeText(field) + wholeNumbers(field));
         }
         numbers.emplace_back(place, *number);
     }
@@ -228,17 +228,21 @@ Profile parseProfile(const std::string &fileName, std::string_view text, const s
         reader.fail({*line, 1}, "this is no profile: the line has more than " +
                                     std::to_string(veltrix_simulator::longestLine) + " bytes");
     }
-    const auto parsed = veltrix_simulator::parseToml(text);
-    if (const auto *const error = std::get_if<veltrix_simulator::TomlError>(&parsed)) {
-        reader.fail(error->position, sdk_check::escaped(error->reason));
+    if (text.empty()) {
+        reader.fail({1, 1}, "the file is empty; save the profile again");
     }
-    Profile profile{reader.read(std::get<TomlNode>(parsed))};
     // What was cut off elsewhere than in the last line makes a smaller profile that is as good as any.
-    const std::size_t lastLine{static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1};
-    if (!text.empty() && text.back() != '\n') {
+    if (text.back() != '\n') {
+        const auto lastLine = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1;
         reader.fail({lastLine, 1},
                     "the last line has no end; is it whole? Save the profile again, or end the line");
     }
+    const auto parsed = veltrix_simulator::parseToml(text);
+    if (const auto *const error = std::get_if<veltrix_simulator::TomlError>(&parsed)) {
+        reader.fail(error->position,
+                    sdk_check::escaped(error->reason) + "; mend this line, or save the profile again");
+    }
+    Profile profile{reader.read(std::get<TomlNode>(parsed))};
     const std::size_t count{profile.settings.size() + profile.derived.size()};
     const std::optional<std::size_t> promised{promisedCount(text)};
     if (promised && *promised != count) {

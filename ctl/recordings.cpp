@@ -7,6 +7,7 @@
 #include "messages.h"
 #include "output/clock.h"
 #include "profile.h"
+#include "progress.h"
 #include "recordedsettings.h"
 #include "recordings/recordingreader.h"
 #include "session.h"
@@ -16,6 +17,8 @@
 #include <QString>
 
 #include <chrono>
+#include <cstddef>
+#include <cstdint>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -52,20 +55,49 @@ std::string printable(std::string_view text)
     return shown;
 }
 
+/// How far the reading of a file is, for who waits for it and sees nothing else.
+class ReadMegabytes
+{
+public:
+    explicit ReadMegabytes(std::int64_t size) : progress{"Reading megabytes", megabytes(size) + 1} {}
+
+    /// Behind the end of the file its place is -1.
+    void reached(std::int64_t place)
+    {
+        for (; read < megabytes(place); ++read) {
+            progress.step();
+        }
+    }
+
+private:
+    static std::size_t megabytes(std::int64_t bytes)
+    {
+        return bytes < 0 ? 0 : static_cast<std::size_t>(bytes / 1'000'000);
+    }
+
+    Progress progress;
+    std::size_t read{0};
+};
+
 /// Goes through the lines of a file. A damaged one is a Failure, and a last line that was cut is told.
 template <typename Function>
-void readAll(const std::string &name, Function function)
+void readAll(const std::string &name, Function function, bool isShown)
 {
     // Qt says best why a file cannot be read.
-    if (QFile file{QString::fromStdString(name)}; !file.open(QIODevice::ReadOnly)) {
+    QFile file{QString::fromStdString(name)};
+    if (!file.open(QIODevice::ReadOnly)) {
         throw Failure{wrongUse, escaped(name) + ": " + escaped(file.errorString().toStdString())};
     }
     std::ifstream input{std::filesystem::u8path(name), std::ios::binary};
     RecordingReader reader{input, escaped(name)};
+    ReadMegabytes progress{isShown ? 0 : file.size()};
     try {
         while (const std::optional<RecordedLine> line = reader.next()) {
             heedInterruption();
             std::visit(function, *line);
+            if (!isShown) {
+                progress.reached(input.tellg());
+            }
         }
     } catch (const veltrix_simulator::RecordingError &error) {
         throw Failure{wrongUse, printable(error.message())};
@@ -142,7 +174,7 @@ struct Collector
 
 ExitStatus showRecording(const std::string &file)
 {
-    readAll(file, Writer{});
+    readAll(file, Writer{}, true);
     std::cout << std::flush;
     return done;
 }
@@ -150,7 +182,7 @@ ExitStatus showRecording(const std::string &file)
 ExitStatus saveRecordedProfile(const std::string &file, const std::string &profile)
 {
     RecordedSettings settings;
-    readAll(file, Collector{settings});
+    readAll(file, Collector{settings}, false);
     const std::vector<ProfileLine> lines{settings.lines()};
     if (lines.empty()) {
         throw Failure{wrongUse, escaped(file) + ": the recording shows no setting of either unit"};

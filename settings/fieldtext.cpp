@@ -120,12 +120,14 @@ std::optional<double> numberOf(const Field &field, std::string_view text)
     return allows(field.allowed, sent) ? sent : number;
 }
 
+std::string numberRangeText(const Field &field)
+{
+    return field.kind == Kind::Boolean ? "true or false" : withoutEnd(describe(field.allowed), " is allowed");
+}
+
 std::string rangeText(const Field &field)
 {
-    if (field.kind == Kind::Boolean) {
-        return "true or false";
-    }
-    std::string range{withoutEnd(describe(field.allowed), " is allowed")};
+    std::string range{numberRangeText(field)};
     if (!field.words.empty()) {
         return enumerated(field.words) + ", or " + range;
     }

@@ -28,6 +28,9 @@ std::optional<double> numberOf(const Field &field, std::string_view text);
 /// "greyscale, iron or hot, or 0 to 2".
 std::string rangeText(const Field &field);
 
+/// The same as the device counts it, such as "32768 to 163840" or "0 to 2".
+std::string numberRangeText(const Field &field);
+
 /// What a kind of number is called, such as "32-bit unsigned" or "bool".
 std::string kindName(Kind kind);
 

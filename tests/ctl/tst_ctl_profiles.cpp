@@ -230,7 +230,7 @@ void CtlProfilesTest::refusesAWrongFile_data()
     row("out of range", "[camera]\nclhe = 30001\n",
         "p.toml:2:8: 30001 is nothing for camera.clhe: 0 to 30000 is allowed");
     row("a text", "[camera]\ncolorLut = \"iron\"\n",
-        "p.toml:2:12: This is nothing for camera.colorLut: greyscale, iron, hot, rainbow, ncar, cubehelix, coolwarm or greyscale-ycbcr, or 0 to 7 is allowed");
+        "p.toml:2:12: This is nothing for camera.colorLut: 0 to 7 is allowed");
     row("a fraction", "[camera]\nclhe = 1.5\n",
         "p.toml:2:8: 1.5 is nothing for camera.clhe: 0 to 30000 is allowed");
     row("not a number", "[camera]\nzoom.factor = nan\n",
@@ -238,7 +238,7 @@ void CtlProfilesTest::refusesAWrongFile_data()
     row("a value for a group", "[camera]\nzoom = 1\n",
         "p.toml:2:8: \"camera.zoom\" is a group of settings, not a value");
     row("a group for a value", "[camera.gamma]\nx = 1\n",
-        "p.toml:1:1: This is nothing for camera.gamma: 0.5 to 2.5, or 32768 to 163840 is allowed");
+        "p.toml:1:1: This is nothing for camera.gamma: 32768 to 163840 is allowed");
     row("only read", "[camera]\nserialNumber = 1\n",
         "p.toml:2:1: camera.serialNumber cannot be set; take this line out");
     row("twice", "camera.clhe = 1\ncamera.clhe = 2\n", "p.toml:2:15: ");
@@ -279,12 +279,20 @@ void CtlProfilesTest::refusesAFileThatWasCut()
     QCOMPARE(folder.run({"profile", "save", "whole.toml"}).status, 0);
     const QByteArray whole{folder.read("whole.toml")};
     // An empty file and a first line alone are no less than a cut one.
-    for (int size{1}; size < whole.size(); size += size < 100 ? 7 : 131) {
-        folder.write("p.toml", whole.left(size));
+    for (int size{0}; size < whole.size(); size += size < 100 ? 7 : 131) {
+        const QByteArray cut{whole.left(size)};
+        folder.write("p.toml", cut);
         const Outcome outcome{folder.run({"profile", "apply", "p.toml"})};
         QCOMPARE(outcome.status, 2);
-        QCOMPARE(outcome.errors.count('\n'), 1);
-        QVERIFY2(outcome.errors.startsWith("pilotel-ctl: p.toml:"), qPrintable(outcome.errors));
+        const QString reason{
+            cut.isEmpty() ? "the file is empty; save the profile again"
+            : cut.endsWith('\n')
+                ? "this line says 77 settings, and the file has %1; save the profile again, or take this line out if you changed the file"
+                : "the last line has no end; is it whole? Save the profile again, or end the line"};
+        const QString place{QString::number(cut.endsWith('\n') ? 1 : cut.count('\n') + 1) + ":1: "};
+        const QString wanted{"pilotel-ctl: p.toml:" + place + reason};
+        const int settings{QString{cut}.count(" = ")};
+        QCOMPARE(outcome.errors, lines({wanted.contains("%1") ? wanted.arg(settings) : wanted}));
     }
     folder.write("p.toml", whole.left(whole.lastIndexOf('\n', -2) + 1));
     QCOMPARE(
