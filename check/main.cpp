@@ -6,6 +6,7 @@
 #include "escaped.h"
 #include "interruption.h"
 #include "portnames.h"
+#include "programwords.h"
 #include "sdkentry.h"
 #include "telling.h"
 
@@ -21,15 +22,6 @@
 
 namespace
 {
-
-std::vector<std::string> wordsOf(const QStringList &arguments)
-{
-    std::vector<std::string> words;
-    for (const QString &argument : arguments.mid(1)) {
-        words.push_back(argument.toStdString());
-    }
-    return words;
-}
 
 void listPorts(std::ostream &out)
 {
@@ -48,7 +40,7 @@ void listPorts(std::ostream &out)
 int main(int argc, char *argv[])
 {
     const QCoreApplication application{argc, argv};
-    const CommandLine line{parseCommandLine(wordsOf(QCoreApplication::arguments()))};
+    const CommandLine line{parseCommandLine(sdk_check::wordsBehindProgram())};
     if (!line.error.empty()) {
         sdk_check::tell("pilotel-sdk-check", line.error);
         return sdk_check::wrongUsage;

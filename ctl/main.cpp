@@ -6,13 +6,12 @@
 #include "failure.h"
 #include "interruption.h"
 #include "messages.h"
+#include "programwords.h"
 #include "sdkentry.h"
 #include "session.h"
 #include "telling.h"
 
 #include <QCoreApplication>
-#include <QString>
-#include <QStringList>
 
 #include <iostream>
 #include <string>
@@ -20,15 +19,6 @@
 
 namespace
 {
-
-std::vector<std::string> wordsOf(const QStringList &arguments)
-{
-    std::vector<std::string> words;
-    for (const QString &argument : arguments.mid(1)) {
-        words.push_back(argument.toStdString());
-    }
-    return words;
-}
 
 /// Writes what the last of the words can become, for Bash; docs/command-line.md says how it is set up.
 int complete(const std::vector<std::string> &words)
@@ -63,7 +53,7 @@ int main(int argc, char *argv[])
 {
     const QCoreApplication application{argc, argv};
     noteInterruptions();
-    const std::vector<std::string> words{wordsOf(QCoreApplication::arguments())};
+    const std::vector<std::string> words{sdk_check::wordsBehindProgram()};
     try {
         if (!words.empty() && words.front() == "--complete") {
             return statusWithOutput(complete({words.begin() + 1, words.end()}));
