@@ -137,8 +137,8 @@ void CtlFaultsTest::tellsAFileThatIsNotThere()
     CtlFolder folder;
     const Outcome outcome{folder.run(arguments)};
 #if defined(Q_OS_WIN)
-    const QString why{file.contains('/') ? "The system cannot find the path specified."
-                                         : "The system cannot find the file specified."};
+    // As Wine says it.
+    const QString why{file.contains('/') ? "Path not found." : "File not found."};
 #else
     const QString why{"No such file or directory"};
 #endif

@@ -60,7 +60,7 @@ std::optional<std::string> loadPlay(Scenario &scenario, const std::string &fileN
     }
     const std::filesystem::path folder{std::filesystem::u8path(fileName).parent_path()};
     std::variant<Recording, std::string> loaded =
-        loadRecording((folder / std::filesystem::u8path(scenario.recordingFile)).u8string());
+        loadRecording((folder / std::filesystem::u8path(scenario.recordingFile)).generic_u8string());
     if (auto *const reason = std::get_if<std::string>(&loaded)) {
         return std::move(*reason);
     }
