@@ -41,6 +41,10 @@ std::string Recorder::open(const std::string &itsFileName, const std::string &pr
     case TraceFile::Opening::OtherFile:
         return '"' + fileName +
                "\" is no recording, and is left as it is; name another file, or delete this one";
+    case TraceFile::Opening::KeptTooOften:
+        return '"' + fileName + "\" cannot be kept: \"" + fileName + ".~1~\" to \"" + fileName + ".~" +
+               std::to_string(TraceFile::mostKept) +
+               "~\" are there already; delete those that nobody needs, or name another file";
     case TraceFile::Opening::Unwritable:
         return "Cannot write the recording \"" + fileName + '"' + reason() +
                "; name a file that can be written";

@@ -39,11 +39,11 @@ private:
 /// The file that PILOTEL_RECORD names, in UTF-8; empty when there is none.
 std::string fileOfEnvironment();
 
-/// Begins to record in a file, whose name is in UTF-8; an earlier recording there is kept with "~" behind its
-/// name. To be called before the library is called for the first time. The program is named in the first
-/// line. Answers what is wrong, in one line without a line feed, or an empty text; without a name nothing is
-/// recorded and nothing is wrong. When a line cannot be written later on, the recording ends and standard
-/// error tells.
+/// Begins to record in a file, whose name is in UTF-8; an earlier recording there is kept with ".~1~" behind
+/// its name, or the next number that is free. To be called before the library is called for the first time.
+/// The program is named in the first line. Answers what is wrong, in one line without a line feed, or an
+/// empty text; without a name nothing is recorded and nothing is wrong. When a line cannot be written later
+/// on, the recording ends and standard error tells.
 std::string begin(const std::string &file, const std::string &program);
 
 /// Begins to record where PILOTEL_RECORD says. What is wrong is told on standard error, and nothing is

@@ -66,6 +66,8 @@ private slots:
     void optionGoesBeforeTheVariable_data();
     void optionGoesBeforeTheVariable();
     void earlierRecordingIsKept();
+    void recordingInProgressIsKept();
+    void noEarlierRecordingIsKeptTooOften();
     void otherFileIsLeftAlone_data();
     void otherFileIsLeftAlone();
     void unwritableFileIsTold_data();
@@ -115,7 +117,8 @@ void RecordedSessionsTest::sessionIsThatOfTheTrace()
     QCOMPARE(calls, callsIn(folder.trace()));
     QVERIFY2(calls.size() >= fewest, qPrintable(QString::number(calls.size())));
     QCOMPARE(wordsIn(folder.trace()), QStringList{});
-    QVERIFY(headerOf(folder.recording()).startsWith(R"({"trace":1,"program":"pilotel)"));
+    const QString beginning{R"({"trace":1,"program":"pilotel)"};
+    QVERIFY(headerOf(folder.recording()).startsWith(beginning));
     // Nothing else is said or done than without.
     const Folder other;
     folder.environment.remove("PILOTEL_RECORD");
@@ -146,15 +149,69 @@ void RecordedSessionsTest::optionGoesBeforeTheVariable()
 void RecordedSessionsTest::earlierRecordingIsKept()
 {
     const Folder folder;
+    // What happens to have such a name is another's.
+    folder.write("session.recording~", "precious\n");
+    folder.write("session.recording.~2~", "precious as well\n");
     QCOMPARE(folder.run(CTL, {"--record", folder.recording(), "list"}).status, 0);
-    const QStringList earlier{callsIn(folder.trace())};
+    const QStringList first{callsIn(folder.trace())};
     QCOMPARE(folder.run(CTL, {"--record", folder.recording(), "get", "camera.gamma"}).status, 0);
-    QCOMPARE(callsIn(folder.recording()), callsIn(folder.trace()));
-    QCOMPARE(callsIn(folder.recording() + '~'), earlier);
-    // The one of before takes the place of the one before that.
-    const QStringList latest{callsIn(folder.trace())};
+    const QStringList second{callsIn(folder.trace())};
+    QCOMPARE(callsIn(folder.recording()), second);
+    QCOMPARE(callsIn(folder.recording() + ".~1~"), first);
     QCOMPARE(folder.run(CTL, {"--record", folder.recording(), "info"}).status, 0);
-    QCOMPARE(callsIn(folder.recording() + '~'), latest);
+    QCOMPARE(callsIn(folder.recording()), callsIn(folder.trace()));
+    QCOMPARE(callsIn(folder.recording() + ".~1~"), first);
+    QCOMPARE(callsIn(folder.recording() + ".~3~"), second);
+    QCOMPARE(folder.read("session.recording~"), QByteArray{"precious\n"});
+    QCOMPARE(folder.read("session.recording.~2~"), QByteArray{"precious as well\n"});
+}
+
+void RecordedSessionsTest::recordingInProgressIsKept()
+{
+#if defined(Q_OS_WIN)
+    QSKIP("Windows renames no file that is open.");
+#endif
+    Folder folder;
+    folder.environment.insert("PILOTEL_RECORD", folder.recording());
+    folder.environment.remove("VELTRIX_SIMULATOR_TRACE");
+    QProcess shell;
+    shell.setProcessEnvironment(folder.environment);
+    shell.start(CTL, {"shell"});
+    shell.write("get camera.gamma\n");
+    QTRY_VERIFY(folder.read("session.recording").contains("getGamma"));
+    QCOMPARE(folder.run(CTL, {"get", "camera.clhe"}).status, 0);
+    QCOMPARE(folder.run(CTL, {"get", "camera.polarity"}).status, 0);
+    shell.write("get blendUnit.videoMode\n");
+    shell.closeWriteChannel();
+    QVERIFY(shell.waitForFinished());
+    QCOMPARE(shell.exitCode(), 0);
+    const auto isIn = [&](const QString &name, const QString &operation) {
+        return callsIn(folder.path(name)).filter(operation).size() > 0;
+    };
+    // That of the shell was the first that had to give way, and goes on there.
+    QVERIFY(isIn("session.recording.~1~", "getGamma"));
+    QVERIFY(isIn("session.recording.~1~", "getVideoMode"));
+    QVERIFY(isIn("session.recording.~2~", "getClhe"));
+    QVERIFY(isIn("session.recording", "getPolarity"));
+    QVERIFY(!QFile::exists(folder.path("session.recording.~3~")));
+}
+
+void RecordedSessionsTest::noEarlierRecordingIsKeptTooOften()
+{
+    const Folder folder;
+    const QByteArray recording{"{\"trace\":1,\"program\":\"the first one\"}\n"};
+    folder.write("session.recording", recording);
+    for (int number{1}; number <= 9999; ++number) {
+        folder.write(QString{"session.recording.~%1~"}.arg(number), {});
+    }
+    const Outcome outcome{folder.run(CTL, {"--record", "session.recording", "info"})};
+    QCOMPARE(outcome.status, 2);
+    QCOMPARE(outcome.errors,
+             QString{R"(pilotel-ctl: "session.recording" cannot be kept: "session.recording.~1~" to )"
+                     R"("session.recording.~9999~" are there already; delete those that nobody needs, )"
+                     "or name another file.\n"});
+    QCOMPARE(folder.read("session.recording"), recording);
+    QVERIFY(!QFile::exists(folder.trace()));
 }
 
 void RecordedSessionsTest::otherFileIsLeftAlone_data()

@@ -53,6 +53,7 @@ void Trace::open(const std::string &name)
             "\" is no trace, and is left as it is; set VELTRIX_SIMULATOR_TRACE to another file, or delete "
             "this one. The program goes on without a trace.\n");
         return;
+    case TraceFile::Opening::KeptTooOften:
     case TraceFile::Opening::Unwritable:
         refuse();
     }

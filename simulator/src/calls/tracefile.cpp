@@ -4,14 +4,62 @@
 #include "calls/tracefile.h"
 
 #include <cerrno>
+#include <cstddef>
+#include <fcntl.h>
+#include <fstream>
 #include <ios>
 #include <string>
 #include <system_error>
+
+#if defined(_WIN32)
+#include <io.h>
+#include <sys/stat.h>
+#else
+#include <sys/types.h>
+#include <unistd.h>
+#endif
 
 namespace veltrix_simulator
 {
 namespace
 {
+
+#if defined(_WIN32)
+int openToWrite(const std::filesystem::path &path, int how)
+{
+    return _wopen(path.c_str(), _O_WRONLY | _O_CREAT | _O_BINARY | _O_NOINHERIT | how, _S_IREAD | _S_IWRITE);
+}
+
+int writeTo(int file, std::string_view bytes)
+{
+    return _write(file, bytes.data(), static_cast<unsigned>(bytes.size()));
+}
+
+bool cut(int file, std::uintmax_t size)
+{
+    return _chsize_s(file, static_cast<__int64>(size)) == 0;
+}
+
+constexpr auto closeDescriptor = _close;
+#else
+int openToWrite(const std::filesystem::path &path, int how)
+{
+    constexpr mode_t forAll{0666};
+    return ::open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | how, forAll);
+}
+
+ssize_t writeTo(int file, std::string_view bytes)
+{
+    return ::write(file, bytes.data(), bytes.size());
+}
+
+bool cut(int file, std::uintmax_t size)
+{
+    return ::ftruncate(file, static_cast<off_t>(size)) == 0;
+}
+
+constexpr auto closeDescriptor = ::close;
+#endif
 
 /// Whether writing there destroys nothing but an earlier trace.
 bool isTraceOrNothing(const std::filesystem::path &path)
@@ -26,18 +74,44 @@ bool isTraceOrNothing(const std::filesystem::path &path)
     return existing.gcount() == 0 || bytes == traceBeginning;
 }
 
-/// Renames what is there; true also where there is nothing. Else errno says why.
-bool keep(const std::filesystem::path &path)
+/// Renames what is there; done also where there is nothing. When it is unwritable, errno says why.
+TraceFile::Opening keep(const std::filesystem::path &path)
 {
     std::error_code error;
-    if (std::filesystem::is_regular_file(path, error) && std::filesystem::file_size(path, error) > 0) {
-        std::filesystem::path kept{path};
-        kept += "~";
-        std::filesystem::rename(path, kept, error);
-        errno = error.value();
-        return !error;
+    if (!std::filesystem::is_regular_file(path, error) || std::filesystem::file_size(path, error) == 0) {
+        return TraceFile::Opening::Done;
     }
-    return true;
+    for (int number{1}; number <= TraceFile::mostKept; ++number) {
+        std::filesystem::path kept{path};
+        kept += ".~" + std::to_string(number) + '~';
+        // An empty file takes the name first, so that the renaming replaces nothing of another program.
+        const int taken{openToWrite(kept, O_EXCL)};
+        if (taken >= 0) {
+            closeDescriptor(taken);
+            std::filesystem::rename(path, kept, error);
+            if (!error) {
+                return TraceFile::Opening::Done;
+            }
+            std::error_code ignored;
+            std::filesystem::remove(kept, ignored);
+            errno = error.default_error_condition().value();
+            // Another program may have kept it in the meantime.
+            return errno == ENOENT ? TraceFile::Opening::Done : TraceFile::Opening::Unwritable;
+        }
+        if (errno != EEXIST) {
+            return TraceFile::Opening::Unwritable;
+        }
+    }
+    return TraceFile::Opening::KeptTooOften;
+}
+
+/// Begins a file where nothing is, and goes on in one that is empty or no plain file. Another program may
+/// have begun one there by now: errno is EEXIST then.
+int openWithoutReplacing(const std::filesystem::path &path)
+{
+    std::error_code error;
+    const bool isNew{!std::filesystem::exists(std::filesystem::symlink_status(path, error))};
+    return openToWrite(path, isNew ? O_EXCL : O_APPEND);
 }
 
 } // namespace
@@ -45,29 +119,44 @@ bool keep(const std::filesystem::path &path)
 TraceFile::Opening TraceFile::open(const std::filesystem::path &path, Earlier earlier)
 {
     close();
-    // Whoever mixes up two names must not lose a scenario or a memory.
-    if (!isTraceOrNothing(path)) {
-        return Opening::OtherFile;
+    constexpr int attempts{100};
+    for (int attempt{0}; attempt < attempts; ++attempt) {
+        // Whoever mixes up two names must not lose a scenario or a memory.
+        if (!isTraceOrNothing(path)) {
+            return Opening::OtherFile;
+        }
+        if (earlier == Earlier::Kept) {
+            const Opening keeping{keep(path)};
+            if (keeping != Opening::Done) {
+                return keeping;
+            }
+        }
+        file = earlier == Earlier::Kept ? openWithoutReplacing(path) : openToWrite(path, O_TRUNC);
+        if (isOpen()) {
+            size = 0;
+            return Opening::Done;
+        }
+        if (errno != EEXIST) {
+            break;
+        }
     }
-    if (earlier == Earlier::Kept && !keep(path)) {
-        return Opening::Unwritable;
-    }
-    name = path;
-    size = 0;
-    file.open(path, std::ios::binary | std::ios::trunc);
-    return file.is_open() ? Opening::Done : Opening::Unwritable;
+    return Opening::Unwritable;
 }
 
 bool TraceFile::write(std::string_view line)
 {
-    file << line << std::flush;
-    if (!file) {
-        const int reason{errno};
-        file.close();
-        std::error_code ignored;
-        std::filesystem::resize_file(name, size, ignored);
-        errno = reason;
-        return false;
+    for (std::string_view rest{line}; !rest.empty();) {
+        const auto written = writeTo(file, rest);
+        if (written > 0) {
+            rest.remove_prefix(static_cast<std::size_t>(written));
+        } else if (written == 0 || errno != EINTR) {
+            const int reason{errno};
+            // What is open: its name may be that of another program's file by now.
+            cut(file, size);
+            close();
+            errno = reason;
+            return false;
+        }
     }
     size += line.size();
     return true;
@@ -75,8 +164,10 @@ bool TraceFile::write(std::string_view line)
 
 void TraceFile::close()
 {
-    file.close();
-    file.clear();
+    if (isOpen()) {
+        closeDescriptor(file);
+        file = none;
+    }
 }
 
 } // namespace veltrix_simulator

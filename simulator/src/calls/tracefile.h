@@ -5,7 +5,6 @@
 
 #include <cstdint>
 #include <filesystem>
-#include <fstream>
 #include <string_view>
 
 namespace veltrix_simulator
@@ -22,29 +21,39 @@ public:
     enum class Opening
     {
         Done,
-        OtherFile,  ///< There is a file that is no trace; it is left as it is.
-        Unwritable, ///< errno says why.
+        OtherFile,    ///< There is a file that is no trace; it is left as it is.
+        KeptTooOften, ///< There is a trace, and all names that it could be kept with are taken.
+        Unwritable,   ///< errno says why.
     };
 
     /// What becomes of an earlier trace in the same place.
     enum class Earlier
     {
         Replaced,
-        Kept, ///< With "~" behind its name, in the place of one that was kept before.
+        Kept, ///< With ".~1~" behind its name, or the next number that is free; nothing is replaced.
     };
+
+    /// So many earlier traces of one name are kept.
+    static constexpr int mostKept{9999};
+
+    TraceFile() = default;
+    ~TraceFile() { close(); }
+    TraceFile(const TraceFile &) = delete;
+    TraceFile &operator=(const TraceFile &) = delete;
 
     /// Begins the file anew.
     Opening open(const std::filesystem::path &path, Earlier earlier);
-    bool isOpen() const { return file.is_open(); }
+    bool isOpen() const { return file != none; }
     /// Appends a line, which ends with its line feed. False, with the file closed and without a part of the
-    /// line, when it cannot be written; errno says why.
+    /// line where files can be cut, when it cannot be written; errno says why.
     bool write(std::string_view line);
     void close();
 
 private:
-    std::filesystem::path name;
+    static constexpr int none{-1};
+
     std::uintmax_t size{0}; ///< Of the whole lines.
-    std::ofstream file;
+    int file{none};         ///< As the operating system numbers open files.
 };
 
 } // namespace veltrix_simulator
