@@ -5,6 +5,7 @@
 #include "recordedlines.h"
 #include "testclass.h"
 
+#include <QDir>
 #include <QFile>
 #include <QIODevice>
 #include <QObject>
@@ -70,6 +71,12 @@ private slots:
     void noEarlierRecordingIsKeptTooOften();
     void otherFileIsLeftAlone_data();
     void otherFileIsLeftAlone();
+#if defined(Q_OS_UNIX)
+    void unreadableFileIsLeftAlone_data();
+    void unreadableFileIsLeftAlone();
+    void linkStaysALink();
+    void linkToNothingIsFollowed();
+#endif
     void unwritableFileIsTold_data();
     void unwritableFileIsTold();
     void fullDiskEndsTheRecording();
@@ -250,6 +257,68 @@ void RecordedSessionsTest::otherFileIsLeftAlone()
     // A console program has called nothing.
     QCOMPARE(QFile::exists(folder.trace()), status == 0);
 }
+
+#if defined(Q_OS_UNIX)
+void RecordedSessionsTest::unreadableFileIsLeftAlone_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("writable");
+    QTest::addRow("no permission") << "bench.toml" << false;
+    QTest::addRow("may be written only") << "bench.toml" << true;
+#if defined(Q_OS_LINUX)
+    // The beginning of a program's memory cannot be read by anybody.
+    QTest::addRow("cannot be read") << "/proc/self/mem" << true;
+#endif
+}
+
+void RecordedSessionsTest::unreadableFileIsLeftAlone()
+{
+    QFETCH(const QString, name);
+    QFETCH(const bool, writable);
+    const Folder folder;
+    folder.write("bench.toml", "seed = 7\n");
+    QFile file{folder.path("bench.toml")};
+    QVERIFY(file.setPermissions(writable ? QFile::WriteOwner : QFile::Permissions{}));
+    if (name == "bench.toml" && file.open(QIODevice::ReadOnly)) {
+        QSKIP("Permissions do not stop this user.");
+    }
+    const Outcome outcome{folder.run(CTL, {"--record", name, "info"})};
+    QCOMPARE(outcome.status, 2);
+    QCOMPARE(
+        outcome.errors,
+        QString{
+            R"(pilotel-ctl: "%1" is no recording, and is left as it is; name another file, or delete this one.)"
+            "\n"}
+            .arg(name));
+    QVERIFY(!QFile::exists(folder.path("bench.toml.~1~")));
+    QVERIFY(!QFile::exists(folder.trace()));
+    QVERIFY(QFile::setPermissions(folder.path("bench.toml"), QFile::ReadOwner));
+    QCOMPARE(folder.read("bench.toml"), QByteArray{"seed = 7\n"});
+}
+
+void RecordedSessionsTest::linkStaysALink()
+{
+    const Folder folder;
+    QVERIFY(QDir{folder.path({})}.mkdir("elsewhere"));
+    QCOMPARE(folder.run(CTL, {"--record", "elsewhere/first", "list"}).status, 0);
+    const QStringList first{callsIn(folder.trace())};
+    QVERIFY(QFile::link("elsewhere/first", folder.recording()));
+    QCOMPARE(folder.run(CTL, {"--record", "session.recording", "info"}).status, 0);
+    QCOMPARE(QFile::symLinkTarget(folder.recording()), folder.path("elsewhere/first"));
+    QCOMPARE(callsIn(folder.path("elsewhere/first")), callsIn(folder.trace()));
+    QCOMPARE(callsIn(folder.path("elsewhere/first.~1~")), first);
+    QVERIFY(!QFile::exists(folder.recording() + ".~1~"));
+}
+
+void RecordedSessionsTest::linkToNothingIsFollowed()
+{
+    const Folder folder;
+    QVERIFY(QFile::link("first", folder.recording()));
+    QCOMPARE(folder.run(CTL, {"--record", "session.recording", "info"}).status, 0);
+    QCOMPARE(QFile::symLinkTarget(folder.recording()), folder.path("first"));
+    QCOMPARE(callsIn(folder.path("first")), callsIn(folder.trace()));
+}
+#endif
 
 void RecordedSessionsTest::unwritableFileIsTold_data()
 {

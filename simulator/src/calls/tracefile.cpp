@@ -69,9 +69,24 @@ bool isTraceOrNothing(const std::filesystem::path &path)
         return true;
     }
     std::ifstream existing{path, std::ios::binary};
+    if (!existing.is_open()) {
+        // What cannot be read may be anything, unless another program has just renamed it.
+        return !std::filesystem::exists(path, error);
+    }
     std::string bytes(traceBeginning.size(), '\0');
     existing.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    return existing.gcount() == 0 || bytes == traceBeginning;
+    return !existing.bad() && (existing.gcount() == 0 || bytes == traceBeginning);
+}
+
+/// What a link leads to; the path itself when it is no link, or leads to nothing.
+std::filesystem::path withoutLink(const std::filesystem::path &path)
+{
+    std::error_code error;
+    if (!std::filesystem::is_symlink(path, error)) {
+        return path;
+    }
+    const std::filesystem::path target{std::filesystem::canonical(path, error)};
+    return error ? path : target;
 }
 
 /// Renames what is there; done also where there is nothing. When it is unwritable, errno says why.
@@ -119,19 +134,20 @@ int openWithoutReplacing(const std::filesystem::path &path)
 TraceFile::Opening TraceFile::open(const std::filesystem::path &path, Earlier earlier)
 {
     close();
+    const std::filesystem::path target{withoutLink(path)};
     constexpr int attempts{100};
     for (int attempt{0}; attempt < attempts; ++attempt) {
         // Whoever mixes up two names must not lose a scenario or a memory.
-        if (!isTraceOrNothing(path)) {
+        if (!isTraceOrNothing(target)) {
             return Opening::OtherFile;
         }
         if (earlier == Earlier::Kept) {
-            const Opening keeping{keep(path)};
+            const Opening keeping{keep(target)};
             if (keeping != Opening::Done) {
                 return keeping;
             }
         }
-        file = earlier == Earlier::Kept ? openWithoutReplacing(path) : openToWrite(path, O_TRUNC);
+        file = earlier == Earlier::Kept ? openWithoutReplacing(target) : openToWrite(target, O_TRUNC);
         if (isOpen()) {
             size = 0;
             return Opening::Done;

@@ -21,7 +21,7 @@ public:
     enum class Opening
     {
         Done,
-        OtherFile,    ///< There is a file that is no trace; it is left as it is.
+        OtherFile,    ///< There is a file that is no trace or cannot be read; it is left as it is.
         KeptTooOften, ///< There is a trace, and all names that it could be kept with are taken.
         Unwritable,   ///< errno says why.
     };
@@ -41,7 +41,7 @@ public:
     TraceFile(const TraceFile &) = delete;
     TraceFile &operator=(const TraceFile &) = delete;
 
-    /// Begins the file anew.
+    /// Begins the file anew; where a link stands, what it leads to.
     Opening open(const std::filesystem::path &path, Earlier earlier);
     bool isOpen() const { return file != none; }
     /// Appends a line, which ends with its line feed. False, with the file closed and without a part of the
