@@ -3,6 +3,7 @@
 // Files that the commands write.
 #include "files.h"
 
+#include "calls/tracefile.h"
 #include "escaped.h"
 
 #include <QFile>
@@ -30,10 +31,29 @@ Failure notWritten(ExitStatus status, const std::string &file, const QIODevice &
                    sdk_check::escaped(file) + ": " + sdk_check::escaped(device.errorString().toStdString())};
 }
 
+/// Whether there is a plain file that begins like one.
+bool isRecording(const QString &name)
+{
+    using veltrix_simulator::traceBeginning;
+    QFile file{name};
+    // A pipe would wait for what is written there.
+    return QFileInfo{name}.isFile() && file.open(QIODevice::ReadOnly) &&
+           file.read(static_cast<qint64>(traceBeginning.size())).toStdString() == traceBeginning;
+}
+
 } // namespace
+
+void refuseRecording(const std::string &file)
+{
+    if (isRecording(QString::fromStdString(file))) {
+        throw Failure{wrongUse, sdk_check::escaped(file) +
+                                    ": this is a recording, and is left as it is; name another file"};
+    }
+}
 
 void tryToWrite(const std::string &file)
 {
+    refuseRecording(file);
     const QString name{QString::fromStdString(file)};
     if (!isReplaced(name)) {
         return;
@@ -47,6 +67,7 @@ void tryToWrite(const std::string &file)
 
 void writeWhole(const std::string &file, const QByteArray &bytes, ExitStatus whenItFails)
 {
+    refuseRecording(file);
     const QString name{QString::fromStdString(file)};
     if (!isReplaced(name)) {
         QFile device{name};

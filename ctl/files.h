@@ -12,11 +12,17 @@
 namespace ctl
 {
 
-/// Makes sure that a file can be written, and leaves it as it is; else a Failure of wrong use.
+/// Makes sure that a file is no recording, which nothing but a recording may take the place of; else a
+/// Failure of wrong use.
+void refuseRecording(const std::string &file);
+
+/// Makes sure that a file can be written and is no recording, and leaves it as it is; else a Failure of wrong
+/// use.
 void tryToWrite(const std::string &file);
 
 /// Writes a file as a whole or not at all; one that was there is replaced at the end. What is no plain file,
-/// such as a pipe or /dev/null, is written as it is. Throws a Failure with this status.
+/// such as a pipe or /dev/null, is written as it is. Throws a Failure with this status, and one of wrong use
+/// where a recording is.
 void writeWhole(const std::string &file, const QByteArray &bytes, ExitStatus whenItFails);
 
 } // namespace ctl

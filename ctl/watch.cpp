@@ -4,6 +4,7 @@
 #include "watch.h"
 
 #include "escaped.h"
+#include "files.h"
 #include "interruption.h"
 #include "messages.h"
 #include "plot.h"
@@ -186,9 +187,12 @@ private:
         if (watch.csvFile.empty()) {
             return;
         }
-        if (!csvAlone() && !csv.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
-            throw Failure{wrongUse, sdk_check::escaped(watch.csvFile) + ": " +
-                                        sdk_check::escaped(csv.errorString().toStdString())};
+        if (!csvAlone()) {
+            refuseRecording(watch.csvFile);
+            if (!csv.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+                throw Failure{wrongUse, sdk_check::escaped(watch.csvFile) + ": " +
+                                            sdk_check::escaped(csv.errorString().toStdString())};
+            }
         }
         writeCsv(csvHeading(session));
     }

@@ -77,6 +77,8 @@ private slots:
     void linkStaysALink();
     void linkToNothingIsFollowed();
 #endif
+    void nothingElseTakesThePlaceOfARecording_data();
+    void nothingElseTakesThePlaceOfARecording();
     void unwritableFileIsTold_data();
     void unwritableFileIsTold();
     void fullDiskEndsTheRecording();
@@ -319,6 +321,44 @@ void RecordedSessionsTest::linkToNothingIsFollowed()
     QCOMPARE(callsIn(folder.path("first")), callsIn(folder.trace()));
 }
 #endif
+
+void RecordedSessionsTest::nothingElseTakesThePlaceOfARecording_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<bool>("records");
+    const auto row = [](const QStringList &arguments, bool records = false) {
+        QTest::addRow("%s", qPrintable(arguments.join(' '))) << arguments << records;
+    };
+
+    row({"recording", "profile", "session.recording", "session.recording"});
+    row({"profile", "save", "session.recording"});
+    row({"profile", "save", "--record=session.recording", "session.recording"}, true);
+    row({"watch", "temperatures", "--count", "1", "--csv", "session.recording"});
+    row({"watch", "temperatures", "--count", "1", "--record=session.recording", "--csv", "session.recording"},
+        true);
+    row({"bad-pixels", "list", "--picture", "session.recording"});
+#if defined(HAS_CURVES)
+    row({"watch", "temperatures", "--count", "1", "--plot", "session.recording"});
+#endif
+}
+
+void RecordedSessionsTest::nothingElseTakesThePlaceOfARecording()
+{
+    QFETCH(const QStringList, arguments);
+    QFETCH(const bool, records);
+    const Folder folder;
+    QCOMPARE(folder.run(CTL, {"--record", "session.recording", "list"}).status, 0);
+    const QByteArray earlier{folder.read("session.recording")};
+    // What the picture shows.
+    QCOMPARE(folder.run(CTL, {"bad-pixels", "read"}).status, 0);
+    const Outcome outcome{folder.run(CTL, arguments)};
+    QCOMPARE(outcome.errors,
+             QString{"pilotel-ctl: session.recording: this is a recording, and is left as it is; "
+                     "name another file\n"});
+    QCOMPARE(outcome.status, 2);
+    QCOMPARE(folder.read(records ? "session.recording.~1~" : "session.recording"), earlier);
+    QVERIFY(folder.read("session.recording").startsWith(R"({"trace":1,"program":)"));
+}
 
 void RecordedSessionsTest::unwritableFileIsTold_data()
 {
