@@ -47,7 +47,7 @@ public:
     bool isOpen() const { return file.isOpen(); }
 
     /// Hands a call on and writes its line. What it answers is passed on as it is; of a text the line has
-    /// what is not private.
+    /// what is not private, and the communication type as it is.
     template <typename Function>
     std::invoke_result_t<const Function &> call(OperationId operation, Parameters parameters,
                                                 const Function &work)
@@ -60,7 +60,9 @@ public:
         } else {
             Result result{work()};
             if constexpr (std::is_same_v<Result, const char *>) {
-                const char *told{texts.without(result)};
+                // Whoever plays the recording compares the communication type, and a user may be called so.
+                const char *told{operation == OperationId::getCommunicationType ? result
+                                                                                : texts.without(result)};
                 finish(begun, operation, parameters, ResultPlace{&told});
             } else {
                 finish(begun, operation, parameters, ResultPlace{&result});

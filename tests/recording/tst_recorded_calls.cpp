@@ -291,11 +291,14 @@ void RecordedCallsTest::textsArePrivate()
     QCOMPARE(QByteArray{c.configuration.getCommunicationType()}, QByteArray{"mmoore"});
     recording::LogRecord{severity_info}.stream() << "ALTERNATIVE SERIAL PORT : "
                                                  << "/home/of/mary/port";
+    recording::LogRecord{severity_info}.stream() << "of mmoore";
     const QStringList calls{callsIn(recorded.file()).mid(5)};
-    QCOMPARE(calls.size(), 3);
+    QCOMPARE(calls.size(), 4);
     QVERIFY(calls[0].endsWith(R"("arguments":["ttyUSB0"],"result":null})"));
-    QVERIFY(calls[1].endsWith(R"("arguments":[],"result":"USER"})"));
+    // What the device says of the link is compared when the recording is played.
+    QVERIFY(calls[1].endsWith(R"("arguments":[],"result":"mmoore"})"));
     QVERIFY(calls[2].endsWith(R"("arguments":[2,"ALTERNATIVE SERIAL PORT : port"]})"));
+    QVERIFY(calls[3].endsWith(R"("arguments":[2,"of USER"]})"));
     // What the library gets is what the program says.
     const QStringList got{callsIn(recorded.trace()).mid(5)};
     QVERIFY(got[0].contains(R"(["/dev/ttyUSB0"])"));

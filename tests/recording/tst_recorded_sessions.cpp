@@ -86,6 +86,7 @@ private slots:
     void askingAndCompletingRecordNothing();
     void isWholeAfterACrash();
     void portIsNoPath();
+    void userMayBeCalledLikeTheLink();
 };
 
 void RecordedSessionsTest::sessionIsThatOfTheTrace_data()
@@ -480,6 +481,22 @@ void RecordedSessionsTest::portIsNoPath()
     for (const char *const part : {"jane", "jdoe", "home", "ports"}) {
         QVERIFY2(!recorded.contains(part), part);
     }
+}
+
+void RecordedSessionsTest::userMayBeCalledLikeTheLink()
+{
+    Folder folder;
+    folder.environment.insert("HOME", "/home/uart");
+    folder.environment.insert("USER", "uart");
+    const Outcome recorded{folder.run(CTL, {"--record", folder.recording(), "info"})};
+    QCOMPARE(recorded.status, 0);
+    QVERIFY(folder.read("session.recording")
+                .contains(R"("operation":"getCommunicationType","arguments":[],"result":"UART")"));
+    folder.write("played.toml", "recording = \"session.recording\"\n");
+    folder.environment.insert("VELTRIX_SIMULATOR_SCENARIO", folder.path("played.toml"));
+    const Outcome played{folder.run(CTL, {"info"})};
+    QCOMPARE(played.output, recorded.output);
+    QCOMPARE(played.status, 0);
 }
 
 PILOTEL_TEST_CLASS(RecordedSessionsTest)
