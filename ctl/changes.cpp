@@ -13,6 +13,7 @@
 #include <array>
 #include <cstddef>
 #include <optional>
+#include <utility>
 
 using device_settings::Place;
 
@@ -79,11 +80,7 @@ std::vector<Difference> Changes::look()
     Progress progress{"Reading", steps.size()};
     for (Step &step : steps) {
         heedInterruption();
-        Reading reading{session.readTwice(step.unit, *step.setting)};
-        if (!reading.fault.empty()) {
-            throw Failure{refused, reading.fault + "\nNothing was changed."};
-        }
-        step.found = std::move(reading.values);
+        step.found = readSurely(step.unit, *step.setting);
         step.wanted = step.found;
         for (const Change &change : step.changes) {
             const std::size_t field{change.place.field};
@@ -106,19 +103,34 @@ std::vector<Difference> Changes::look()
     return differences;
 }
 
+/// What is there before the first command is sent.
+Values Changes::readSurely(Unit unit, const Setting &setting)
+{
+    Reading reading{session.readTwice(unit, setting)};
+    if (!reading.fault.empty()) {
+        throw Failure{refused, reading.fault + "\nNothing was changed."};
+    }
+    return std::move(reading.values);
+}
+
+// A region whose first column is lost would be switched off with the next number that is sent.
 void Changes::noteFlags()
 {
     if (!sendsFlags) {
         return;
     }
-    foundFlags = device_settings::readRegionFlags(session.on(Unit::Camera));
-    wantedFlags = foundFlags;
-    for (const Step &step : steps) {
-        for (const RegionFlag &region : regionFlags) {
-            if (step.setting->key == region.key) {
-                foundFlags.*region.flag = step.found[0] != 0;
-                wantedFlags.*region.flag = step.wanted[0] != 0;
-            }
+    for (const RegionFlag &region : regionFlags) {
+        const auto place =
+            device_settings::findSetting(session.settings(), keyOf(Unit::Camera) + '.' + region.key);
+        const auto step = std::find_if(steps.begin(), steps.end(),
+                                       [&](const Step &each) { return each.setting == place->setting; });
+        if (step != steps.end()) {
+            foundFlags.*region.flag = step->found[0] != 0;
+            wantedFlags.*region.flag = step->wanted[0] != 0;
+        } else {
+            const bool isOn{readSurely(place->unit, *place->setting)[0] != 0};
+            foundFlags.*region.flag = isOn;
+            wantedFlags.*region.flag = isOn;
         }
     }
 }

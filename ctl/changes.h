@@ -64,6 +64,7 @@ private:
     void makeStep(const Step &step);
     std::vector<std::string> putBack(std::size_t count);
     std::string putBack(const Step &step);
+    Values readSurely(Unit unit, const Setting &setting);
     void noteFlags();
 
     Session &session;

@@ -24,6 +24,8 @@ class CtlFaultsTest : public QObject
 private slots:
     void tellsWhatTheDeviceDid_data();
     void tellsWhatTheDeviceDid();
+    void keepsTheOtherRegionsOn_data();
+    void keepsTheOtherRegionsOn();
     void tellsAFileThatIsNotThere_data();
     void tellsAFileThatIsNotThere();
     void showsTheVersionOfEveryKindOfCamera_data();
@@ -114,6 +116,52 @@ void CtlFaultsTest::tellsWhatTheDeviceDid()
     QCOMPARE(outcome.errors, lines(expected));
     QCOMPARE(outcome.status, status);
     QCOMPARE(folder.calls().last(), QString{"releaseDeviceManager(\"manager\")"});
+}
+
+void CtlFaultsTest::keepsTheOtherRegionsOn_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("region");
+    QTest::addColumn<QString>("call");
+    QTest::addColumn<QString>("error");
+    QTest::addColumn<QStringList>("commands");
+    const auto rows = [](const QString &command, const QStringList &arguments) {
+        QTest::addRow("%s", qPrintable(command)) << arguments << QString{} << QString{} << QString{}
+                                                 << QStringList{"setRoiX1(20, 0, true, true, true)"};
+        for (int number{1}; number <= 3; ++number) {
+            const QString region{QString::number(number)};
+            const QString answers{"camera.roi" + region + ".x1 answers "};
+            QTest::addRow("%s, region %d is lost", qPrintable(command), number)
+                << arguments << region << "1" << answers + "0, then " + region << QStringList{};
+            QTest::addRow("%s, region %d is lost at the second reading", qPrintable(command), number)
+                << arguments << region << "2" << answers + region + ", then 0" << QStringList{};
+        }
+    };
+    rows("set", {"set", "camera.roi0.x1=20"});
+    rows("apply", {"profile", "apply", "wanted.toml"});
+}
+
+void CtlFaultsTest::keepsTheOtherRegionsOn()
+{
+    QFETCH(const QStringList, arguments);
+    QFETCH(const QString, region);
+    QFETCH(const QString, call);
+    QFETCH(const QString, error);
+    QFETCH(const QStringList, commands);
+    CtlFolder folder;
+    folder.write("wanted.toml", "camera.roi0.x1 = 20\n");
+    const QString lost{fault("getRoiX1", QString{"target = \"camera\"\n"
+                                                 "argument = { place = 1, minimum = %1, maximum = %1 }\n"
+                                                 "onCall = %2\n"
+                                                 "effect = \"refuse\""}
+                                             .arg(region, call))};
+    folder.play("[camera]\nroi1.x1 = 1\nroi2.x1 = 2\nroi3.x1 = 3\n" + (region.isEmpty() ? QString{} : lost));
+    const Outcome outcome{folder.run(arguments)};
+    QCOMPARE(outcome.errors, error.isEmpty()
+                                 ? QString{}
+                                 : lines({"pilotel-ctl: " + error, "pilotel-ctl: Nothing was changed."}));
+    QCOMPARE(outcome.status, error.isEmpty() ? 0 : 1);
+    QCOMPARE(folder.commands(), commands);
 }
 
 void CtlFaultsTest::tellsAFileThatIsNotThere_data()
