@@ -25,6 +25,9 @@ namespace
 
 constexpr const char *prompt{"pilotel> "};
 
+/// How many bytes a line of a file may have, without its line feed.
+constexpr qint64 longestLine{100'000};
+
 /// Runs one line; false when it asks for the end.
 bool runLine(Session &session, const std::vector<std::string> &words, ExitStatus &status)
 {
@@ -69,14 +72,19 @@ ExitStatus runLines(Session &session, QFile &lines, const std::string &name)
 {
     ExitStatus status{done};
     for (int number{1}; status == done; ++number) {
-        constexpr qint64 longest{100'000};
-        const QByteArray line{lines.readLine(longest)};
+        // Room for the line feed, and for the zero that Qt may put behind it.
+        const QByteArray line{lines.readLine(longestLine + 2)};
         if (line.isEmpty()) {
             return status;
         }
         heedInterruption();
         const std::string place{(name.empty() ? "line " : sdk_check::escaped(name) + ':') +
                                 std::to_string(number) + ": "};
+        // What follows in the buffer is no line of its own: it may be the rest of a comment.
+        if (line.size() - (line.endsWith('\n') ? 1 : 0) > longestLine) {
+            throw Failure{wrongUse, place + "the line has more than " + std::to_string(longestLine) +
+                                        " bytes; write shorter lines, one command each"};
+        }
         try {
             const std::vector<std::string> words{wordsOf(line.toStdString())};
             if (!words.empty() && !runLine(session, words, status)) {

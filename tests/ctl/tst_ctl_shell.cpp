@@ -21,6 +21,8 @@ private slots:
     void runsAPipe();
     void understandsLines_data();
     void understandsLines();
+    void refusesALineThatIsTooLong_data();
+    void refusesALineThatIsTooLong();
     void stopsAtTheFirstFailure();
     void hasNoShellInTheShell();
     void talksAtATerminal();
@@ -90,6 +92,38 @@ void CtlShellTest::understandsLines()
     QCOMPARE(outcome.errors, errors);
     QCOMPARE(outcome.output, errors.isEmpty() ? "camera.gamma = 65536  # 1\n" : QString{});
     QCOMPARE(outcome.status, errors.isEmpty() ? 0 : 2);
+}
+
+void CtlShellTest::refusesALineThatIsTooLong_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<int>("line"); ///< That is too long; 0: none.
+    const QByteArray command{"set camera.gamma=2.5"};
+    const QByteArray longest{'#' + QByteArray(99'999, 'x')};
+    QTest::newRow("a command behind the longest comment") << longest + '\n' + command << 0;
+    QTest::newRow("the longest command") << QByteArray(100'000 - command.size(), ' ') + command << 0;
+    for (const int bytes : {99'998, 99'999, 100'000, 100'001, 199'998, 200'000}) {
+        QTest::addRow("a command in a comment of %d bytes", bytes)
+            << '#' + QByteArray(bytes, 'x') + command << 1;
+    }
+    QTest::newRow("a comment of one byte too many") << longest + "x\n" + command << 1;
+    QTest::newRow("a command") << QByteArray(100'001 - command.size(), ' ') + command << 1;
+    QTest::newRow("the second line") << '\n' + longest + command + '\n' << 2;
+}
+
+void CtlShellTest::refusesALineThatIsTooLong()
+{
+    QFETCH(const QByteArray, text);
+    QFETCH(const int, line);
+    CtlFolder folder;
+    folder.write("c", text);
+    const QStringList sent{line == 0 ? QStringList{"setGamma(163840)"} : QStringList{}};
+    const QString error{"the line has more than 100000 bytes; "
+                        "write shorter lines, one command each\n"};
+    const Outcome outcome{folder.run({"shell", "c"})};
+    QCOMPARE(outcome.errors, line == 0 ? QString{} : QString{"pilotel-ctl: c:%1: "}.arg(line) + error);
+    QCOMPARE(outcome.status, line == 0 ? 0 : 2);
+    QCOMPARE(folder.commands(), sent);
 }
 
 void CtlShellTest::stopsAtTheFirstFailure()
