@@ -168,7 +168,7 @@ void Changes::make()
 void Changes::makeStep(const Step &step)
 {
     const bool acknowledged{session.write(step.unit, *step.setting, step.wanted, wantedFlags)};
-    const Reading reading{session.read(step.unit, *step.setting)};
+    const Reading reading{session.readTwice(step.unit, *step.setting)};
     for (const Change &change : step.changes) {
         const std::size_t field{change.place.field};
         const std::string wanted{device_settings::keyOf(change.place) + " = " +
@@ -213,7 +213,7 @@ std::string Changes::putBack(const Step &step)
     for (int attempt{0}; attempt < attemptsToPutBack; ++attempt) {
         try {
             const bool acknowledged{session.write(step.unit, *step.setting, step.found, foundFlags)};
-            const Reading reading{session.read(step.unit, *step.setting)};
+            const Reading reading{session.readTwice(step.unit, *step.setting)};
             if (!reading.fault.empty()) {
                 now = reading.fault;
                 continue;

@@ -71,8 +71,21 @@ void CtlFaultsTest::tellsWhatTheDeviceDid_data()
         {"set", "camera.gamma=2.2"}, 1,
         {"camera.gamma = 144179 (2.2) was sent, but then camera.gamma answers 0; 32768 to 163840 is allowed",
          "NOT PUT BACK: camera.gamma was 65536 (1); camera.gamma answers 0; 32768 to 163840 is allowed"});
+    row("what is stuck is lost as what was sent",
+        fault("setClhe", "effect = \"stuck\"") + fault("getClhe", "onCall = 3\n" + refuse),
+        {"set", "camera.clhe=0"}, 1,
+        {"camera.clhe = 0 was sent, but then camera.clhe answers 0, then 2000", restored});
+    row("what is not put back is lost as what was there",
+        "[camera]\nclhe = 0\n" + fault("setClhe", "fromCall = 2\n" + refuse) + fault("setTint", refuse) +
+            fault("getClhe", "onCall = 5\n" + refuse),
+        {"set", "camera.clhe=5", "camera.tint=5"}, 1,
+        {"camera.tint = 5 is refused by the camera.",
+         "NOT PUT BACK: camera.clhe was 0; it is 5, and setting it is refused"});
+    row("what is put back is lost once", fault("setTint", refuse) + fault("getClhe", "onCall = 5\n" + refuse),
+        {"set", "camera.clhe=5", "camera.tint=5"}, 1,
+        {"camera.tint = 5 is refused by the camera.", restored});
     row("another number of the setting changes",
-        fault("getEdgeCorrection", "onCall = 3\neffect = \"answer\"\nanswer = [2, 100, 20, 60]"),
+        fault("getEdgeCorrection", "fromCall = 3\ntimes = 2\neffect = \"answer\"\nanswer = [2, 100, 20, 60]"),
         {"set", "camera.edgeCorrection.gain=100"}, 1,
         {"camera.edgeCorrection was sent, and another number of it has changed.", restored});
     row("two numbers of a setting are not put back",
