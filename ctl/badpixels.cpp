@@ -176,7 +176,8 @@ ExitStatus declareBadPixels(Session &session, Unit unit, const Pixels &pixels, b
     const std::string file{fileNameOf(session, unit)};
     const auto declare = bad ? &Device::addBadPixel : &Device::removeBadPixel;
     std::size_t declared{0};
-    {
+    std::optional<Failure> gone;
+    try {
         Progress progress{bad ? "Adding" : "Removing", all.size()};
         for (const Pixel &pixel : all) {
             if (wasInterrupted()) {
@@ -191,11 +192,16 @@ ExitStatus declareBadPixels(Session &session, Unit unit, const Pixels &pixels, b
                 tell("Pixel " + textOf(pixel) + " is refused by " + nameOf(unit) + '.');
             }
         }
+    } catch (const Failure &failure) {
+        gone = failure;
     }
     // The library saves what was declared when the device is closed.
     session.close();
     std::cout << declared << " of " << all.size() << (all.size() == 1 ? " pixel " : " pixels ")
               << (bad ? "added to " : "removed from ") << file << std::endl;
+    if (gone) {
+        throw Failure{*gone};
+    }
     heedInterruption();
     return declared == all.size() ? done : refused;
 }

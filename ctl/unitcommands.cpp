@@ -163,6 +163,11 @@ ExitStatus storeSettings(Session &session, bool expert, const std::vector<Unit> 
 {
     const std::string set{expert ? "expert" : "user"};
     std::string failed;
+    // A unit that is gone ends the command before anything is stored.
+    for (const Unit unit : units) {
+        heedInterruption();
+        session.on(unit);
+    }
     for (const Unit unit : units) {
         heedInterruption();
         const std::uint8_t kind{expert ? veltrix_sdk::saveExpertParameters : veltrix_sdk::saveUserParameters};

@@ -23,6 +23,8 @@ private slots:
     void writesToTheUnit();
     void takesTheOtherUnit();
     void tellsRefusedPixels();
+    void tellsHowFarItCameWhenTheCameraIsGone_data();
+    void tellsHowFarItCameWhenTheCameraIsGone();
     void tellsARefusedTransfer();
     void refusesWrongUse_data();
     void refusesWrongUse();
@@ -128,6 +130,35 @@ void CtlBadPixelsTest::tellsRefusedPixels()
     QCOMPARE(outcome.output, lines({"2 of 3 pixels added to bpr_SN10417.bin"}));
     QCOMPARE(outcome.errors, lines({"pilotel-ctl: Pixel 2,2 is refused by the camera."}));
     QCOMPARE(outcome.status, 1);
+}
+
+void CtlBadPixelsTest::tellsHowFarItCameWhenTheCameraIsGone_data()
+{
+    QTest::addColumn<QString>("operation");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("output");
+    QTest::addColumn<QStringList>("bad"); ///< What is in the file then.
+    QTest::newRow("add") << "addBadPixel" << QStringList{"add", "1,1", "2,2", "3,3", "4,4"}
+                         << "2 of 4 pixels added to bpr_SN10417.bin" << (QStringList{"1,1", "2,2"} + factory);
+    QTest::newRow("remove") << "removeBadPixel"
+                            << QStringList{"remove", "611,7", "113,58", "114,58", "320,239"}
+                            << "2 of 4 pixels removed from bpr_SN10417.bin" << QStringList(factory.mid(2));
+}
+
+void CtlBadPixelsTest::tellsHowFarItCameWhenTheCameraIsGone()
+{
+    QFETCH(const QString, operation);
+    QFETCH(const QStringList, arguments);
+    QFETCH(const QString, output);
+    QFETCH(const QStringList, bad);
+    CtlFolder folder;
+    folder.play("[[fault]]\noperation = \"" + operation + "\"\nonCall = 3\neffect = \"cableOut\"\n");
+    const Outcome outcome{folder.run(QStringList{"bad-pixels"} + arguments)};
+    QCOMPARE(outcome.output, lines({output}));
+    QCOMPARE(outcome.errors,
+             lines({"pilotel-ctl: No answer from the camera: look at its power and its cable."}));
+    QCOMPARE(outcome.status, 3);
+    QCOMPARE(folder.run({"bad-pixels", "list"}).output, lines(bad));
 }
 
 void CtlBadPixelsTest::tellsARefusedTransfer()

@@ -42,6 +42,8 @@ private slots:
     void storesTheSettings_data();
     void storesTheSettings();
     void saysWhichUnitDoesNotStore();
+    void storesNothingWhereAUnitIsGone_data();
+    void storesNothingWhereAUnitIsGone();
     void choosesTheSpeedOfTheLink();
     void opensAndClosesAsTheWindowDoes();
     void showsTextOfTheDeviceWithoutControlCharacters();
@@ -376,7 +378,9 @@ void CtlSettingsTest::storesTheSettings_data()
     QTest::addColumn<QStringList>("targets");
     QTest::addColumn<QString>("command");
     QTest::addColumn<QStringList>("output");
-    QTest::newRow("user") << QStringList{"user"} << QStringList{"setTarget(0)", "setTarget(1)"}
+    // Both units answer before the first of them stores.
+    QTest::newRow("user") << QStringList{"user"}
+                          << QStringList{"setTarget(0)", "setTarget(1)", "setTarget(0)", "setTarget(1)"}
                           << "saveBlendUnitParameters(0)"
                           << QStringList{"The user settings of the Blend Unit are stored.",
                                          "The user settings of the camera are stored."};
@@ -412,6 +416,29 @@ void CtlSettingsTest::saysWhichUnitDoesNotStore()
     QCOMPARE(outcome.output, lines({"The user settings of the camera are stored."}));
     QCOMPARE(outcome.errors, lines({"pilotel-ctl: the Blend Unit refuses to store its user settings."}));
     QCOMPARE(outcome.status, 1);
+}
+
+void CtlSettingsTest::storesNothingWhereAUnitIsGone_data()
+{
+    QTest::addColumn<QString>("scenario");
+    QTest::addColumn<QString>("unit");
+    QTest::newRow("camera") << "silent-camera"
+                            << "camera";
+    QTest::newRow("Blend Unit") << "silent-blend-unit"
+                                << "Blend Unit";
+}
+
+void CtlSettingsTest::storesNothingWhereAUnitIsGone()
+{
+    QFETCH(const QString, scenario);
+    QFETCH(const QString, unit);
+    CtlFolder folder{scenario};
+    const Outcome outcome{folder.run({"--port", "SIM1", "store", "user"})};
+    QCOMPARE(outcome.output, QString{});
+    QCOMPARE(outcome.errors,
+             lines({"pilotel-ctl: No answer from the " + unit + ": look at its power and its cable."}));
+    QCOMPARE(outcome.status, 3);
+    QCOMPARE(folder.commands(), QStringList{});
 }
 
 void CtlSettingsTest::choosesTheSpeedOfTheLink()
