@@ -153,6 +153,7 @@ void paint(const std::vector<Pixel> &bad, const std::string &name)
 ExitStatus readBadPixels(Session &session, Unit unit)
 {
     const std::string name{fileNameOf(session, unit)};
+    tryToWrite(name);
     if (!session.on(unit).readBprTable(bprFirstNumber, bprSecondNumber, bprReadCode)) {
         throw Failure{refused, "The table of bad pixels could not be read from " + nameOf(unit) + '.'};
     }

@@ -4,6 +4,7 @@
 #include "ctlrun.h"
 #include "testclass.h"
 
+#include <QDir>
 #include <QImage>
 #include <QObject>
 #include <QString>
@@ -26,6 +27,7 @@ private slots:
     void tellsHowFarItCameWhenTheCameraIsGone_data();
     void tellsHowFarItCameWhenTheCameraIsGone();
     void tellsARefusedTransfer();
+    void tellsThatTheFileCannotBeWritten();
     void refusesWrongUse_data();
     void refusesWrongUse();
 };
@@ -171,6 +173,17 @@ void CtlBadPixelsTest::tellsARefusedTransfer()
     const Outcome read{folder.run({"bad-pixels", "read"})};
     QCOMPARE(read.errors, lines({"pilotel-ctl: The table of bad pixels could not be read from the camera."}));
     QCOMPARE(read.status, 1);
+}
+
+void CtlBadPixelsTest::tellsThatTheFileCannotBeWritten()
+{
+    CtlFolder folder;
+    QVERIFY(QDir{folder.path(".")}.mkdir("bpr_SN10417.bin"));
+    const Outcome outcome{folder.run({"bad-pixels", "read"})};
+    QCOMPARE(outcome.output, QString{});
+    QCOMPARE(outcome.errors, lines({"pilotel-ctl: bpr_SN10417.bin: Filename refers to a directory"}));
+    QCOMPARE(outcome.status, 2);
+    QCOMPARE(folder.commands(), QStringList{});
 }
 
 void CtlBadPixelsTest::refusesWrongUse_data()
