@@ -6,7 +6,7 @@
 foreach(
     target
     pilotel pilotel_appearance pilotel_check pilotel_ctl pilotel-ctl pilotel-curves pilotel_forms pilotel_mainwindow
-    pilotel_operatorinput pilotel_ports pilotel_screenfit pilotel_settings pilotel-sdk-check veltrix_simulator_objects
+    pilotel_operatorinput pilotel_ports pilotel_recording pilotel_screenfit pilotel_settings pilotel-sdk-check veltrix_simulator_objects
 )
     get_target_property(directory ${target} SOURCE_DIR)
     get_target_property(sources ${target} SOURCES)
