@@ -33,7 +33,8 @@ std::vector<Unit> unitsOf(const std::vector<std::string> &names)
 {
     std::vector<Unit> units;
     for (const Unit unit : device_settings::units) {
-        if (names.empty() || std::find(names.begin(), names.end(), keyOf(unit)) != names.end()) {
+        const std::string key{keyOf(unit)};
+        if (names.empty() || std::find(names.begin(), names.end(), key) != names.end()) {
             units.push_back(unit);
         }
     }
@@ -43,7 +44,10 @@ std::vector<Unit> unitsOf(const std::vector<std::string> &names)
 /// The one unit that a command works on.
 Unit unitOf(const Arguments &arguments)
 {
-    return arguments.units.empty() ? Unit::Camera : unitsOf(arguments.units).front();
+    if (arguments.units.empty()) {
+        return Unit::Camera;
+    }
+    return unitsOf(arguments.units).front();
 }
 
 /// Adds the subcommands to a parser.
@@ -176,7 +180,10 @@ private:
                 "How often: such as 500ms, 1s, 2min or 1h; 1s if not given")
             ->type_name("TIME")
             ->check([](const std::string &text) {
-                return durationOf(text) ? "" : '"' + text + "\" is no time such as 500ms, 1s, 2min or 1h";
+                if (durationOf(text)) {
+                    return std::string{};
+                }
+                return '"' + text + "\" is no time such as 500ms, 1s, 2min or 1h";
             });
         temperatures->add_option("--count", arguments.watch.count, "So many readings")
             ->type_name("N")
@@ -263,7 +270,8 @@ private:
 void leaveOutKinds(CLI::App &command)
 {
     for (CLI::Option *const option : command.get_options()) {
-        if (option->get_positional() && option->get_type_name() == "TEXT") {
+        const std::string kind{option->get_type_name()};
+        if (option->get_positional() && kind == "TEXT") {
             option->type_name("");
         }
     }

@@ -124,6 +124,17 @@ Words names(Session &session)
     return words;
 }
 
+Words unitKeys()
+{
+    return {keyOf(Unit::BlendUnit), keyOf(Unit::Camera)};
+}
+
+/// What `store` takes.
+Words setsToStore()
+{
+    return {"user", "expert"};
+}
+
 Words awaitedWords(const CLI::Option &option)
 {
     // Each option that takes a word has a long name.
@@ -132,7 +143,7 @@ Words awaitedWords(const CLI::Option &option)
         return allPorts();
     }
     if (name == "unit") {
-        return {keyOf(Unit::BlendUnit), keyOf(Unit::Camera)};
+        return unitKeys();
     }
     Words rates;
     if (name == "baud-rate") {
@@ -167,7 +178,7 @@ Words wordsAt(Session &session, const Spot &spot, const std::string &begun)
         return names(session);
     }
     if (command == "store") {
-        return {"user", "expert"};
+        return setsToStore();
     }
     return {};
 }

@@ -34,10 +34,8 @@ std::string nearestName(Session &session, const std::string &wrong)
 
 Failure unknownName(Session &session, const std::string &name)
 {
-    const std::string near{nearestName(session, name)};
     return Failure{wrongUse, "There is no setting \"" + sdk_check::escaped(name) + '"' +
-                                 (near.empty() ? "; \"pilotel-ctl list\" tells all of them"
-                                               : "; did you mean \"" + near + "\"?")};
+                                 hintAt(nearestName(session, name))};
 }
 
 /// Whether the name is this one or begins with it up to a dot.
@@ -80,6 +78,14 @@ std::vector<Named> namesFor(Session &session, const std::vector<std::string> &na
         }
     }
     return found;
+}
+
+std::string hintAt(const std::string &near)
+{
+    if (near.empty()) {
+        return "; \"pilotel-ctl list\" tells all of them";
+    }
+    return "; did you mean \"" + near + "\"?";
 }
 
 bool canBeSet(const Place &place)

@@ -34,6 +34,9 @@ std::vector<Named> namesFor(Session &session, const std::vector<std::string> &na
 /// The number of a unit that has this name and can be set; else a Failure.
 Place placeToSet(Session &session, const std::string &name);
 
+/// What follows a wrong name: the name that comes nearest to it; where that is empty, how to see all of them.
+std::string hintAt(const std::string &near);
+
 /// Whether a command of the contract sets it.
 bool canBeSet(const Place &place);
 

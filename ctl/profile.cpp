@@ -109,10 +109,8 @@ private:
         for (const Place &place : places) {
             known.push_back(device_settings::keyOf(place));
         }
-        const std::string near{veltrix_simulator::nearest(key, known)};
         return '"' + sdk_check::escaped(key) + "\" is no setting of a profile" +
-               (near.empty() ? "; \"pilotel-ctl list\" tells all of them"
-                             : "; did you mean \"" + near + "\"?");
+               hintAt(veltrix_simulator::nearest(key, known));
     }
 
     void readNumber(std::size_t place, const std::string &key, const TomlMember &member)
@@ -208,6 +206,14 @@ ExitStatus writeProfile(const std::string &file, const std::string &comment,
     writeWhole(file, QByteArray::fromStdString(text), wrongUse);
     std::cout << countedSettings(lines.size()) << " saved in " << sdk_check::escaped(file) << std::endl;
     return done;
+}
+
+std::string serialNumberText(const std::optional<double> &number)
+{
+    if (!number) {
+        return "without a number";
+    }
+    return device_settings::numberText(*number);
 }
 
 std::string countedSettings(std::size_t count)

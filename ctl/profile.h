@@ -9,6 +9,7 @@
 #include "session.h"
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -37,6 +38,9 @@ std::string profileText(const std::string &comment, const std::vector<ProfileLin
 /// Writes a profile, all of it or nothing; "-" is standard output. What cannot be written is a Failure.
 ExitStatus writeProfile(const std::string &file, const std::string &comment,
                         const std::vector<ProfileLine> &lines);
+
+/// The serial number of a unit in a comment; without one the text says so.
+std::string serialNumberText(const std::optional<double> &number);
 
 /// Such as "1 setting" or "77 settings".
 std::string countedSettings(std::size_t count);

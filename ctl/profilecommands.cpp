@@ -11,6 +11,7 @@
 #include "values.h"
 
 #include <iostream>
+#include <optional>
 
 using device_settings::Field;
 using device_settings::Place;
@@ -33,8 +34,9 @@ std::string commentOf(Session &session)
     for (const Unit unit : device_settings::units) {
         const auto place = device_settings::findSetting(session.settings(), keyOf(unit) + ".serialNumber");
         const Reading reading{session.read(unit, *place->setting)};
+        const bool isKnown{reading.fault.empty()};
         text += (unit == Unit::BlendUnit ? " " : " and ") + nameOf(unit) + ' ' +
-                (reading.fault.empty() ? device_settings::numberText(reading.values[0]) : "without a number");
+                serialNumberText(isKnown ? std::optional{reading.values[0]} : std::nullopt);
     }
     return text + '.';
 }

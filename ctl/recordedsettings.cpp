@@ -174,7 +174,7 @@ std::string RecordedSettings::serialNumberOf(Unit unit) const
     const auto place = std::find_if(places.begin(), places.end(),
                                     [&](const Place &each) { return device_settings::keyOf(each) == key; });
     const std::optional<double> number{numbers[static_cast<std::size_t>(place - places.begin())]};
-    return number ? device_settings::numberText(*number) : "without a number";
+    return serialNumberText(number);
 }
 
 std::string RecordedSettings::comment() const

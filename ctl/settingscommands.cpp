@@ -78,13 +78,10 @@ void writeTable(const std::vector<Row> &rows)
     }
     for (const Row &row : rows) {
         std::string line;
-        for (std::size_t column{0}; column < row.size(); ++column) {
-            line += row[column];
-            if (column + 1 < row.size()) {
-                line.append(widths[column] + 2 - row[column].size(), ' ');
-            }
+        for (std::size_t column{0}; column + 1 < row.size(); ++column) {
+            line += row[column] + std::string(widths[column] + 2 - row[column].size(), ' ');
         }
-        std::cout << line << '\n';
+        std::cout << line << row.back() << '\n';
     }
     std::cout << std::flush;
 }

@@ -70,6 +70,10 @@ ExitStatus talk(Session &session)
 /// Lines from a file; standard input has an empty name.
 ExitStatus runLines(Session &session, QFile &lines, const std::string &name)
 {
+    std::string begin{"line "};
+    if (!name.empty()) {
+        begin = sdk_check::escaped(name) + ':';
+    }
     ExitStatus status{done};
     for (int number{1}; status == done; ++number) {
         // Room for the line feed, and for the zero that Qt may put behind it.
@@ -78,8 +82,7 @@ ExitStatus runLines(Session &session, QFile &lines, const std::string &name)
             return status;
         }
         heedInterruption();
-        const std::string place{(name.empty() ? "line " : sdk_check::escaped(name) + ':') +
-                                std::to_string(number) + ": "};
+        const std::string place{begin + std::to_string(number) + ": "};
         // What follows in the buffer is no line of its own: it may be the rest of a comment.
         if (line.size() - (line.endsWith('\n') ? 1 : 0) > longestLine) {
             throw Failure{wrongUse, place + "the line has more than " + std::to_string(longestLine) +

@@ -110,12 +110,14 @@ bool showUnit(Session &session, Unit unit)
             continue;
         }
         const Reading reading{session.read(unit, *place->setting)};
-        if (!reading.fault.empty()) {
+        std::string text{"?"};
+        if (reading.fault.empty()) {
+            text = shown(*place, reading.values[place->field]);
+        } else {
             tell(reading.fault);
             allWell = false;
         }
-        std::cout << "  " << std::left << std::setw(width) << line.caption
-                  << (reading.fault.empty() ? shown(*place, reading.values[place->field]) : "?") << '\n';
+        std::cout << "  " << std::left << std::setw(width) << line.caption << text << '\n';
     }
     std::cout << std::flush;
     session.confirm();

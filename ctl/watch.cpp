@@ -88,7 +88,10 @@ std::string csvLine(const std::string &time, const Sample &sample)
 {
     std::string line{time};
     for (const std::optional<double> &millikelvin : sample) {
-        line += ',' + (millikelvin ? device_settings::numberText(*millikelvin) : "");
+        line += ',';
+        if (millikelvin) {
+            line += device_settings::numberText(*millikelvin);
+        }
     }
     return line + '\n';
 }
@@ -202,7 +205,10 @@ private:
     {
         if (csvAlone()) {
             std::cout << line << std::flush;
-        } else if (csv.isOpen() && (csv.write(QByteArray::fromStdString(line)) < 0 || !csv.flush())) {
+            return;
+        }
+        const QByteArray bytes{QByteArray::fromStdString(line)};
+        if (csv.isOpen() && (csv.write(bytes) < 0 || !csv.flush())) {
             throw Failure{refused, sdk_check::escaped(watch.csvFile) + ": " +
                                        sdk_check::escaped(csv.errorString().toStdString())};
         }
