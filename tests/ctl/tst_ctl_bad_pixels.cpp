@@ -197,6 +197,8 @@ void CtlBadPixelsTest::refusesWrongUse_data()
     row({"add", "640,0"}, "\"640,0\" is no pixel: COLUMN,ROW from 0,0 to 639,479 is allowed");
     row({"add", "0,480"}, "\"0,480\" is no pixel: COLUMN,ROW from 0,0 to 639,479 is allowed");
     row({"add", "1"}, "\"1\" is no pixel: COLUMN,ROW from 0,0 to 639,479 is allowed");
+    row({"add", "1;2"}, "\"1;2\" is no pixel: COLUMN,ROW from 0,0 to 639,479 is allowed");
+    row({"add", "1,x"}, "\"1,x\" is no pixel: COLUMN,ROW from 0,0 to 639,479 is allowed");
     row({"add", "1,2,3"}, "\"1,2,3\" is no pixel: COLUMN,ROW from 0,0 to 639,479 is allowed");
     row({"add", "99999999999,2"}, "\"99999999999,2\" is no pixel: COLUMN,ROW from 0,0 to 639,479 is allowed");
 #if defined(Q_OS_WIN)

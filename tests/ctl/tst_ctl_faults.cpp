@@ -26,6 +26,8 @@ private slots:
     void tellsWhatTheDeviceDid();
     void keepsTheOtherRegionsOn_data();
     void keepsTheOtherRegionsOn();
+    void tellsALibraryWithoutItsObjects_data();
+    void tellsALibraryWithoutItsObjects();
     void tellsAFileThatIsNotThere_data();
     void tellsAFileThatIsNotThere();
     void showsTheVersionOfEveryKindOfCamera_data();
@@ -101,6 +103,8 @@ void CtlFaultsTest::tellsWhatTheDeviceDid_data()
         {"get", "camera.gamma"}, 0, {});
     row("a profile of a unit without a number", fault("getSerialNumber", refuse),
         {"profile", "save", "new.toml"}, 0, {});
+    row("the first unit does not say its number", fault("getSerialNumber", "onCall = 1\n" + refuse), {"info"},
+        1, {"blendUnit.serialNumber answers 0; 1 or more is allowed"});
     row("nobody says who it is", fault("connect", refuse), {"info"}, 3,
         {"What is on the port SIM1 does not say who it is."});
     row("neither unit stores", fault("saveBlendUnitParameters", refuse), {"store", "expert"}, 1,
@@ -175,6 +179,31 @@ void CtlFaultsTest::keepsTheOtherRegionsOn()
                                  : lines({"pilotel-ctl: " + error, "pilotel-ctl: Nothing was changed."}));
     QCOMPARE(outcome.status, error.isEmpty() ? 0 : 1);
     QCOMPARE(folder.commands(), commands);
+}
+
+void CtlFaultsTest::tellsALibraryWithoutItsObjects_data()
+{
+    QTest::addColumn<QString>("operation");
+    QTest::addColumn<QString>("error");
+    QTest::newRow("root") << "get_instance"
+                          << "The device library has no root object.";
+    QTest::newRow("configuration") << "getConfiguration"
+                                   << "The device library has no configuration.";
+    QTest::newRow("manager") << "getDeviceManager"
+                             << "No device opens on the port SIM1. Is it the right one, and does no other "
+                                "program hold it?";
+}
+
+void CtlFaultsTest::tellsALibraryWithoutItsObjects()
+{
+    QFETCH(const QString, operation);
+    QFETCH(const QString, error);
+    CtlFolder folder;
+    folder.play(fault(operation, "effect = \"refuse\""));
+    const Outcome outcome{folder.run({"get", "camera.gamma"})};
+    QCOMPARE(outcome.errors, lines({"pilotel-ctl: " + error}));
+    QCOMPARE(outcome.status, 3);
+    QCOMPARE(folder.calls().filter("openDevice"), QStringList{});
 }
 
 void CtlFaultsTest::tellsAFileThatIsNotThere_data()

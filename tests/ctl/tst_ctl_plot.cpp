@@ -39,6 +39,8 @@ private slots:
     void drawsAPictureThatCanBeRead();
     void leavesAGapWhereAnAnswerIsMissing();
     void drawsASingleReadingAsADot();
+    void drawsALevelCurve();
+    void failsWhereItsOutputIsFull();
     void namesACurveWithoutAnAnswer();
     void drawsTheSameWhateverTheDesktopSays_data();
     void drawsTheSameWhateverTheDesktopSays();
@@ -221,6 +223,27 @@ void CtlPlotTest::drawsASingleReadingAsADot()
     const QRect dot{around(placesOf(picture(drawn.picture), colours[0], curvesOnly))};
     QVERIFY(dot.width() >= 4 && dot.width() <= 8 && dot.height() >= 4 && dot.height() <= 8);
     QVERIFY(std::abs(dot.center().x() - curvesOnly.center().x()) < 20);
+}
+
+void CtlPlotTest::drawsALevelCurve()
+{
+    const Drawn drawn{draw(R"({"times": [0, 1000], "curves": [{"name": "a", "values": [20, 20]}]})")};
+    QCOMPARE(drawn.status, 0);
+    const QRect curve{around(placesOf(picture(drawn.picture), colours[0], curvesOnly))};
+    QVERIFY(curve.width() > 900 && curve.height() <= 3);
+}
+
+void CtlPlotTest::failsWhereItsOutputIsFull()
+{
+    QProcess process;
+    process.setProcessEnvironment(programEnvironment());
+    process.setStandardOutputFile("/dev/full");
+    process.start(CURVES, QStringList{});
+    process.write(fourCurves());
+    process.closeWriteChannel();
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 1);
 }
 
 void CtlPlotTest::namesACurveWithoutAnAnswer()

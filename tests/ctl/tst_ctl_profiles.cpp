@@ -28,6 +28,7 @@ private slots:
     void onlyTellsInADryRun();
     void tellsDifferences();
     void goesBackWhenACommandIsRefused();
+    void leavesAloneWhatIsAsTheProfileHasIt();
     void goesBackWhenTheCableIsOutForAMoment();
     void saysWhatItCouldNotPutBackWithoutACable();
 #if defined(Q_OS_UNIX)
@@ -152,6 +153,18 @@ void CtlProfilesTest::goesBackWhenACommandIsRefused()
                           "setColorLut(0)", "setGamma(65536)", "setPolarity(false)",
                           R"(configureZoom({"factor":1,"method":0,"xCenter":320,"yCenter":240}))",
                           "setWarp(2, 1, 0, 0, 1, 0, 0)", "setVideoMode(2)"}));
+}
+
+void CtlProfilesTest::leavesAloneWhatIsAsTheProfileHasIt()
+{
+    CtlFolder folder;
+    folder.play("[[fault]]\noperation = \"setColorLut\"\nonce = true\neffect = \"refuse\"\n");
+    folder.write("wanted.toml", "camera.polarity = false\ncamera.gamma = 144179\ncamera.colorLut = 1\n");
+    const Outcome outcome{folder.run({"profile", "apply", "wanted.toml"})};
+    QCOMPARE(outcome.errors, lines({"pilotel-ctl: camera.colorLut = 1 (iron) is refused by the camera.",
+                                    "pilotel-ctl: Everything is as it was before."}));
+    QCOMPARE(folder.commands(),
+             (QStringList{"setGamma(144179)", "setColorLut(1)", "setColorLut(0)", "setGamma(65536)"}));
 }
 
 void CtlProfilesTest::goesBackWhenTheCableIsOutForAMoment()

@@ -24,12 +24,14 @@ private slots:
     void refusesALineThatIsTooLong_data();
     void refusesALineThatIsTooLong();
     void stopsAtTheFirstFailure();
+    void goesOnAfterTheHelp();
     void hasNoShellInTheShell();
     void talksAtATerminal();
     void remembersWhatWasTyped();
     void takesBackALineAtCtrlC_data();
     void takesBackALineAtCtrlC();
     void completesAtATerminal();
+    void asksForNothingWhereTheOutputIsNoTerminal();
     void opensTheDeviceAgain();
     void colorsOnATerminalOnly();
     void showsProgressOnATerminalOnly();
@@ -76,6 +78,8 @@ void CtlShellTest::understandsLines_data()
     row("get 'camera.gamma", "pilotel-ctl: c:1: The quote ' has no end.\n");
     row("get 'camera gamma'",
         "pilotel-ctl: c:1: There is no setting \"camera gamma\"; did you mean \"camera.gamma\"?\n");
+    row("get camera.gamm",
+        "pilotel-ctl: c:1: There is no setting \"camera.gamm\"; did you mean \"camera.gamma\"?\n");
     row("get camera#gamma",
         "pilotel-ctl: c:1: There is no setting \"camera#gamma\"; did you mean \"camera.gamma\"?\n");
     row("gte camera.gamma",
@@ -137,6 +141,17 @@ void CtlShellTest::stopsAtTheFirstFailure()
     QCOMPARE(outcome.status, 1);
 }
 
+void CtlShellTest::goesOnAfterTheHelp()
+{
+    CtlFolder folder;
+    folder.write("c", "get --help\nget camera.clhe\n");
+    const Outcome outcome{folder.run({"shell", "c"})};
+    QVERIFY2(outcome.output.startsWith("Reads settings by their names\n"), qPrintable(outcome.output));
+    QVERIFY2(outcome.output.endsWith("\ncamera.clhe = 2000\n"), qPrintable(outcome.output));
+    QCOMPARE(outcome.errors, QString{});
+    QCOMPARE(outcome.status, 0);
+}
+
 void CtlShellTest::hasNoShellInTheShell()
 {
     CtlFolder folder;
@@ -154,6 +169,8 @@ void CtlShellTest::talksAtATerminal()
     QVERIFY2(terminal.waitFor("pilotel> "), terminal.seen());
     terminal.type("get camera.clhe\n");
     QVERIFY2(terminal.waitFor("camera.clhe = 2000\r\npilotel> "), terminal.seen());
+    terminal.type("\n");
+    QVERIFY2(terminal.waitFor("pilotel> "), terminal.seen());
     terminal.type("get nothing\n");
     QVERIFY2(terminal.waitFor("There is no setting \"nothing\""), terminal.seen());
     QVERIFY2(terminal.waitFor("pilotel> "), terminal.seen());
@@ -220,8 +237,21 @@ void CtlShellTest::completesAtATerminal()
     terminal.type("se\tcamera.colorL\tir\t");
     terminal.type("\n");
     QVERIFY2(terminal.waitFor("camera.colorLut = 1  # iron\r\n"), terminal.seen());
+    // Of several words that are possible none is chosen.
+    terminal.type("p\torts\n");
+    QVERIFY2(terminal.waitFor("\r\nSIM1\r\n"), terminal.seen());
     terminal.type("exit\n");
     QCOMPARE(terminal.end(), 0);
+}
+
+void CtlShellTest::asksForNothingWhereTheOutputIsNoTerminal()
+{
+    CtlFolder folder;
+    Terminal terminal{"/bin/sh", {"-c", CTL " shell | cat"}, folder.environment};
+    terminal.type("get camera.clhe\nexit\n");
+    QVERIFY2(terminal.waitFor("camera.clhe = 2000\r\n"), terminal.seen());
+    QCOMPARE(terminal.end(), 0);
+    QVERIFY2(!terminal.seen().contains("pilotel> "), terminal.seen());
 }
 
 void CtlShellTest::opensTheDeviceAgain()
