@@ -80,7 +80,9 @@ std::vector<std::string> History::load()
     if (lines.size() != found || (!text.isEmpty() && !text.endsWith('\n'))) {
         rewrite(file, lines);
     }
-    last = lines.empty() ? "" : lines.back();
+    if (!lines.empty()) {
+        last = lines.back();
+    }
     return lines;
 }
 

@@ -58,7 +58,10 @@ void Session::close()
 // file.
 void Session::beginRecording()
 {
-    const std::string fault{recordingSettled ? "" : recording::begin(link.recording, "pilotel-ctl")};
+    if (recordingSettled) {
+        return;
+    }
+    const std::string fault{recording::begin(link.recording, "pilotel-ctl")};
     if (!fault.empty()) {
         throw Failure{wrongUse, fault + '.'};
     }

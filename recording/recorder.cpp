@@ -22,7 +22,10 @@ namespace
 /// What the operating system said last; empty when it said nothing.
 std::string reason()
 {
-    return errno == 0 ? "" : ": " + std::generic_category().message(errno);
+    if (errno == 0) {
+        return {};
+    }
+    return ": " + std::generic_category().message(errno);
 }
 
 } // namespace

@@ -82,8 +82,11 @@ void Player::tellMissing(const Operation &operation, const std::string &name, bo
              " different calls are missing; no further ones are told");
         return;
     }
-    tell(place + ": the recording has no " + (hadSome ? "further " : "") + oneLine(name, longestName) +
-         (isAtEnd ? " and ends here" : " here, but " + oneLine(*instead->second, longestName)) +
+    std::string next{" and ends here"};
+    if (!isAtEnd) {
+        next = " here, but " + oneLine(*instead->second, longestName);
+    }
+    tell(place + ": the recording has no " + (hadSome ? "further " : "") + oneLine(name, longestName) + next +
          (refuses(operation) ? "; the call is refused" : "; the call is simulated"));
 }
 

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string_view>
 
 namespace veltrix_simulator
 {
@@ -131,7 +132,7 @@ void appendResult(std::string &text, const RecordedCall &call)
         appendQuoted(text, std::get<std::string>(call.answer.front()));
         return;
     case Shape::Object:
-        text.append(std::get<bool>(call.answer.front()) ? call.name : "null");
+        text.append(std::get<bool>(call.answer.front()) ? std::string_view{call.name} : "null");
         return;
     default:
         appendPlain(text, result.kind, toNumber(call.answer.front()));
@@ -162,7 +163,10 @@ void appendOutputs(std::string &text, const RecordedCall &call)
 
 std::string addressedName(std::int32_t target)
 {
-    return isUnit(target) ? std::string{unitName(target)} : "unit " + std::to_string(target);
+    if (isUnit(target)) {
+        return std::string{unitName(target)};
+    }
+    return "unit " + std::to_string(target);
 }
 
 bool succeeded(const RecordedCall &call)

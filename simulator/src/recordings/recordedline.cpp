@@ -319,12 +319,17 @@ void readResult(const json &line, RecordedCall &call)
     if (!value.is_null() && !value.is_string()) {
         refuseLine(R"("result" is no text)");
     }
-    const std::string text{value.is_null() ? "" : value.get<std::string>()};
+    std::string text;
+    if (!value.is_null()) {
+        text = value.get<std::string>();
+    }
     if (result.shape == Shape::Text) {
         call.answer.emplace_back(text);
-    } else {
-        call.answer.emplace_back(!value.is_null());
-        call.name = value.is_null() ? "" : nameIn(text, " is no object of the contract");
+        return;
+    }
+    call.answer.emplace_back(!value.is_null());
+    if (!value.is_null()) {
+        call.name = nameIn(text, " is no object of the contract");
     }
 }
 
