@@ -38,6 +38,7 @@ private slots:
     void drawsWhatWasWatched();
     void drawsAPictureThatCanBeRead();
     void leavesAGapWhereAnAnswerIsMissing();
+    void leavesAGapWhereAUnitIsSilent();
     void drawsASingleReadingAsADot();
     void drawsALevelCurve();
     void failsWhereItsOutputIsFull();
@@ -213,6 +214,18 @@ void CtlPlotTest::leavesAGapWhereAnAnswerIsMissing()
     QVERIFY(around(placesOf(image, colours[1], middle)).width() > 490);
     // One name in the legend for both parts.
     QVERIFY(around(placesOf(image, colours[0], {0, 640, 1200, 35})).width() <= 26);
+}
+
+void CtlPlotTest::leavesAGapWhereAUnitIsSilent()
+{
+    CtlFolder folder;
+    folder.play("[[fault]]\noperation = \"getTemperatures\"\nonCall = 3\neffect = \"refuse\"\n");
+    const Outcome outcome{folder.run(plot + QStringList{"--count", "3"})};
+    QCOMPARE(outcome.status, 1);
+    const QImage image{picture(folder.read("curves.png"))};
+    const QRect middle{curvesOnly.center().x() - 100, curvesOnly.top(), 200, curvesOnly.height()};
+    QCOMPARE(placesOf(image, colours[0], middle), QVector<QPoint>{});
+    QVERIFY(around(placesOf(image, colours[2], middle)).width() > 190);
 }
 
 void CtlPlotTest::drawsASingleReadingAsADot()

@@ -37,6 +37,8 @@ private slots:
 #endif
     void refusesAWrongFile_data();
     void refusesAWrongFile();
+    void countsNothingWhereNothingIsPromised_data();
+    void countsNothingWhereNothingIsPromised();
     void refusesAFileThatWasCut();
     void keepsTheOldFileWhenAReadFails();
     void writesToStandardOutput();
@@ -284,6 +286,29 @@ void CtlProfilesTest::refusesAWrongFile()
         QCOMPARE(outcome.status, 2);
         QCOMPARE(folder.calls().filter("openDevice"), QStringList{});
     }
+}
+
+void CtlProfilesTest::countsNothingWhereNothingIsPromised_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    const auto row = [](const QByteArray &text) {
+        QTest::newRow(text) << text;
+    };
+    row("");
+    row("# Settings in this file: many.\n");
+    row("# Settings in this file: 7\n");
+    row("# Settings in this file: 0.\n");
+}
+
+void CtlProfilesTest::countsNothingWhereNothingIsPromised()
+{
+    QFETCH(const QByteArray, text);
+    CtlFolder folder;
+    folder.write("p.toml", text);
+    const Outcome outcome{folder.run({"profile", "apply", "p.toml"})};
+    QCOMPARE(outcome.output, lines({"0 settings set, 0 as they were"}));
+    QCOMPARE(outcome.errors, QString{});
+    QCOMPARE(outcome.status, 0);
 }
 
 void CtlProfilesTest::refusesAFileThatWasCut()

@@ -18,6 +18,7 @@ class CtlRecordingsTest : public QObject
 private slots:
     void showsEveryCall();
     void showsARealSession();
+    void timeGoesOnWhereAnotherSessionBegins();
     void controlCharactersAreEscaped();
     void makesTheProfileOfASession();
     void keepsWhatWasReadOrSetLast();
@@ -112,6 +113,20 @@ void CtlRecordingsTest::showsARealSession()
         shown.filter("(refused)").first().contains("  blendUnit      setWarp(0, 2, 0, 0, 1, 0, 0) -> false"));
 }
 
+void CtlRecordingsTest::timeGoesOnWhereAnotherSessionBegins()
+{
+    CtlFolder folder;
+    QByteArray second{header};
+    second.replace("09:26:53.000000Z", "09:26:52.500000Z");
+    folder.write("session.trace", header + call("getGamma", "", "70000", {}, 1, 250) + second +
+                                      call("getGamma", "", "80000", {}, 1, 750));
+    QCOMPARE(folder.run({"recording", "show", "session.trace"}).output,
+             lines({"Recorded with pilotel 1.0.0, from 2026-03-14T09:26:53.000Z on",
+                    "     0.250  camera         getGamma() -> 70000",
+                    "Recorded with pilotel 1.0.0, from 2026-03-14T09:26:52.500Z on",
+                    "     0.750  camera         getGamma() -> 80000"}));
+}
+
 void CtlRecordingsTest::controlCharactersAreEscaped()
 {
     CtlFolder folder;
@@ -119,10 +134,12 @@ void CtlRecordingsTest::controlCharactersAreEscaped()
         "session.trace",
         QByteArray{R"({"trace":1,"program":"a\u001b[31m","time":"2026-03-14T09:26:53Z"})"
                    "\n"} +
-            line(R"("interface":"log","target":0,"operation":"log","arguments":[2,"a\u001b[2J\n\r\u00e9"])"));
+            line(
+                R"("interface":"log","target":0,"operation":"log","arguments":[2,"a\u001b[2J\n\r\u00e9\u007f"])"));
     const Outcome outcome{folder.run({"recording", "show", "session.trace"})};
-    QCOMPARE(outcome.output, lines({"Recorded with a\\x1b[31m, from 2026-03-14T09:26:53.000Z on",
-                                    "     0.000  log            log(2, \"a\\x1b[2J\\n\\r\\xc3\\xa9\")"}));
+    QCOMPARE(outcome.output,
+             lines({"Recorded with a\\x1b[31m, from 2026-03-14T09:26:53.000Z on",
+                    "     0.000  log            log(2, \"a\\x1b[2J\\n\\r\\xc3\\xa9\\x7f\")"}));
 }
 
 void CtlRecordingsTest::makesTheProfileOfASession()
@@ -201,6 +218,8 @@ void CtlRecordingsTest::keepsNothingThatIsNotCertain_data()
     QTest::newRow("record that was not filled in") << call("getAhcGainLimitation", "null", "1");
     QTest::newRow("record that was not acknowledged")
         << call("getAhcGainLimitation", "", "2", R"("black":1,"white":2)");
+    QTest::newRow("record that is not there") << call("getZoomConfig", "", "true");
+    QTest::newRow("nothing that is set") << call("configureZoom", "null", "true", {}, 0);
     QTest::newRow("a NaN") << call("getZoomConfig", "", "true",
                                    R"("factor":"nan","xCenter":1,"yCenter":1,"method":0)");
     QTest::newRow("a region that does not exist") << call("getRoiX1", "7", "5");

@@ -9,8 +9,8 @@
 #include <QString>
 #include <QTest>
 
-#include <string>
 #include <string_view>
+#include <vector>
 
 class PrivateTextTest : public QObject
 {
@@ -20,6 +20,7 @@ private slots:
     void textReads_data();
     void textReads();
     void textsWithNothingPrivateAreTheSame();
+    void homeMayBeNoPath();
     void environmentNamesTheUser();
     void nullStaysNull();
 };
@@ -72,6 +73,7 @@ void PrivateTextTest::textReads_data()
     row(R"(\\server\jane\bpr.bin)", "bpr.bin");
     row("file:///home/jane/bpr.bin", "file:bpr.bin");
     row("/srv/a:/srv/b", "a:b");
+    row("/srv/a:", "a:");
     row("/home/jane/", "USER");
     row("/home/jane", "USER");
     row("/jane", "/USER");
@@ -100,6 +102,12 @@ void PrivateTextTest::textsWithNothingPrivateAreTheSame()
     QCOMPARE(texts.without(withNul).data(), withNul.data());
     QCOMPARE(texts.without(withNul).size(), withNul.size());
     QCOMPARE(texts.without(std::string_view{"jdoe\0jdoe", 9}), (std::string_view{"USER\0USER", 9}));
+}
+
+void PrivateTextTest::homeMayBeNoPath()
+{
+    recording::PrivateText texts{std::vector<std::string>{"jane"}, {}};
+    QCOMPARE(QString{texts.without("jane and /srv/jane/a")}, QString{"USER and a"});
 }
 
 void PrivateTextTest::environmentNamesTheUser()

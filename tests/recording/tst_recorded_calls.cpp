@@ -20,6 +20,11 @@
 #include <limits>
 #include <string>
 
+#if defined(Q_OS_UNIX)
+#include <csignal>
+#include <sys/resource.h>
+#endif
+
 using namespace veltrix_sdk;
 
 namespace
@@ -79,6 +84,9 @@ private slots:
     void withoutARecordingObjectsAreTheLibrarys();
     void afterTheEndObjectsGoOn();
     void headerNamesTheProgram();
+#if defined(Q_OS_UNIX)
+    void callsGoOnWhenTheDiskIsFull();
+#endif
 };
 
 void RecordedCallsTest::everyOperationIsThatOfTheTrace_data()
@@ -388,6 +396,29 @@ void RecordedCallsTest::headerNamesTheProgram()
     const Recorded recorded;
     QCOMPARE(headerOf(recorded.file()), QString{R"({"trace":1,"program":"a test )" PROJECT_VERSION R"("})"});
 }
+
+#if defined(Q_OS_UNIX)
+void RecordedCallsTest::callsGoOnWhenTheDiskIsFull()
+{
+    const Recorded recorded;
+    const RecordedCamera c;
+    const QStringList calls{callsIn(recorded.file())};
+    // No file may become longer than the recording is.
+    const auto before = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit limit{};
+    QCOMPARE(::getrlimit(RLIMIT_FSIZE, &limit), 0);
+    const rlimit full{static_cast<rlim_t>(QFile{recorded.file()}.size()), limit.rlim_max};
+    QCOMPARE(::setrlimit(RLIMIT_FSIZE, &full), 0);
+    const bool isSet{c.device->setGamma(70'000)};
+    const bool isSetAgain{c.device->setGamma(80'000)};
+    QCOMPARE(::setrlimit(RLIMIT_FSIZE, &limit), 0);
+    std::signal(SIGXFSZ, before);
+    QVERIFY(isSet);
+    QVERIFY(isSetAgain);
+    QCOMPARE(c.device->getGamma(), 80'000U);
+    QCOMPARE(callsIn(recorded.file()), calls);
+}
+#endif
 
 PILOTEL_TEST_CLASS(RecordedCallsTest)
 #include "tst_recorded_calls.moc"

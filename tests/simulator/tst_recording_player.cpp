@@ -153,6 +153,7 @@ private slots:
     void endOfTheRecordingIsTold();
     void whatAnswersNothingIsNeverRefused();
     void portsAreThoseOfTheRecording();
+    void portsAreNoMoreThan256();
     void refusedPortIsRefused();
     void withoutPortsThereIsTheUsualOne();
     void wordsComeWithTheConfiguration();
@@ -398,6 +399,21 @@ void RecordingPlayerTest::portsAreThoseOfTheRecording()
     QCOMPARE(names[0], "COM3");
     QCOMPARE(names[1], "COM7");
     QVERIFY(names[2] == nullptr);
+}
+
+void RecordingPlayerTest::portsAreNoMoreThan256()
+{
+    QByteArray openings;
+    for (int port{0}; port < 300; ++port) {
+        openings += opening("P" + QByteArray::number(port), "null");
+    }
+    const Session session{header + openings +
+                          line(R"("interface":"manager","target":0,)"
+                               R"("operation":"openDevice","arguments":[null],"result":null)")};
+    simulation().start(session.scenario());
+    const char *const *const names{simulation().portNames()};
+    QCOMPARE(names[255], "P255");
+    QVERIFY(names[256] == nullptr);
 }
 
 void RecordingPlayerTest::refusedPortIsRefused()

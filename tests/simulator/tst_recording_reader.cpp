@@ -113,6 +113,13 @@ void RecordingReaderTest::lineSays_data()
     says("NOT OPEN: getGamma() -> 0", cameraCall("getGamma", "", R"(,"result":0,"notOpen":true)"));
     says("getVideoMode() -> true {mode=2}",
          cameraCall("getVideoMode", "", R"(,"result":true,"outputs":{"mode":2})"));
+    says("getWarp(2) -> true {a11=1, a21=0, a12=0, a22=1, a13=-12, a23=0}",
+         cameraCall("getWarp", "2",
+                    R"(,"result":true,"outputs":{"a11":1,"a21":0,"a12":0,"a22":1,"a13":-12,"a23":0})"));
+    says(
+        R"(getCommunicationType() -> "")",
+        lineWith(
+            R"("interface":"configuration","target":0,"operation":"getCommunicationType","arguments":[],"result":null)"));
     says("getVideoMode(null) -> false", cameraCall("getVideoMode", "null", R"(,"result":false)"));
     says(
         "getWarp(1) -> true {a11=1, a21=0.5, a12=nan, a22=inf, a13=-inf, a23=-0}",
@@ -137,6 +144,8 @@ void RecordingReaderTest::lineSays_data()
         "NOT HELD: closeDevice(device)",
         lineWith(
             R"("interface":"manager","target":0,"operation":"closeDevice","notHeld":true,"arguments":["device"])"));
+    says("closeDevice(D2)",
+         lineWith(R"("interface":"manager","target":0,"operation":"closeDevice","arguments":["D2"])"));
     says(R"(log(2, "a \"b\"\n"))",
          lineWith(R"("interface":"log","target":0,"operation":"log","arguments":[2,"a \"b\"\n"])"));
     says(
@@ -197,7 +206,7 @@ void RecordingReaderTest::damageIsNamed_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("reason");
-    const auto says = [](const char *row, const QByteArray &bytes, const char *reason) {
+    const auto says = [](const char *row, const QByteArray &bytes, const QByteArray &reason) {
         QTest::newRow(row) << bytes << QString::fromUtf8(reason);
     };
     says("no JSON", "gamma\n", "the line is no object of JSON");
@@ -222,12 +231,25 @@ void RecordingReaderTest::damageIsNamed_data()
          "\n",
          R"("time" is no time such as 2026-03-14T09:26:53.589793Z)");
     says("time is a number", "{\"time\":1}\n", R"("time" is no text)");
+    says("no duration",
+         R"({"time":"2026-03-14T09:26:53Z","microseconds":null})"
+         "\n",
+         R"("microseconds" is no integer from 0 to 31536000000000)");
+    says("duration that is a text",
+         R"({"time":"2026-03-14T09:26:53Z","microseconds":"3"})"
+         "\n",
+         R"("microseconds" is no integer from 0 to 31536000000000)");
+    says("longer than a year",
+         R"({"time":"2026-03-14T09:26:53Z","microseconds":31536000000001})"
+         "\n",
+         R"("microseconds" is no integer from 0 to 31536000000000)");
     says("negative duration",
          R"({"time":"2026-03-14T09:26:53Z","microseconds":-1})"
          "\n",
          R"("microseconds" is no integer from 0 to 31536000000000)");
     says("no number of a unit", lineWith(R"("target":2147483648)"),
          R"("target" is no integer from -2147483648 to 2147483647)");
+    says("operation that is a number", lineWith(R"("target":1,"operation":1)"), R"("operation" is no text)");
     says("operation that does not exist", cameraCall("getGama", "", ""),
          R"(there is no operation "getGama")");
     says("other interface",
@@ -245,6 +267,12 @@ void RecordingReaderTest::damageIsNamed_data()
          R"("arguments" takes an integer from 0 to 4294967295)");
     says("no number", cameraCall("setGamma", "null", R"(,"result":true)"),
          R"("arguments" takes an integer from 0 to 4294967295)");
+    says("a number of a port",
+         lineWith(
+             R"("interface":"manager","target":0,"operation":"openDevice","arguments":[1],"result":null)"),
+         "an argument is no text");
+    says("a number for a record", cameraCall("configureZoom", "1", R"(,"result":true)"),
+         R"("arguments" has not the members of its record)");
     says("a fraction", cameraCall("setGamma", "1.5", R"(,"result":true)"),
          R"("arguments" takes an integer from 0 to 4294967295)");
     says("a record with too little", cameraCall("configureZoom", R"({"factor":1})", R"(,"result":true)"),
@@ -258,6 +286,8 @@ void RecordingReaderTest::damageIsNamed_data()
         lineWith(
             R"("interface":"manager","target":0,"operation":"closeDevice","arguments":["device"],"result":1)"),
         R"(the operation has no "result")");
+    says("null for a number", cameraCall("getGamma", "", R"(,"result":null)"),
+         R"("result" takes an integer from 0 to 4294967295)");
     says("another result", cameraCall("getGamma", "", R"(,"result":"many")"),
          R"("result" takes an integer from 0 to 4294967295)");
     says("NaN of an integer", cameraCall("getGamma", "", R"(,"result":"nan")"),
@@ -271,16 +301,54 @@ void RecordingReaderTest::damageIsNamed_data()
     says("an object of another world",
          lineWith(R"("interface":"manager","target":0,"operation":"closeDevice","arguments":["a\u001b\n"])"),
          R"("a??" is no object of the contract)");
+    says("an object without a name",
+         lineWith(R"("interface":"manager","target":0,"operation":"closeDevice","arguments":[""])"),
+         R"("" is no object of the contract)");
+    says("an object with a name too long",
+         lineWith(R"("interface":"manager","target":0,"operation":"closeDevice","arguments":[")" +
+                  QByteArray(65, 'a') + R"("])"),
+         "\"" + QByteArray(65, 'a') + R"(" is no object of the contract)");
+    for (const char *const edge : {"/", ":", "@", "[", "`", "{"}) {
+        says(qPrintable(QStringLiteral("an object called %1").arg(edge)),
+             lineWith(R"("interface":"manager","target":0,"operation":"closeDevice","arguments":[")" +
+                      QByteArray{edge} + R"("])"),
+             '"' + QByteArray{edge} + R"(" is no object of the contract)");
+    }
+    says("outputs that are no object", cameraCall("getVideoMode", "", R"(,"result":true,"outputs":[1])"),
+         R"("outputs" is no object)");
     says("an output of another world",
          cameraCall("getVideoMode", "", R"(,"result":true,"outputs":{"a b":1})"),
          R"("a b" is no name of an output)");
     says("outputs of nothing", cameraCall("getGamma", "", R"(,"result":1,"outputs":{})"),
+         R"(the operation has no "outputs")");
+    says("outputs of a region", cameraCall("getRoiX1", "0", R"(,"result":1,"outputs":{})"),
          R"(the operation has no "outputs")");
     says("two outputs of one",
          cameraCall("getVideoMode", "", R"(,"result":true,"outputs":{"mode":1,"more":2})"),
          R"("outputs" is not one number)");
     says("notOpen is false", cameraCall("getGamma", "", R"(,"result":0,"notOpen":false)"),
          R"("notOpen" is not true)");
+    says("notHeld is a number", cameraCall("getGamma", "", R"(,"result":0,"notHeld":1)"),
+         R"("notHeld" is not true)");
+    says(
+        "words with something beside them",
+        lineWith(
+            R"("interface":"root","target":0,"operation":"getConfiguration","arguments":[],"result":"configuration","outputs":{"words":{},"more":1})"),
+        R"("outputs" has more than "words")");
+    says("words that are none",
+         lineWith(R"("interface":"configuration","target":0,"operation":"write","arguments":[1])"),
+         "the words of the configuration are no object");
+    says("a writing of nothing",
+         lineWith(R"("interface":"configuration","target":0,"operation":"write","arguments":[])"),
+         R"("arguments" of "write" is no list of one object)");
+    says("a writing without a list",
+         lineWith(R"("interface":"configuration","target":0,"operation":"write","arguments":{})"),
+         R"("arguments" of "write" is no list of one object)");
+    says(
+        "a word that is null",
+        lineWith(
+            R"("interface":"configuration","target":0,"operation":"write","arguments":[{"gskMinimum":null}])"),
+        R"("gskMinimum" takes an integer from -2147483648 to 2147483647)");
     says("unknown word",
          lineWith(R"("interface":"configuration","target":0,"operation":"write","arguments":[{"gsk":4}])"),
          "the configuration has no such words");
