@@ -9,6 +9,7 @@
 #include <QString>
 #include <QTest>
 
+#include <string>
 #include <string_view>
 #include <vector>
 
