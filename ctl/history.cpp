@@ -21,13 +21,13 @@ namespace
 {
 
 constexpr std::size_t mostLines{1000};
-constexpr std::size_t longestLine{10'000};
+constexpr std::size_t longestKept{10'000};
 constexpr auto ownerOnly = QFile::ReadOwner | QFile::WriteOwner;
 
 /// A damaged file must not send anything to the terminal.
 bool isKept(const std::string &line)
 {
-    return !line.empty() && line.size() <= longestLine &&
+    return !line.empty() && line.size() <= longestKept &&
            std::none_of(line.begin(), line.end(),
                         [](char letter) { return (letter >= '\0' && letter < ' ') || letter == '\x7f'; });
 }

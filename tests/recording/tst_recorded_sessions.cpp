@@ -196,7 +196,7 @@ void RecordedSessionsTest::recordingInProgressIsKept()
     QVERIFY(shell.waitForFinished());
     QCOMPARE(shell.exitCode(), 0);
     const auto isIn = [&](const QString &name, const QString &operation) {
-        return callsIn(folder.path(name)).filter(operation).size() > 0;
+        return !callsIn(folder.path(name)).filter(operation).isEmpty();
     };
     // That of the shell was the first that had to give way, and goes on there.
     QVERIFY(isIn("session.recording.~1~", "getGamma"));
