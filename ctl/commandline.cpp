@@ -8,6 +8,7 @@
 #include "veltrix_sdk/numbers.h"
 #include "wronguse.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <iostream>
 #include <sstream>

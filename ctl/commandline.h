@@ -8,10 +8,14 @@
 #include "completion.h"
 #include "watch.h"
 
-#include <CLI/CLI.hpp>
 #include <functional>
 #include <string>
 #include <vector>
+
+namespace CLI
+{
+class App;
+} // namespace CLI
 
 namespace ctl
 {

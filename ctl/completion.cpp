@@ -10,6 +10,7 @@
 #include "values.h"
 #include "veltrix_sdk/numbers.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <iterator>
 #include <utility>
