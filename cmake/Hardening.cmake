@@ -22,7 +22,7 @@ endforeach()
 
 # Checked functions need the optimiser, and hide from the sanitizers what these would find.
 set(optimised $<CONFIG:Release,RelWithDebInfo,MinSizeRel>)
-if(NOT PILOTEL_SANITIZE AND NOT PILOTEL_FUZZ)
+if(NOT PILOTEL_SANITIZE)
     add_compile_options($<${optimised}:-U_FORTIFY_SOURCE> $<${optimised}:-D_FORTIFY_SOURCE=2>)
 endif()
 

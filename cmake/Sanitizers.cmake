@@ -1,17 +1,11 @@
 # SPDX-FileCopyrightText: 2026 The Pilotel Developers
 # SPDX-License-Identifier: MIT
-# AddressSanitizer and UndefinedBehaviorSanitizer, what fuzzing needs, and coverage, for the whole tree.
+# AddressSanitizer and UndefinedBehaviorSanitizer, and coverage, for the whole tree.
 if(PILOTEL_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     # Not among "undefined": casts of numbers that the type cannot hold, as a device may answer them.
     add_compile_options(-fsanitize=float-cast-overflow,float-divide-by-zero)
     add_link_options(-fsanitize=address,undefined)
-endif()
-
-if(PILOTEL_FUZZ)
-    # Counts what an input reaches; the fuzzer itself is linked into its programs alone.
-    add_compile_options(-fsanitize=fuzzer-no-link)
-    add_link_options(-fsanitize=fuzzer-no-link)
 endif()
 
 if(PILOTEL_COVERAGE)
