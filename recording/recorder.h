@@ -46,8 +46,7 @@ public:
     void close() { file.close(); }
     bool isOpen() const { return file.isOpen(); }
 
-    /// Hands a call on and writes its line. What it answers is passed on as it is; of a text the line has
-    /// what is not private, and the communication type as it is.
+    /// Hands a call on and writes its line. What it answers is passed on and written as it is.
     template <typename Function>
     std::invoke_result_t<const Function &> call(OperationId operation, Parameters parameters,
                                                 const Function &work)
@@ -59,14 +58,9 @@ public:
             finish(begun, operation, parameters, ResultPlace{});
         } else {
             Result result{work()};
-            if constexpr (std::is_same_v<Result, const char *>) {
-                // Whoever plays the recording compares the communication type, and a user may be called so.
-                const char *told{operation == OperationId::getCommunicationType ? result
-                                                                                : texts.without(result)};
-                finish(begun, operation, parameters, ResultPlace{&told});
-            } else {
-                finish(begun, operation, parameters, ResultPlace{&result});
-            }
+            // The only text among them is the communication type: whoever plays the recording compares it,
+            // and a user may be called so.
+            finish(begun, operation, parameters, ResultPlace{&result});
             return result;
         }
     }

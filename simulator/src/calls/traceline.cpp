@@ -66,7 +66,8 @@ public:
 
     void output(const Words &words)
     {
-        line.append(hasOutputs ? "," : R"(,"outputs":{)").append(R"("words":)");
+        // The operation that answers them fills in nothing else.
+        line.append(R"(,"outputs":{"words":)");
         hasOutputs = true;
         append(words, nullptr);
     }

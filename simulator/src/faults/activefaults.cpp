@@ -40,7 +40,10 @@ std::string streamName(const FaultRule &rule)
 
 [[noreturn]] void refuse(const FaultRule &rule, const std::string &reason)
 {
-    throw std::invalid_argument{rule.origin.empty() ? reason : rule.origin + ": " + reason};
+    if (rule.origin.empty()) {
+        throw std::invalid_argument{reason};
+    }
+    throw std::invalid_argument{rule.origin + ": " + reason};
 }
 
 void demandApplicable(const FaultRule &rule)

@@ -81,7 +81,7 @@ std::optional<std::chrono::microseconds> parseTime(std::string_view text)
     const std::optional<int> second{takeDigits(text, 2, hasFraction ? '.' : 'Z')};
     const bool isWhole{year && month && day && hour && minute && second};
     if (!isWhole || *month < 1 || *month > 12 || *day < 1 || *day > 31 || *hour > 23 || *minute > 59 ||
-        *second > 60 || (hasFraction ? text.empty() : !text.empty())) {
+        *second > 60 || (!hasFraction && !text.empty())) {
         return std::nullopt;
     }
     const std::optional<std::int64_t> fraction{hasFraction ? microsecondsOf(text) : 0};

@@ -21,7 +21,10 @@ std::string nameOf(veltrix_sdk::severity_level severity)
 {
     constexpr std::array<const char *, 6> names{"trace", "debug", "info", "warning", "error", "fatal"};
     const auto level = static_cast<std::size_t>(severity);
-    return level < names.size() ? names[level] : "severity " + std::to_string(static_cast<int>(severity));
+    if (level < names.size()) {
+        return names[level];
+    }
+    return "severity " + std::to_string(static_cast<int>(severity));
 }
 
 /// The record as a line; the lines of its text after the first are indented, so that every line that

@@ -62,7 +62,8 @@ bool flushToDisk(const std::filesystem::path &path)
         return false;
     }
     const bool flushed{flush(file) == 0};
-    return closeAgain(file) == 0 && flushed;
+    closeAgain(file);
+    return flushed;
 }
 
 bool write(const std::filesystem::path &path, std::string_view content)

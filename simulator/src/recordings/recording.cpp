@@ -83,7 +83,8 @@ std::variant<Recording, std::string> loadRecording(const std::string &fileName)
         return fileName +
                ": there is no such recording; a scenario names it as it is seen from the scenario's folder";
     }
-    if (std::filesystem::file_size(path, error) > largestRecording || error) {
+    // Of one that has just been taken away it is the largest number.
+    if (std::filesystem::file_size(path, error) > largestRecording) {
         return fileName + ":1: the recording has more than " +
                std::to_string(largestRecording / bytesOfMebibyte) + " MiB; play a part of it";
     }

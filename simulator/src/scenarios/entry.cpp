@@ -160,14 +160,19 @@ std::vector<Entry> Entry::elements() const
     return elements;
 }
 
-std::vector<Entry> Entry::entries() const
+const TomlNode::Table &Entry::table() const
 {
-    const auto *const table = node->as<TomlNode::Table>();
-    if (table == nullptr) {
+    const auto *const members = node->as<TomlNode::Table>();
+    if (members == nullptr) {
         fail("takes a table");
     }
+    return *members;
+}
+
+std::vector<Entry> Entry::entries() const
+{
     std::vector<Entry> entries;
-    for (const TomlMember &member : *table) {
+    for (const TomlMember &member : table()) {
         entries.push_back(under(member));
     }
     return entries;
@@ -175,12 +180,11 @@ std::vector<Entry> Entry::entries() const
 
 std::optional<Entry> Entry::find(std::string_view key) const
 {
-    const auto *const table = node->as<TomlNode::Table>();
-    if (table == nullptr) {
-        fail("takes a table");
+    const TomlMember *const found = findMember(table(), key);
+    if (found == nullptr) {
+        return std::nullopt;
     }
-    const TomlMember *const found = findMember(*table, key);
-    return found == nullptr ? std::nullopt : std::optional{under(*found)};
+    return under(*found);
 }
 
 void Entry::refuseUnknown(const std::vector<std::string> &known) const
@@ -195,7 +199,7 @@ void Entry::refuseUnknown(const std::vector<std::string> &known) const
 
 void Entry::failUnknown(std::string_view key, const std::vector<std::string> &known) const
 {
-    const TomlMember &member = *findMember(*node->as<TomlNode::Table>(), key);
+    const TomlMember &member = *findMember(table(), key);
     under(member).failAt(member.keyPosition, "is unknown here" + suggestion(key, known));
 }
 
@@ -245,7 +249,11 @@ std::string Entry::origin() const
 
 Entry Entry::under(const TomlMember &member) const
 {
-    return {member.node, path.empty() ? member.key : path + '.' + member.key, *file};
+    std::string whole{member.key};
+    if (!path.empty()) {
+        whole.insert(0, path + '.');
+    }
+    return {member.node, std::move(whole), *file};
 }
 
 } // namespace veltrix_simulator

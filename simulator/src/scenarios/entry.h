@@ -76,6 +76,7 @@ public:
     std::string origin() const;
 
 private:
+    const TomlNode::Table &table() const;
     [[noreturn]] void failAt(const TomlPosition &position, std::string text) const;
     Entry under(const TomlMember &member) const;
 

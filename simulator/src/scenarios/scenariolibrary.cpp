@@ -45,7 +45,7 @@ std::optional<std::string> bytesOf(const std::string &name)
     std::ifstream file{path, std::ios::binary};
     std::string bytes(largestScenario + 1, '\0');
     file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    if (file.bad() || !file.is_open() || (file.gcount() == 0 && !file.eof())) {
+    if (file.bad() || (file.gcount() == 0 && !file.eof())) {
         return std::nullopt;
     }
     bytes.resize(static_cast<std::size_t>(file.gcount()));

@@ -344,8 +344,11 @@ std::optional<ScenarioError> sizeError(std::string_view text, const std::string 
 
 std::string ScenarioError::message() const
 {
-    return file + ':' + std::to_string(line) + ':' + std::to_string(column) + ": " +
-           (key.empty() ? "" : inQuotes(key) + ' ') + text;
+    std::string message{file + ':' + std::to_string(line) + ':' + std::to_string(column) + ": "};
+    if (!key.empty()) {
+        message += inQuotes(key) + ' ';
+    }
+    return message + text;
 }
 
 std::variant<Scenario, ScenarioError> readScenario(std::string_view text, const std::string &fileName)

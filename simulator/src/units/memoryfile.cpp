@@ -137,7 +137,7 @@ MemoryImage parseFile(const json &file)
 /// Where a byte is, counted from 1.
 std::string describePlace(std::string_view bytes, std::size_t byte)
 {
-    const std::string_view before = bytes.substr(0, byte > 0 ? byte - 1 : 0);
+    const std::string_view before = bytes.substr(0, byte - 1);
     return "line " + std::to_string(1 + std::count(before.begin(), before.end(), '\n')) + ", byte " +
            std::to_string(byte);
 }
@@ -146,9 +146,11 @@ std::string describePlace(std::string_view bytes, std::size_t byte)
 
 bool canBeKept(const UnitField &row, double number)
 {
+    if (!convert(toValue(number, row.kind), row.kind)) {
+        return false;
+    }
     const bool isConfigured{row.allowed.minimumWord != nullptr};
-    return convert(toValue(number, row.kind), row.kind).has_value() &&
-           (isConfigured || row.allowed.accepts(number, {}));
+    return isConfigured || row.allowed.accepts(number, {});
 }
 
 std::string formatMemory(const MemoryImage &image)

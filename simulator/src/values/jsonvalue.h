@@ -24,8 +24,10 @@ inline std::optional<Value> valueOf(const nlohmann::json &value)
     }
     constexpr auto largest = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
     const bool tooLarge{value.is_number_unsigned() && value.get<std::uint64_t>() > largest};
-    return value.is_number_integer() && !tooLarge ? std::optional<Value>{value.get<std::int64_t>()}
-                                                  : std::nullopt;
+    if (!value.is_number_integer() || tooLarge) {
+        return std::nullopt;
+    }
+    return value.get<std::int64_t>();
 }
 
 } // namespace veltrix_simulator
