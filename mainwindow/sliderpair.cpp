@@ -251,8 +251,8 @@ void showInSpinBox(const Ui_MainWindow &ui, const SliderPair &pair, double value
 {
     if (const auto *const whole = std::get_if<WholeSpinBox>(&pair.spinBox)) {
         (ui.**whole)->setValue(roundToInt(value));
-    } else if (const auto *const fractional = std::get_if<FractionalSpinBox>(&pair.spinBox)) {
-        showNumber(*(ui.**fractional), value);
+    } else {
+        showNumber(*(ui.*std::get<FractionalSpinBox>(pair.spinBox)), value);
     }
 }
 
@@ -267,8 +267,8 @@ void followSlider(const Ui_MainWindow &ui, const SliderPair &pair, int position)
     const double value{numberAt(pair, position)};
     if (const auto *const whole = std::get_if<WholeSpinBox>(&pair.spinBox)) {
         setIfDifferent(*(ui.**whole), roundToInt(value));
-    } else if (const auto *const fractional = std::get_if<FractionalSpinBox>(&pair.spinBox)) {
-        setIfDifferent(*(ui.**fractional), value);
+    } else {
+        setIfDifferent(*(ui.*std::get<FractionalSpinBox>(pair.spinBox)), value);
     }
 }
 

@@ -82,7 +82,9 @@ bool StaleInput::takes(QEvent &event)
         return dropping;
     case QEvent::TouchBegin:
         touchDropped = dropping;
-        event.setAccepted(dropping || event.isAccepted());
+        if (dropping) {
+            event.accept();
+        }
         return touchDropped;
     case QEvent::TouchUpdate:
     case QEvent::TouchEnd:

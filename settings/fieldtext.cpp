@@ -30,6 +30,11 @@ struct SwitchWord
 constexpr std::array switchWords{SwitchWord{"true", 1}, SwitchWord{"false", 0}, SwitchWord{"on", 1},
                                  SwitchWord{"off", 0},  SwitchWord{"yes", 1},   SwitchWord{"no", 0}};
 
+/// In the order of the kinds.
+constexpr std::array<const char *, veltrix_sdk::kindCount> kindNames{
+    "bool",   "8-bit unsigned", "16-bit unsigned", "32-bit unsigned", "32-bit signed", "float",
+    "double", "text",           "object"};
+
 double counted(const Scale &scale, double number)
 {
     return number / scale.perUnit - scale.zero;
@@ -141,27 +146,7 @@ std::string rangeText(const Field &field)
 
 std::string kindName(Kind kind)
 {
-    switch (kind) {
-    case Kind::Boolean:
-        return "bool";
-    case Kind::Unsigned8:
-        return "8-bit unsigned";
-    case Kind::Unsigned16:
-        return "16-bit unsigned";
-    case Kind::Unsigned32:
-        return "32-bit unsigned";
-    case Kind::Signed32:
-        return "32-bit signed";
-    case Kind::Float:
-        return "float";
-    case Kind::Double:
-        return "double";
-    case Kind::Text:
-        return "text";
-    case Kind::Object:
-        break;
-    }
-    return "object";
+    return kindNames[static_cast<std::size_t>(kind)];
 }
 
 } // namespace device_settings

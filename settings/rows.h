@@ -42,8 +42,6 @@ Number as(double number)
 {
     if constexpr (std::is_same_v<Number, bool>) {
         return number != 0.0;
-    } else if constexpr (std::is_same_v<Number, double>) {
-        return number;
     } else {
         using Limits = std::numeric_limits<Number>;
         if (number >= static_cast<double>(Limits::max())) {
