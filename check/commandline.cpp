@@ -32,7 +32,10 @@ std::string whyNoRounds(const std::string &text)
     const char *const end{text.data() + text.size()};
     const auto [stop, error] = std::from_chars(text.data(), end, rounds);
     const bool isRounds{error == std::errc{} && stop == end && rounds >= 1 && rounds <= mostRounds};
-    return isRounds ? "" : '"' + text + "\" is no number from 1 to " + std::to_string(mostRounds);
+    if (isRounds) {
+        return {};
+    }
+    return '"' + text + "\" is no number from 1 to " + std::to_string(mostRounds);
 }
 
 } // namespace

@@ -45,7 +45,8 @@ Output outputUntilNow()
     }
 #if !defined(_WIN32)
     pollfd output{STDOUT_FILENO, POLLOUT, 0};
-    if (::poll(&output, 1, 0) == 1 && (output.revents & POLLERR) != 0) {
+    ::poll(&output, 1, 0);
+    if ((output.revents & POLLERR) != 0) {
         return Output::WithoutReader;
     }
 #endif

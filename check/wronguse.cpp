@@ -8,7 +8,6 @@
 
 #include <CLI/CLI.hpp>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace sdk_check
@@ -51,7 +50,11 @@ std::string withNearest(const std::string &text, const std::string &wrong,
                         const std::vector<std::string> &known)
 {
     const std::string near{veltrix_simulator::nearest(wrong, known)};
-    return text + " \"" + escaped(wrong) + '"' + (near.empty() ? "" : "; did you mean \"" + near + "\"?");
+    std::string said{text + " \"" + escaped(wrong) + '"'};
+    if (!near.empty()) {
+        said += "; did you mean \"" + near + "\"?";
+    }
+    return said;
 }
 
 /// What is wrong with a word that nothing takes.
@@ -62,8 +65,10 @@ std::string unknownWord(const CLI::App &command, const std::string &word)
         return withNearest("There is no option", name, optionsOf(command));
     }
     const std::vector<std::string> commands{commandsOf(command)};
-    return commands.empty() ? '"' + escaped(word) + "\" is too much."
-                            : withNearest("There is no command", word, commands);
+    if (commands.empty()) {
+        return '"' + escaped(word) + "\" is too much.";
+    }
+    return withNearest("There is no command", word, commands);
 }
 
 /// What is wrong with an option that has no value, or more than it takes; the parser's own line begins with
@@ -71,9 +76,7 @@ std::string unknownWord(const CLI::App &command, const std::string &word)
 std::string wrongCount(const std::string &line)
 {
     const std::string option{line.substr(0, line.find(':'))};
-    const std::string_view missing{" missing"};
-    const bool lacksValue{line.size() >= missing.size() &&
-                          line.compare(line.size() - missing.size(), missing.size(), missing) == 0};
+    const bool lacksValue{line.find(" missing") != std::string::npos};
     return option + (lacksValue ? " needs a value" : " is there more than once");
 }
 
@@ -82,10 +85,12 @@ std::string reasonOf(const CLI::App &parser, const CLI::ParseError &error)
     const CLI::App &command = innermost(parser);
     const std::vector<std::string> unknown{parser.remaining(true)};
     const bool lacksCommand{command.get_require_subcommand_min() > 0};
-    if (!unknown.empty() && (lacksCommand || dynamic_cast<const CLI::ExtrasError *>(&error) != nullptr)) {
+    const bool hasTooMuch{dynamic_cast<const CLI::ExtrasError *>(&error) != nullptr};
+    const bool hasWrongCount{dynamic_cast<const CLI::ArgumentMismatch *>(&error) != nullptr};
+    if (!unknown.empty() && (lacksCommand || hasTooMuch)) {
         return unknownWord(command, unknown.front());
     }
-    if (dynamic_cast<const CLI::ArgumentMismatch *>(&error) != nullptr) {
+    if (hasWrongCount) {
         return wrongCount(error.what());
     }
     return escaped(error.what());

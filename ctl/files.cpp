@@ -78,7 +78,12 @@ void writeWhole(const std::string &file, const QByteArray &bytes, ExitStatus whe
         return;
     }
     QSaveFile target{name};
-    if (!target.open(QIODevice::WriteOnly) || target.write(bytes) != bytes.size() || !target.commit()) {
+    if (!target.open(QIODevice::WriteOnly)) {
+        throw notWritten(whenItFails, file, target);
+    }
+    target.write(bytes);
+    // It fails also when writing did.
+    if (!target.commit()) {
         throw notWritten(whenItFails, file, target);
     }
 }

@@ -3,6 +3,8 @@
 // What was typed in the shell, kept from one run to the next.
 #include "history.h"
 
+#include "output/wording.h"
+
 #include <QByteArray>
 #include <QDir>
 #include <QFile>
@@ -28,8 +30,7 @@ constexpr auto ownerOnly = QFile::ReadOwner | QFile::WriteOwner;
 bool isKept(const std::string &line)
 {
     return !line.empty() && line.size() <= longestKept &&
-           std::none_of(line.begin(), line.end(),
-                        [](char letter) { return (letter >= '\0' && letter < ' ') || letter == '\x7f'; });
+           std::none_of(line.begin(), line.end(), veltrix_simulator::isControl);
 }
 
 void rewrite(const QString &name, const std::vector<std::string> &lines)

@@ -121,7 +121,10 @@ private:
         }
         const std::optional<double> number{numberIn(member.node)};
         if (!number || !mayBeSent(field, *number)) {
-            const std::string shown{number ? device_settings::numberText(*number) : "This"};
+            std::string shown{"This"};
+            if (number) {
+                shown = device_settings::numberText(*number);
+            }
             fail(member.node.position, shown + " is nothing for " + key + ": " +
                                            device_settings::numberRangeText(field) + wholeNumbers(field));
         }

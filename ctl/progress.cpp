@@ -18,7 +18,7 @@ void Progress::step()
         return;
     }
     constexpr std::size_t width{30};
-    const std::size_t filled{total == 0 ? width : steps * width / total};
+    const std::size_t filled{steps * width / total};
     const std::string line{text + " [" + std::string(filled, '#') + std::string(width - filled, '.') + "] " +
                            std::to_string(steps) + " of " + std::to_string(total)};
     std::cerr << '\r' << line << std::flush;

@@ -19,6 +19,7 @@ public:
     Progress(const Progress &) = delete;
     Progress &operator=(const Progress &) = delete;
 
+    /// At most so often as the total says.
     void step();
     /// Makes room for other lines.
     void clear();

@@ -6,6 +6,7 @@
 #include "messages.h"
 #include "session.h"
 #include "values.h"
+#include "values/value.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -38,18 +39,6 @@ std::optional<Values> numbersOf(const std::vector<RecordedArgument> &arguments)
         numbers.push_back(*number);
     }
     return numbers;
-}
-
-double numberIn(const veltrix_simulator::Value &value)
-{
-    if (const auto *const flag = std::get_if<bool>(&value)) {
-        return *flag ? 1.0 : 0.0;
-    }
-    if (const auto *const integer = std::get_if<std::int64_t>(&value)) {
-        return static_cast<double>(*integer);
-    }
-    const auto *const number = std::get_if<double>(&value);
-    return number != nullptr ? *number : std::numeric_limits<double>::quiet_NaN();
 }
 
 /// What a setting is asked for, as its detail has it.
@@ -116,7 +105,7 @@ void RecordedSettings::noteRead(const RecordedCall &call, Unit unit, const Setti
     }
     Values answered;
     for (const veltrix_simulator::Value &value : readingsOf(*call.operation, call.answer)) {
-        answered.push_back(numberIn(value));
+        answered.push_back(veltrix_simulator::toNumber(value));
     }
     if (answered.size() == setting.fields.size()) {
         keep(unit, setting, answered);

@@ -207,8 +207,11 @@ private:
             std::cout << line << std::flush;
             return;
         }
-        const QByteArray bytes{QByteArray::fromStdString(line)};
-        if (csv.isOpen() && (csv.write(bytes) < 0 || !csv.flush())) {
+        if (!csv.isOpen()) {
+            return;
+        }
+        csv.write(QByteArray::fromStdString(line));
+        if (!csv.flush()) {
             throw Failure{refused, sdk_check::escaped(watch.csvFile) + ": " +
                                        sdk_check::escaped(csv.errorString().toStdString())};
         }

@@ -42,9 +42,8 @@ int main(int argc, char *argv[])
     const QApplication application{argc, argv};
     QFile in;
     QFile out;
-    if (!in.open(stdin, QIODevice::ReadOnly) || !out.open(stdout, QIODevice::WriteOnly)) {
-        return 1;
-    }
+    in.open(stdin, QIODevice::ReadOnly);
+    out.open(stdout, QIODevice::WriteOnly);
     const std::optional<Readings> readings{parseReadings(in.readAll())};
     if (!readings) {
         std::cerr
