@@ -121,12 +121,13 @@ TraceFile::Opening keep(const std::filesystem::path &path)
 }
 
 /// Begins a file where nothing is, and goes on in one that is empty or no plain file. Another program may
-/// have begun one there by now: errno is EEXIST then.
+/// have begun one there by now: errno is EEXIST then. One that goes on in a file which another has just begun
+/// writes behind its lines, and so does that one.
 int openWithoutReplacing(const std::filesystem::path &path)
 {
     std::error_code error;
     const bool isNew{!std::filesystem::exists(std::filesystem::symlink_status(path, error))};
-    return openToWrite(path, isNew ? O_EXCL : O_APPEND);
+    return openToWrite(path, O_APPEND | (isNew ? O_EXCL : 0));
 }
 
 } // namespace
