@@ -34,6 +34,12 @@ private slots:
     void understandsTexts();
     void tellsRanges_data();
     void tellsRanges();
+    void aScaleMayHaveNoUnit();
+    void aScaledFractionIsSentWhole_data();
+    void aScaledFractionIsSentWhole();
+    void anEmptyRangeAllowsNothing();
+    void everyKindHasAName_data();
+    void everyKindHasAName();
     void theSimulatorsTableHasKindsAndRanges();
 };
 
@@ -210,6 +216,64 @@ void SettingsWordsTest::tellsRanges()
     QFETCH(const QString, key);
     QFETCH(const QString, range);
     QCOMPARE(QString::fromStdString(rangeText(fieldOf(key))), range);
+}
+
+void SettingsWordsTest::aScaleMayHaveNoUnit()
+{
+    Field field{{}, Kind::Unsigned32, between(0, 50), "", ""};
+    field.scale = {10, 0, "", 1, true};
+    QCOMPARE(inWords(field, 25), std::string{"2.5"});
+    QCOMPARE(rangeText(field), std::string{"0 to 5, or 0 to 50"});
+    field.scale.unit = "m";
+    QCOMPARE(inWords(field, 25), std::string{"2.5 m"});
+    QCOMPARE(rangeText(field), std::string{"0 to 5 m, or 0 to 50"});
+}
+
+void SettingsWordsTest::aScaledFractionIsSentWhole_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<double>("number");
+    QTest::newRow("of a whole kind") << static_cast<int>(Kind::Unsigned32) << 25.0;
+    QTest::newRow("not of a kind with fractions") << static_cast<int>(Kind::Float) << 25.5;
+}
+
+void SettingsWordsTest::aScaledFractionIsSentWhole()
+{
+    QFETCH(const int, kind);
+    QFETCH(const double, number);
+    Field field{{}, static_cast<Kind>(kind), between(20, 50), "", ""};
+    field.scale = {10, 0, "", 2, true};
+    QCOMPARE(numberOf(field, "2.55"), std::optional{number});
+}
+
+void SettingsWordsTest::anEmptyRangeAllowsNothing()
+{
+    // Such as that of an expert number whose limits the camera has mixed up.
+    const Field field{{}, Kind::Unsigned32, between(5, 3), "", ""};
+    QCOMPARE(numberRangeText(field), std::string{"nothing is allowed from 5 to 3"});
+}
+
+void SettingsWordsTest::everyKindHasAName_data()
+{
+    QTest::addColumn<int>("kind");
+    const auto row = [](const char *name, Kind kind) {
+        QTest::newRow(name) << static_cast<int>(kind);
+    };
+    row("bool", Kind::Boolean);
+    row("8-bit unsigned", Kind::Unsigned8);
+    row("16-bit unsigned", Kind::Unsigned16);
+    row("32-bit unsigned", Kind::Unsigned32);
+    row("32-bit signed", Kind::Signed32);
+    row("float", Kind::Float);
+    row("double", Kind::Double);
+    row("text", Kind::Text);
+    row("object", Kind::Object);
+}
+
+void SettingsWordsTest::everyKindHasAName()
+{
+    QFETCH(const int, kind);
+    QCOMPARE(kindName(static_cast<Kind>(kind)), std::string{QTest::currentDataTag()});
 }
 
 void SettingsWordsTest::theSimulatorsTableHasKindsAndRanges()

@@ -6,6 +6,7 @@
 #include "scenariocamera.h"
 #include "scenarios/scenariolibrary.h"
 #include "testclass.h"
+#include "unreadablefile.h"
 #include "veltrix_sdk/records.h"
 
 #include <QByteArray>
@@ -19,9 +20,11 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <variant>
+#include <vector>
 
 using namespace veltrix_simulator;
 
@@ -145,6 +148,7 @@ private slots:
     void whatWasSetIsSet();
     void whatWasReadIsKnown_data();
     void whatWasReadIsKnown();
+    void whatNoUnitHasIsAnsweredAndTeachesNothing();
     void whatWasRefusedTeachesNothing();
     void missingCallIsRefused();
     void missingCallIsSimulated();
@@ -162,6 +166,9 @@ private slots:
     void wrongRecordingIsNamed_data();
     void wrongRecordingIsNamed();
     void fileThatIsNotThereIsNamed();
+#if defined(Q_OS_LINUX)
+    void fileThatCannotBeReadIsNamed();
+#endif
     void fileThatIsTooLargeIsNamed();
     void noMoreThanAThousandCallsAreTold();
     void recordingBeginsAnewWithThePower();
@@ -300,6 +307,28 @@ void RecordingPlayerTest::whatWasReadIsKnown()
     c.configuration.getDefaultGsk();
     c.configuration.getCommunicationType();
     QCOMPARE(held(c, key.constData()), value);
+}
+
+void RecordingPlayerTest::whatNoUnitHasIsAnsweredAndTeachesNothing()
+{
+    // Another camera has more regions and streams.
+    const Session session{header + opened + call("getRoiX1", "4", "77") +
+                          call("getWarp", "3", "true", R"("a11":5,"a21":0,"a12":0,"a22":1,"a13":0,"a23":0)")};
+    const ScenarioCamera c{session.scenario()};
+    const std::vector<std::string> keys{State::keys()};
+    std::vector<Value> before;
+    for (const std::string &key : keys) {
+        before.push_back(c.simulation.state.get(key));
+    }
+    QCOMPARE(c.device.getRoiX1(4), 77U);
+    veltrix_sdk::Warp warp{};
+    warp.stream = 3;
+    QVERIFY(c.device.getWarp(&warp));
+    QCOMPARE(warp.a11, 5.0F);
+    for (std::size_t place{0}; place < keys.size(); ++place) {
+        QVERIFY2(c.simulation.state.get(keys[place]) == before[place], keys[place].c_str());
+    }
+    QCOMPARE(session.told(), QStringList{});
 }
 
 void RecordingPlayerTest::whatWasRefusedTeachesNothing()
@@ -508,6 +537,18 @@ void RecordingPlayerTest::fileThatIsNotThereIsNamed()
              QStringLiteral("session.trace: there is no such recording; a scenario names it as "
                             "it is seen from the scenario's folder"));
 }
+
+#if defined(Q_OS_LINUX)
+void RecordingPlayerTest::fileThatCannotBeReadIsNamed()
+{
+    const Session session{header};
+    const QString recording{session.path(QStringLiteral("session.trace"))};
+    QVERIFY(QFile::remove(recording));
+    QVERIFY(QFile::link(unreadableFile, recording));
+    QCOMPARE(session.refusal(),
+             QStringLiteral("session.trace:1: the recording cannot be read; give this user the right to"));
+}
+#endif
 
 void RecordingPlayerTest::fileThatIsTooLargeIsNamed()
 {

@@ -96,6 +96,7 @@ private slots:
     void fileThatIsNoRecordingIsNamed_data();
     void fileThatIsNoRecordingIsNamed();
     void fileMayBeCutAnywhere();
+    void nothingFollowsACutLine();
     void longLineIsRefused();
     void messageIsOneLine();
 };
@@ -424,6 +425,18 @@ void RecordingReaderTest::fileMayBeCutAnywhere()
         }
         QCOMPARE(readingOf(traceHeader + kept), expected);
     }
+}
+
+void RecordingReaderTest::nothingFollowsACutLine()
+{
+    std::istringstream input{(traceHeader + gammaLine + gammaLine.left(20)).toStdString()};
+    RecordingReader reader{input, "session.trace"};
+    QVERIFY(reader.next());
+    QVERIFY(reader.next());
+    QVERIFY(!reader.next());
+    QVERIFY(reader.cut());
+    QVERIFY(!reader.next());
+    QCOMPARE(reader.line(), std::size_t{3});
 }
 
 void RecordingReaderTest::longLineIsRefused()

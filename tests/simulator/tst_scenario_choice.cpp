@@ -3,6 +3,7 @@
 // How a process and a test come to their scenario.
 #include "simulatedcamera.h"
 #include "testclass.h"
+#include "unreadablefile.h"
 
 #include <QByteArray>
 #include <QDir>
@@ -245,6 +246,12 @@ void ScenarioChoiceTest::refusedScenarioIsNamed_data()
     const QString pipe = directory.filePath("pipe.toml");
     QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     QTest::newRow("pipe") << pipe << "the scenario file \"" + pipe + unreadable;
+#endif
+#ifdef Q_OS_LINUX
+    for (const QString &file : {QStringLiteral("/proc/self/mem"), QString{unreadableFile}}) {
+        QTest::addRow("cannot be read: %s", qPrintable(file))
+            << file << "the scenario file \"" + file + unreadable;
+    }
 #endif
     QTest::newRow("file") << wrong << wrong + R"(:2:1: "lynk" is unknown here; did you mean "link"?)";
 }

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
 // What is said of a scenario file that cannot be played.
+#include "output/wording.h"
 #include "scenariofaults.h"
 #include "scenarios/limits.h"
 #include "scenarios/scenarioreader.h"
@@ -12,6 +13,7 @@
 #include <QString>
 #include <QTest>
 
+#include <string>
 #include <variant>
 
 using namespace veltrix_simulator;
@@ -40,6 +42,7 @@ private slots:
     void messageIsOneLine();
     void whatIsLargeIsRefused();
     void whatNestsDeeplyIsRefused();
+    void aNameOfOneLetterIsLikeNoOther();
 };
 
 void ScenarioErrorsTest::fileIsRefusedWith_data()
@@ -98,6 +101,8 @@ void ScenarioErrorsTest::fileIsRefusedWith_data()
             R"(flaky.toml:1:16: "camera.gamma" takes an integer from 0 to 4294967295)");
     refuses("unit that is no table", "camera = 3", R"(flaky.toml:1:10: "camera" takes a table)");
     refuses("negative seed", "seed = -1",
+            R"(flaky.toml:1:8: "seed" takes an integer from 0 to 9223372036854775807)");
+    refuses("seed that is a text", "seed = \"many\"",
             R"(flaky.toml:1:8: "seed" takes an integer from 0 to 9223372036854775807)");
     refuses(
         "seed that is too large", "seed = 9223372036854775808",
@@ -158,6 +163,8 @@ void ScenarioErrorsTest::fileIsRefusedWith_data()
     refuses("as far below zero", "[link]\nkind = \"fixed\"\nmillisecondsPerCall = -9223372036854775807",
             R"(flaky.toml:3:23: "link.millisecondsPerCall" takes a number from 0 to 10000)");
     refuses("negative time", "[link]\nkind = \"fixed\"\nmillisecondsPerCall = -1",
+            R"(flaky.toml:3:23: "link.millisecondsPerCall" takes a number from 0 to 10000)");
+    refuses("time that is a text", "[link]\nkind = \"fixed\"\nmillisecondsPerCall = \"long\"",
             R"(flaky.toml:3:23: "link.millisecondsPerCall" takes a number from 0 to 10000)");
     refuses("time that is no number", "[link]\nkind = \"fixed\"\nmillisecondsPerCall = nan",
             R"(flaky.toml:3:23: "link.millisecondsPerCall" takes a number from 0 to 10000)");
@@ -272,6 +279,8 @@ void ScenarioErrorsTest::fileIsRefusedWith_data()
         R"(flaky.toml:2:7: "life.drift.key" knows no number of a unit "camera.gama"; did you mean "camera.gamma"?)");
     refuses("life without time", "[[life.counter]]\nkey = \"camera.gamma\"\nintervalSeconds = 1",
             R"(flaky.toml:1:1: "life" needs millisecondsPerCall or a link: without them no time goes by)");
+    refuses("life by the time of a link",
+            "link.kind = \"serial\"\n[[life.counter]]\nkey = \"camera.gamma\"\nintervalSeconds = 1", "fine");
     refuses(
         "two lives of one value",
         "life.millisecondsPerCall = 1\n[[life.drift]]\nkey = \"camera.gamma\"\nend = 1\nhalfTimeSeconds = 1\n"
@@ -375,6 +384,12 @@ void ScenarioErrorsTest::whatNestsDeeplyIsRefused()
     QVERIFY(messageOf(keys + " = 1").startsWith(R"(flaky.toml:1:1: "a" is unknown here)"));
     QVERIFY(messageOf("a = " + QByteArray{"[\n"}.repeated(50'000)).contains("this is not TOML"));
     QVERIFY(messageOf('[' + keys + "]\n" + keys + " = [{\n" + keys).startsWith("flaky.toml:"));
+}
+
+void ScenarioErrorsTest::aNameOfOneLetterIsLikeNoOther()
+{
+    QCOMPARE(nearest("b", {"a"}), std::string{});
+    QCOMPARE(nearest("b", {"a", "ab"}), std::string{"ab"});
 }
 
 PILOTEL_TEST_CLASS(ScenarioErrorsTest)

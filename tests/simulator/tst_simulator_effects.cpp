@@ -59,6 +59,7 @@ private slots:
     void refuse();
     void answer();
     void answerThatLeavesOutputs();
+    void garbageLeavesNoOutputs();
     void stuck_data();
     void stuck();
     void wrong_data();
@@ -108,6 +109,20 @@ void SimulatorEffectsTest::answerThatLeavesOutputs()
     std::uint8_t mode{77};
     QVERIFY(c.device.getVideoMode(&mode));
     QCOMPARE(int{mode}, 77);
+}
+
+void SimulatorEffectsTest::garbageLeavesNoOutputs()
+{
+    // Only what answers or refuses may leave them.
+    Scenario scenario = scenarioWith(OperationId::getTemperatures, Effect::Garbage);
+    scenario.faults.front().leavesOutputs = true;
+    const ScenarioCamera c{scenario};
+    veltrix_sdk::Temperatures temperatures{};
+    temperatures.sensorMillikelvin = 77;
+    temperatures.fpgaMillikelvin = 77;
+    c.device.getTemperatures(&temperatures);
+    QVERIFY(temperatures.sensorMillikelvin != 77);
+    QVERIFY(temperatures.fpgaMillikelvin != 77);
 }
 
 void SimulatorEffectsTest::stuck_data()

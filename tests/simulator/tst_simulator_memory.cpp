@@ -6,6 +6,7 @@
 #include "simulation.h"
 #include "testclass.h"
 #include "units/memoryfile.h"
+#include "unreadablefile.h"
 #include "veltrix_sdk/sdk.h"
 
 #include <QByteArray>
@@ -222,6 +223,11 @@ private slots:
     void deepNestingIsRefused();
     void damagedFileIsLeftAlone_data();
     void damagedFileIsLeftAlone();
+#if defined(Q_OS_LINUX)
+    void fileThatCannotBeReadIsNotUsed_data();
+    void fileThatCannotBeReadIsNotUsed();
+    void whatTheDiskMayNotHaveReplacesNothing();
+#endif
 
     void interruptedSaveLeavesTheOldSet();
     void killedProgramLeavesAWholeFile();
@@ -505,6 +511,40 @@ void SimulatorMemoryTest::damagedFileIsLeftAlone()
     unit.device->saveBlendUnitParameters(0);
     QCOMPARE(contentOf(name), content);
 }
+
+#if defined(Q_OS_LINUX)
+void SimulatorMemoryTest::fileThatCannotBeReadIsNotUsed_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addRow("cannot be opened") << QString{unreadableFile};
+    // The beginning of a program's memory.
+    QTest::addRow("cannot be read") << "/proc/self/mem";
+}
+
+void SimulatorMemoryTest::fileThatCannotBeReadIsNotUsed()
+{
+    QFETCH(const QString, file);
+    QVERIFY(QFile::link(file, name));
+    const PoweredOn unit{name};
+    QCOMPARE(unit.complaint, R"(the memory file ")" + name +
+                                 R"(" cannot be used: it cannot be read; repair it, or delete it to begin )"
+                                 "with an empty memory.");
+    QVERIFY(unit.device->saveBlendUnitParameters(0));
+    QCOMPARE(QFile::symLinkTarget(name), file);
+}
+
+void SimulatorMemoryTest::whatTheDiskMayNotHaveReplacesNothing()
+{
+    QVERIFY(write(name, userFile));
+    const QString temporary{QString::fromStdString(temporaryNameFor(name.toStdString()))};
+    // It takes everything, and never says that it is on a disk.
+    QVERIFY(QFile::link("/dev/null", temporary));
+    QCOMPARE(QString::fromStdString(replaceFile(name.toStdString(), "new").value_or("replaced")),
+             "the file \"" + temporary + "\" cannot be written");
+    QCOMPARE(contentOf(name), userFile);
+    QVERIFY(QFile::remove(temporary));
+}
+#endif
 
 void SimulatorMemoryTest::interruptedSaveLeavesTheOldSet()
 {

@@ -49,6 +49,10 @@ private slots:
     void everyKindOfFloatIsAsShortAsCanBe();
     void timesAreInUtc_data();
     void timesAreInUtc();
+    void timesAreRead_data();
+    void timesAreRead();
+    void otherTextsAreNoTimes_data();
+    void otherTextsAreNoTimes();
 };
 
 void WrittenValuesTest::floatsAreAsShortAsCanBe_data()
@@ -134,6 +138,85 @@ void WrittenValuesTest::timesAreInUtc()
     const auto read = parseTime(text.toStdString());
     QVERIFY(read);
     QCOMPARE(qint64{read->count()}, kept);
+}
+
+void WrittenValuesTest::timesAreRead_data()
+{
+    QTest::addColumn<qint64>("since1970");
+    const auto row = [](const char *text, qint64 since1970) {
+        QTest::newRow(text) << since1970;
+    };
+    row("1970-01-01T00:00:00Z", 0);
+    row("1970-01-01T00:00:00.Z", 0);
+    row("1970-01-01T00:00:01.5Z", 1'500'000);
+    row("1970-01-01T00:00:00.000001Z", 1);
+    // What is smaller than a microsecond does not count.
+    row("1970-01-01T00:00:00.0000019Z", 1);
+    row("1970-01-31T23:59:59Z", 2'678'399'000'000);
+    row("1970-12-01T00:00:00Z", 28'857'600'000'000);
+    // A leap second.
+    row("2016-12-31T23:59:60Z", 1'483'228'800'000'000);
+}
+
+void WrittenValuesTest::timesAreRead()
+{
+    QFETCH(const qint64, since1970);
+    const auto read = parseTime(QTest::currentDataTag());
+    QVERIFY(read);
+    QCOMPARE(qint64{read->count()}, since1970);
+}
+
+void WrittenValuesTest::otherTextsAreNoTimes_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    const auto row = [](const char *name, const char *text) {
+        QTest::newRow(name) << QByteArray{text};
+    };
+    row("nothing", "");
+    row("nothing but its end", "Z");
+    row("no end", "2026-03-14T09:26:53");
+    row("another zone", "2026-03-14T09:26:53+01:00");
+    row("a day alone", "2026-03-14Z");
+    row("a time of the day alone", "09:26:53Z");
+    row("a blank before it", " 2026-03-14T09:26:53Z");
+    row("a blank between day and time", "2026-03-14 09:26:53Z");
+    row("year of two digits", "26-03-14T09:26:53Z");
+    row("year of five digits", "12026-03-14T09:26:53Z");
+    row("year below zero", "-026-03-14T09:26:53Z");
+    row("letter in the year", "202x-03-14T09:26:53Z");
+    row("month of one digit", "2026-3-14T09:26:53Z");
+    row("month zero", "2026-00-14T09:26:53Z");
+    row("month 13", "2026-13-14T09:26:53Z");
+    row("letter in the month", "2026-x3-14T09:26:53Z");
+    row("day of one digit", "2026-03-4T09:26:53Z");
+    row("day zero", "2026-03-00T09:26:53Z");
+    row("day 32", "2026-03-32T09:26:53Z");
+    row("sign in the day", "2026-03-/4T09:26:53Z");
+    row("hour of one digit", "2026-03-14T9:26:53Z");
+    row("hour 24", "2026-03-14T24:00:00Z");
+    row("letter in the hour", "2026-03-14T0x:26:53Z");
+    row("no colon behind the hour", "2026-03-14T09.26:53Z");
+    row("minute of one digit", "2026-03-14T09:6:53Z");
+    row("minute 60", "2026-03-14T09:60:53Z");
+    row("letter in the minute", "2026-03-14T09:2x:53Z");
+    row("no second", "2026-03-14T09:26Z");
+    row("empty second", "2026-03-14T09:26:Z");
+    row("second of one digit", "2026-03-14T09:26:5Z");
+    row("second of three digits", "2026-03-14T09:26:053Z");
+    row("second 61", "2026-03-14T09:26:61Z");
+    row("letter in the second", "2026-03-14T09:26:5xZ");
+    row("two ends", "2026-03-14T09:26:53ZZ");
+    row("a fraction behind its end", "2026-03-14T09:26:53Z.5Z");
+    row("comma before the fraction", "2026-03-14T09:26:53,5Z");
+    row("letter in the fraction", "2026-03-14T09:26:53.5x9Z");
+    row("sign in the fraction", "2026-03-14T09:26:53.-59Z");
+    row("two ends behind a fraction", "2026-03-14T09:26:53.5ZZ");
+}
+
+void WrittenValuesTest::otherTextsAreNoTimes()
+{
+    QFETCH(const QByteArray, text);
+    QVERIFY(!parseTime(text.toStdString()));
 }
 
 PILOTEL_TEST_CLASS(WrittenValuesTest)
