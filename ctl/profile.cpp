@@ -151,7 +151,7 @@ private:
 
 constexpr std::string_view countMark{"# Settings in this file: "};
 
-/// How many settings the text says it has; nothing where it does not say so.
+/// How many settings the text, which ends with a line feed, says it has; nothing where it does not say so.
 std::optional<std::size_t> promisedCount(std::string_view text)
 {
     if (text.substr(0, countMark.size()) != countMark) {
@@ -160,7 +160,7 @@ std::optional<std::size_t> promisedCount(std::string_view text)
     text.remove_prefix(countMark.size());
     std::size_t count{0};
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), count);
-    const bool isWhole{error == std::errc{} && end != text.data() + text.size() && *end == '.'};
+    const bool isWhole{error == std::errc{} && *end == '.'};
     return isWhole ? std::optional{count} : std::nullopt;
 }
 
