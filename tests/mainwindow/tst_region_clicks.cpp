@@ -81,6 +81,7 @@ private slots:
     void aPageOfTheWindowIsShown();
     void aSliderIsLetGo();
     void aButtonThatIsHeldBeyondTheBoxIsNotReleased();
+    void anotherButtonMeanwhileReleasesNothing();
 };
 
 void RegionClicksTest::theArrowOfAnotherBoxStepsOnce()
@@ -206,6 +207,28 @@ void RegionClicksTest::aButtonThatIsHeldBeyondTheBoxIsNotReleased()
     QCoreApplication::processEvents();
     QVERIFY(test.child<QAbstractButton>("disconnectDeviceButton").isDown());
     QCOMPARE(test.takeCalls(), QStringList{editSent});
+
+    QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, place);
+    QCOMPARE(test.takeCalls(),
+             (QStringList{"closeDevice(device)", "get_instance() -> sdk", "releaseDeviceManager(manager)"}));
+    test.boxes.takeShown();
+}
+
+void RegionClicksTest::anotherButtonMeanwhileReleasesNothing()
+{
+    TestWindow test;
+    typeWrongOrder(test);
+    QWindow *const window{test.window().windowHandle()};
+    const QPoint place{middleOf(test, "disconnectDeviceButton")};
+    test.boxes.expect([](QDialog &box) { QTest::keyClick(&box, Qt::Key_Enter); });
+    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, place);
+    QCoreApplication::processEvents();
+    QCOMPARE(test.takeCalls(), QStringList{editSent});
+
+    QTest::mousePress(window, Qt::RightButton, Qt::NoModifier, place);
+    QTest::mouseRelease(window, Qt::RightButton, Qt::NoModifier, place);
+    QVERIFY(test.child<QAbstractButton>("disconnectDeviceButton").isDown());
+    QCOMPARE(test.takeCalls(), QStringList{});
 
     QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, place);
     QCOMPARE(test.takeCalls(),

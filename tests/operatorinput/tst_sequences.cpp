@@ -156,6 +156,7 @@ private slots:
     void whatAnInputMethodComposesMeanwhileIsDropped();
     void aReleaseIsDroppedWithItsPress();
     void aKeyThatIsHeldBeyondTheEndIsDroppedWhole();
+    void aKeyIsTheSameWhateverShiftMakesOfIt();
     void aReleaseWhosePressWasDeliveredIsDelivered();
     void afterwardsEverythingWorks();
     void theWindowCanBeClosedMeanwhile();
@@ -353,6 +354,31 @@ void SequencesTest::aKeyThatIsHeldBeyondTheEndIsDroppedWhole()
     test.key(QEvent::KeyRelease, Qt::Key_Right);
     QCOMPARE(slider.value(), before + 1);
     QCOMPARE(test.takeCalls().size(), 1);
+}
+
+void SequencesTest::aKeyIsTheSameWhateverShiftMakesOfIt()
+{
+    OperatorWindow test;
+    test.beConnected();
+    QWindow &native{test.native()};
+    constexpr quint32 keyOfTheKeyboard{14};
+    const auto queue = [&native](QEvent::Type type, Qt::Key key, Qt::KeyboardModifiers modifiers) {
+        QCoreApplication::postEvent(&native, new QKeyEvent{type, key, modifiers, keyOfTheKeyboard, 0, 0});
+    };
+    const QVector<int> types{QEvent::KeyPress, QEvent::KeyRelease};
+    EventRecorder recorder{native};
+    duringTheSequence(test, [&] { queue(QEvent::KeyPress, Qt::Key_Percent, Qt::ShiftModifier); });
+
+    test.invoke("readAllParameters");
+    rest();
+    // Shift was let go first.
+    queue(QEvent::KeyRelease, Qt::Key_5, Qt::NoModifier);
+    rest();
+    QCOMPARE(recorder.typesAmong(types), QVector<int>{});
+    queue(QEvent::KeyPress, Qt::Key_5, Qt::NoModifier);
+    queue(QEvent::KeyRelease, Qt::Key_5, Qt::NoModifier);
+    rest();
+    QCOMPARE(recorder.typesAmong(types), types);
 }
 
 void SequencesTest::aReleaseWhosePressWasDeliveredIsDelivered()
