@@ -184,6 +184,14 @@ void RecordedCallsTest::situationIsThatOfTheTrace_data()
         },
         R"("notHeld":true)");
     row(
+        "no manager",
+        [](C &c) {
+            c.sdk.releaseDeviceManager(&c.manager);
+            c.simulator.addFault({"getDeviceManager"});
+            c.sdk.getDeviceManager();
+        },
+        R"("operation":"getDeviceManager","arguments":[],"result":null)");
+    row(
         "opened once more",
         [](C &c) {
             c.manager->closeDevice(c.device);
@@ -411,10 +419,14 @@ void RecordedCallsTest::callsGoOnWhenTheDiskIsFull()
     QCOMPARE(::setrlimit(RLIMIT_FSIZE, &full), 0);
     const bool isSet{c.device->setGamma(70'000)};
     const bool isSetAgain{c.device->setGamma(80'000)};
+    c.configuration.words.gskDefault = 5;
+    const auto gskDefault = c.configuration.getDefaultGsk();
     QCOMPARE(::setrlimit(RLIMIT_FSIZE, &limit), 0);
     std::signal(SIGXFSZ, before);
     QVERIFY(isSet);
     QVERIFY(isSetAgain);
+    // What is set in place reaches the library as well.
+    QCOMPARE(gskDefault, 5);
     QCOMPARE(c.device->getGamma(), 80'000U);
     QCOMPARE(callsIn(recorded.file()), calls);
 }
