@@ -117,6 +117,10 @@ private slots:
     void everyScenarioHasARun();
     void listsPortsWithoutAPort();
     void listsNoPortOfALibraryThatHasNone();
+#if !defined(Q_OS_WIN)
+    void saysWhatToDoWithThePorts_data();
+    void saysWhatToDoWithThePorts();
+#endif
     void refusesWrongArguments_data();
     void refusesWrongArguments();
     void helps();
@@ -230,6 +234,36 @@ void SdkCheckProcessTest::listsNoPortOfALibraryThatHasNone()
     QCOMPARE(outcome.output.contains("No port found. Plug one in, or name one:"), scannedPorts().isEmpty());
 }
 
+#if !defined(Q_OS_WIN)
+void SdkCheckProcessTest::saysWhatToDoWithThePorts_data()
+{
+    QTest::addColumn<QString>("ofHost");
+    QTest::addColumn<QString>("output");
+    const QString more{"\nMore: pilotel-sdk-check --help\n"};
+    const QString check{"To check the library on one of them: pilotel-sdk-check --port "};
+    QTest::newRow("none") << ""
+                          << "No port found. Plug one in, or name one:\n" + check + "NAME" + more;
+    QTest::newRow("one") << "ttyS0"
+                         << "Ports:\n  ttyS0\n" + check + "ttyS0" + more;
+    QTest::newRow("several") << "ttyS0 \x1b[31m"
+                             << "Ports:\n  ttyS0\n  \\x1b[31m\n" + check + "\\x1b[31m" + more;
+}
+
+void SdkCheckProcessTest::saysWhatToDoWithThePorts()
+{
+    QFETCH(const QString, ofHost);
+    QFETCH(const QString, output);
+    QProcessEnvironment environment{programEnvironment()};
+    environment.insert("VELTRIX_SIMULATOR_SCENARIO", "no-ports");
+    environment.insert("LD_PRELOAD", HOST_PORTS);
+    environment.insert("PILOTEL_TEST_HOST_PORTS", ofHost);
+    const Outcome outcome{run(PROGRAM, {}, environment)};
+    QCOMPARE(outcome.output, output);
+    QCOMPARE(outcome.errors, QString{});
+    QCOMPARE(outcome.status, 2);
+}
+#endif
+
 void SdkCheckProcessTest::refusesWrongArguments_data()
 {
     QTest::addColumn<QStringList>("arguments");
@@ -241,7 +275,13 @@ void SdkCheckProcessTest::refusesWrongArguments_data()
     row({"--frobnicate=yes"}, R"(There is no option "--frobnicate")");
     row({"--port"}, "--port needs a value");
     row({"--port", ""}, "--port: a port has a name");
+    row({"--record", ""}, "--record: a file has a name");
+    // What lacks a value is said first: it may be what was meant to be one.
+    row({"--bogus", "--port"}, "--port needs a value");
     row({"SIM1"}, R"("SIM1" is too much.)");
+    row({"x"}, R"("x" is too much.)");
+    row({""}, R"("" is too much.)");
+    row({"-"}, R"("-" is too much.)");
     row({"--port", "SIM1", "\x1b[31m"}, R"("\x1b[31m" is too much.)");
     row({"--port", "SIM1", "--repeat", "0"}, R"(--repeat: "0" is no number from 1 to 10000)");
     row({"--port", "SIM1", "--repeat", "10001"}, R"(--repeat: "10001" is no number from 1 to 10000)");

@@ -9,6 +9,7 @@
 #include <csignal>
 #include <poll.h>
 #include <pty.h>
+#include <sys/ioctl.h>
 #include <sys/wait.h>
 #include <termios.h>
 #include <unistd.h>
@@ -70,6 +71,17 @@ void Terminal::type(const QByteArray &keys) const
     if (::write(terminal, keys.constData(), static_cast<std::size_t>(keys.size())) != keys.size()) {
         qFatal("nothing can be typed");
     }
+}
+
+void Terminal::resize(int columns) const
+{
+    const winsize size{50, static_cast<unsigned short>(columns), 0, 0};
+    ::ioctl(terminal, TIOCSWINSZ, &size);
+}
+
+void Terminal::send(int signal) const
+{
+    ::kill(process, signal);
 }
 
 bool Terminal::read(int milliseconds)

@@ -20,6 +20,9 @@ public:
     Terminal &operator=(const Terminal &) = delete;
 
     void type(const QByteArray &keys) const;
+    /// Makes its window so many columns wide; the program is told.
+    void resize(int columns) const;
+    void send(int signal) const;
     /// Waits until a text appears behind the one that was last waited for; false after ten seconds.
     bool waitFor(const QByteArray &text);
     /// Waits until the program reads key by key: before that Ctrl-D is an end of input, not a key.

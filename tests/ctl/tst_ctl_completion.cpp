@@ -19,6 +19,7 @@ private slots:
     void completes();
     void namesEverySetting();
     void opensNoDevice();
+    void namesTheCommandsWhereNothingIsTyped();
 };
 
 namespace
@@ -106,6 +107,15 @@ void CtlCompletionTest::opensNoDevice()
     CtlFolder folder;
     QVERIFY(!offered(folder, {"set", "camera.gam"}).isEmpty());
     QCOMPARE(folder.calls().filter("openDevice"), QStringList{});
+}
+
+void CtlCompletionTest::namesTheCommandsWhereNothingIsTyped()
+{
+    const Outcome outcome{CtlFolder{}.run({"--complete"})};
+    QCOMPARE(outcome.output, lines({"shell", "ports", "info", "list", "get", "set", "profile", "store",
+                                    "watch", "bad-pixels", "recording"}));
+    QCOMPARE(outcome.errors, QString{});
+    QCOMPARE(outcome.status, 0);
 }
 
 PILOTEL_TEST_CLASS(CtlCompletionTest)

@@ -83,6 +83,10 @@ void CtlFaultsTest::tellsWhatTheDeviceDid_data()
         {"set", "camera.clhe=5", "camera.tint=5"}, 1,
         {"camera.tint = 5 is refused by the camera.",
          "NOT PUT BACK: camera.clhe was 0; it is 5, and setting it is refused"});
+    row("what is acknowledged is not put back",
+        fault("setClhe", "fromCall = 2\neffect = \"stuck\"") + fault("setTint", refuse),
+        {"set", "camera.clhe=5", "camera.tint=5"}, 1,
+        {"camera.tint = 5 is refused by the camera.", "NOT PUT BACK: camera.clhe was 2000; it is 5"});
     row("what is put back is lost once", fault("setTint", refuse) + fault("getClhe", "onCall = 5\n" + refuse),
         {"set", "camera.clhe=5", "camera.tint=5"}, 1,
         {"camera.tint = 5 is refused by the camera.", restored});

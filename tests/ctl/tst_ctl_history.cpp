@@ -3,6 +3,7 @@
 // The lines of the shell from one run to the next.
 #include "history.h"
 #include "testclass.h"
+#include "unreadablefile.h"
 
 #include <QByteArray>
 #include <QDir>
@@ -27,6 +28,7 @@ private slots:
     void isForItsOwnerAlone();
     void isBounded();
     void survivesADamagedFile();
+    void beginsInAnEmptyFile();
     void doesWithoutAFile_data();
     void doesWithoutAFile();
     void liesWhereStateIsKept();
@@ -132,12 +134,30 @@ void CtlHistoryTest::survivesADamagedFile()
     QCOMPARE(bytesOf(file), QByteArray{"info\nlis\nget camera\n"});
 }
 
+void CtlHistoryTest::beginsInAnEmptyFile()
+{
+    const QTemporaryDir folder;
+    const QString file{folder.filePath("history")};
+    QVERIFY(writeFile(file, {}));
+    ctl::History history{file};
+    QCOMPARE(history.load(), Lines{});
+    QCOMPARE(bytesOf(file), QByteArray{});
+    history.add("größe");
+    QCOMPARE(bytesOf(file), QByteArray{"größe\n"});
+    QCOMPARE(ctl::History{file}.load(), Lines{"größe"});
+}
+
 void CtlHistoryTest::doesWithoutAFile_data()
 {
     QTest::addColumn<QString>("file");
     QTest::newRow("a folder") << "/tmp";
     QTest::newRow("a device") << "/dev/null";
     QTest::newRow("below a file") << "/dev/null/history";
+#if defined(Q_OS_LINUX)
+    QTest::newRow("a file that nobody can read") << unreadableFile;
+    // What stands there has a NUL, so it would be written anew.
+    QTest::newRow("a file that nobody can write") << "/proc/self/cmdline";
+#endif
     QTest::newRow("no place for it") << "/proc/nowhere/history";
 }
 

@@ -3,6 +3,7 @@
 // Profiles: saved, applied and compared; all of one or nothing; wrong ones are told with their place.
 #include "ctlrun.h"
 #include "testclass.h"
+#include "unreadablefile.h"
 
 #include <QByteArray>
 #include <QFileInfo>
@@ -14,7 +15,11 @@
 
 #if defined(Q_OS_UNIX)
 #include <csignal>
+#include <string>
+#include <sys/socket.h>
 #include <sys/types.h>
+#include <sys/un.h>
+#include <unistd.h>
 #endif
 
 class CtlProfilesTest : public QObject
@@ -33,6 +38,7 @@ private slots:
     void saysWhatItCouldNotPutBackWithoutACable();
 #if defined(Q_OS_UNIX)
     void leavesADeviceADevice();
+    void saysThatItCannotWriteThere();
     void goesBackWhenItIsInterrupted();
 #endif
     void refusesAWrongFile_data();
@@ -205,6 +211,30 @@ void CtlProfilesTest::leavesADeviceADevice()
     const Outcome full{folder.run({"profile", "save", "/dev/full"})};
     QCOMPARE(full.errors, lines({"pilotel-ctl: /dev/full: No space left on device"}));
     QCOMPARE(full.status, 2);
+}
+
+void CtlProfilesTest::saysThatItCannotWriteThere()
+{
+    CtlFolder folder;
+#if defined(Q_OS_LINUX)
+    const Outcome unreadable{folder.run({"profile", "save", unreadableFile})};
+    QVERIFY2(unreadable.errors.startsWith(QString{"pilotel-ctl: "} + unreadableFile + ": "),
+             qPrintable(unreadable.errors));
+    QCOMPARE(unreadable.status, 2);
+#endif
+    // What is there is no file, and nothing opens it as one.
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    const std::string name{folder.path("socket").toStdString()};
+    QVERIFY(name.size() < sizeof address.sun_path);
+    name.copy(address.sun_path, name.size());
+    const int socket{::socket(AF_UNIX, SOCK_STREAM, 0)};
+    QCOMPARE(::bind(socket, reinterpret_cast<const sockaddr *>(&address), sizeof address), 0);
+    const Outcome outcome{folder.run({"profile", "save", "socket"})};
+    QCOMPARE(outcome.errors, lines({"pilotel-ctl: socket: No such device or address"}));
+    QCOMPARE(outcome.status, 2);
+    ::close(socket);
+    QVERIFY(folder.has("socket") && !QFileInfo{folder.path("socket")}.isFile());
 }
 
 void CtlProfilesTest::goesBackWhenItIsInterrupted()

@@ -26,6 +26,7 @@ private slots:
     void keepsNothingThatIsNotCertain();
     void wordsGiveTheRanges();
     void recordedProfileIsAScenarioAndApplies();
+    void readsALongRecording();
     void tellsThatTheLastLineIsCut();
     void refusesAWrongFile_data();
     void refusesAWrongFile();
@@ -263,6 +264,18 @@ void CtlRecordingsTest::recordedProfileIsAScenarioAndApplies()
                     "2 settings set, 0 as they were"}));
     folder.play(QString::fromUtf8(folder.read("recorded.toml")));
     QCOMPARE(folder.run({"get", "camera.roi3.y2"}).output, QStringLiteral("camera.roi3.y2 = 77\n"));
+}
+
+void CtlRecordingsTest::readsALongRecording()
+{
+    CtlFolder folder;
+    constexpr int megabytes{3};
+    folder.write("session.trace", header + gammaRead.repeated(megabytes * 1'000'000 / gammaRead.size()) +
+                                      call("getGamma", "", "80000"));
+    const Outcome outcome{folder.run({"recording", "profile", "session.trace"})};
+    QCOMPARE(outcome.errors, QString{});
+    QCOMPARE(settingsIn(outcome.output), (QStringList{"[blendUnit]", "[camera]", "gamma = 80000"}));
+    QCOMPARE(outcome.status, 0);
 }
 
 void CtlRecordingsTest::tellsThatTheLastLineIsCut()

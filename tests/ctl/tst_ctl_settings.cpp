@@ -24,12 +24,14 @@ private slots:
 #if defined(Q_OS_UNIX)
     void saysThatItCannotWrite_data();
     void saysThatItCannotWrite();
+    void keepsItsStatusWhereItCannotWrite();
     void endsWellWithoutAReader();
 #endif
     void tellsWhoTheUnitsAre();
     void listsEverySetting();
     void listsWhatANameBeginsWith();
     void listsAsJson();
+    void listsAsJsonWhatIsNotAnswered();
     void gets_data();
     void gets();
     void sets_data();
@@ -104,6 +106,16 @@ void CtlSettingsTest::saysThatItCannotWrite()
         run("bash", {"-c", R"("$0" )" + command + " >/dev/full", CTL}, CtlFolder{}.environment)};
     QCOMPARE(outcome.errors, lines({"pilotel-ctl: Standard output could not be written."}));
     QCOMPARE(outcome.status, 2);
+}
+
+void CtlSettingsTest::keepsItsStatusWhereItCannotWrite()
+{
+    CtlFolder folder;
+    folder.play("[[fault]]\noperation = \"getSerialNumber\"\nonCall = 1\neffect = \"refuse\"\n");
+    const Outcome outcome{run("bash", {"-c", R"("$0" info >/dev/full)", CTL}, folder.environment)};
+    QCOMPARE(outcome.errors, lines({"pilotel-ctl: blendUnit.serialNumber answers 0; 1 or more is allowed",
+                                    "pilotel-ctl: Standard output could not be written."}));
+    QCOMPARE(outcome.status, 1);
 }
 
 void CtlSettingsTest::endsWellWithoutAReader()
@@ -189,6 +201,20 @@ void CtlSettingsTest::listsAsJson()
     QCOMPARE(gamma, expectedGamma);
     QCOMPARE(polarity["value"], QJsonValue{false});
     QCOMPARE(document["settings"].toArray().size(), 149);
+}
+
+void CtlSettingsTest::listsAsJsonWhatIsNotAnswered()
+{
+    CtlFolder folder;
+    folder.play("[[fault]]\noperation = \"getGamma\"\neffect = \"refuse\"\n");
+    const Outcome outcome{folder.run({"list", "--json", "camera.gamma"})};
+    QCOMPARE(outcome.errors, lines({"pilotel-ctl: camera.gamma answers 0; 32768 to 163840 is allowed"}));
+    QCOMPARE(outcome.status, 1);
+    const QJsonObject document{QJsonDocument::fromJson(outcome.output.toUtf8()).object()};
+    const QJsonValue gamma{document["settings"].toArray().first()};
+    QCOMPARE(gamma["name"].toString(), QString{"camera.gamma"});
+    QVERIFY(gamma["value"].isNull());
+    QVERIFY(gamma["words"].isNull());
 }
 
 void CtlSettingsTest::gets_data()
@@ -282,6 +308,7 @@ void CtlSettingsTest::refusesWrongUse_data()
     row({"profile"}, {"A subcommand is required", help});
     row({"info", "\x1b[31m"}, {R"("\x1b[31m" is too much.)", help});
     row({"info", "--port"}, {"--port needs a value", help});
+    row({"info", "--bogus", "--port"}, {"--port needs a value", help});
     row({"--port", "SIM1", "--port", "SIM2", "info"}, {"--port is there more than once", help});
     row({"get"}, {"NAME is required", help});
     row({"get", "camera.gama"}, {R"(There is no setting "camera.gama"; did you mean "camera.gamma"?)"});

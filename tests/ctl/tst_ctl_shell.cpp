@@ -276,6 +276,10 @@ void CtlShellTest::colorsOnATerminalOnly()
     Terminal colored{CTL, {"get", "nothing"}, folder.environment};
     QVERIFY2(colored.waitFor(red), colored.seen());
     QCOMPARE(colored.end(), 2);
+    folder.environment.insert("NO_COLOR", "");
+    Terminal unset{CTL, {"get", "nothing"}, folder.environment};
+    QVERIFY2(unset.waitFor(red), unset.seen());
+    QCOMPARE(unset.end(), 2);
     folder.environment.insert("NO_COLOR", "1");
     Terminal plain{CTL, {"get", "nothing"}, folder.environment};
     QVERIFY2(plain.waitFor("pilotel-ctl: There is no"), plain.seen());
