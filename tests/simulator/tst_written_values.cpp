@@ -154,6 +154,7 @@ void WrittenValuesTest::timesAreRead_data()
     row("1970-01-01T00:00:00.0000019Z", 1);
     row("1970-01-31T23:59:59Z", 2'678'399'000'000);
     row("1970-12-01T00:00:00Z", 28'857'600'000'000);
+    row("2261-12-31T23:59:59Z", 9'214'646'399'000'000);
     // A leap second.
     row("2016-12-31T23:59:60Z", 1'483'228'800'000'000);
 }
@@ -184,6 +185,8 @@ void WrittenValuesTest::otherTextsAreNoTimes_data()
     row("year of five digits", "12026-03-14T09:26:53Z");
     row("year below zero", "-026-03-14T09:26:53Z");
     row("letter in the year", "202x-03-14T09:26:53Z");
+    row("before 1970", "1969-12-31T23:59:59Z");
+    row("later than the clock goes", "2262-01-01T00:00:00Z");
     row("month of one digit", "2026-3-14T09:26:53Z");
     row("month zero", "2026-00-14T09:26:53Z");
     row("month 13", "2026-13-14T09:26:53Z");

@@ -12,6 +12,10 @@ namespace veltrix_simulator
 namespace
 {
 
+/// Whole years that the clock of the system can tell: it counts nanoseconds, in 64 bits.
+constexpr int firstYear{1970};
+constexpr int lastYear{2261};
+
 /// Writes the last digits of a number that is not negative, with zeros before it.
 void putDigits(std::string &text, std::size_t place, std::size_t digits, std::int64_t number)
 {
@@ -80,8 +84,8 @@ std::optional<std::chrono::microseconds> parseTime(std::string_view text)
     const bool hasFraction{text.size() > 2 && text[2] == '.'};
     const std::optional<int> second{takeDigits(text, 2, hasFraction ? '.' : 'Z')};
     const bool isWhole{year && month && day && hour && minute && second};
-    if (!isWhole || *month < 1 || *month > 12 || *day < 1 || *day > 31 || *hour > 23 || *minute > 59 ||
-        *second > 60 || (!hasFraction && !text.empty())) {
+    if (!isWhole || *year < firstYear || *year > lastYear || *month < 1 || *month > 12 || *day < 1 ||
+        *day > 31 || *hour > 23 || *minute > 59 || *second > 60 || (!hasFraction && !text.empty())) {
         return std::nullopt;
     }
     const std::optional<std::int64_t> fraction{hasFraction ? microsecondsOf(text) : 0};

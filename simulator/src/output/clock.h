@@ -22,7 +22,7 @@ enum class Precision
 std::string formatTime(std::chrono::system_clock::time_point time, Precision precision);
 
 /// The microseconds from 1970 to a time that is written so, with any digits behind the point or with none;
-/// nothing when the text is no such time.
+/// nothing when the text is no such time, or one that the clock never tells: before 1970 or after 2261.
 std::optional<std::chrono::microseconds> parseTime(std::string_view text);
 
 } // namespace veltrix_simulator
