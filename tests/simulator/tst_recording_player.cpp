@@ -143,6 +143,8 @@ private slots:
     void answersComeInTheirOrder();
     void argumentsAndUnitTellCallsApart();
     void unitThatDoesNotExistIsPlayed();
+    void unitThatDoesNotExistIsLeftByAMissingCall();
+    void whatIsMissingSetsNothing();
     void nothingElseIsAnswered();
     void callThatReachedNothingAnswersNothing();
     void whatWasSetIsSet();
@@ -208,6 +210,31 @@ void RecordingPlayerTest::unitThatDoesNotExistIsPlayed()
     QCOMPARE(held(c, "camera.gamma"), "65536");
     QVERIFY(c.device.setTarget(1));
     QCOMPARE(c.device.getGamma(), 90000U);
+    QCOMPARE(session.told(), QStringList{});
+}
+
+void RecordingPlayerTest::unitThatDoesNotExistIsLeftByAMissingCall()
+{
+    const Session session{header + opened + call("setTarget", "2", "true") +
+                              call("getGamma", "", "70000", {}, 2) + call("getGamma", "", "90000"),
+                          simulated};
+    const ScenarioCamera c{session.scenario()};
+    QVERIFY(c.device.setTarget(2));
+    QCOMPARE(c.device.getGamma(), 70000U);
+    QVERIFY(c.device.setTarget(1));
+    QCOMPARE(c.device.getGamma(), 90000U);
+    QVERIFY(c.device.setGamma(80000));
+    QCOMPARE(held(c, "camera.gamma"), "80000");
+}
+
+void RecordingPlayerTest::whatIsMissingSetsNothing()
+{
+    // A library that takes a null for a record, and says that all was well.
+    const Session session{header + opened + call("configureZoom", "null", "true")};
+    const ScenarioCamera c{session.scenario()};
+    const QString before{held(c, "camera.zoom.factor")};
+    QVERIFY(c.device.configureZoom(nullptr));
+    QCOMPARE(held(c, "camera.zoom.factor"), before);
     QCOMPARE(session.told(), QStringList{});
 }
 
