@@ -42,6 +42,8 @@ private slots:
     void drawsASingleReadingAsADot();
     void drawsALevelCurve();
     void failsWhereItsOutputIsFull();
+    void failsWithoutInputOrOutput_data();
+    void failsWithoutInputOrOutput();
     void namesACurveWithoutAnAnswer();
     void drawsTheSameWhateverTheDesktopSays_data();
     void drawsTheSameWhateverTheDesktopSays();
@@ -257,6 +259,29 @@ void CtlPlotTest::failsWhereItsOutputIsFull()
     QVERIFY(process.waitForFinished());
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);
     QCOMPARE(process.exitCode(), 1);
+}
+
+void CtlPlotTest::failsWithoutInputOrOutput_data()
+{
+    QTest::addColumn<QString>("closed");
+    QTest::addColumn<int>("status");
+    QTest::newRow("input") << "<&-" << 2;
+    QTest::newRow("output") << "<readings >&-" << 1;
+    QTest::newRow("both") << "<&- >&-" << 2;
+}
+
+void CtlPlotTest::failsWithoutInputOrOutput()
+{
+    QFETCH(const QString, closed);
+    QFETCH(const int, status);
+    const CtlFolder folder;
+    folder.write("readings", fourCurves());
+    const Outcome outcome{
+        run("bash", {"-c", "\"$0\" " + closed, CURVES}, programEnvironment(), folder.path("."))};
+    QVERIFY(outcome.exited);
+    QCOMPARE(outcome.status, status);
+    QCOMPARE(outcome.output, QString{});
+    QCOMPARE(outcome.errors.contains("standard input has no readings to draw"), status == 2);
 }
 
 void CtlPlotTest::namesACurveWithoutAnAnswer()
