@@ -344,6 +344,7 @@ void RecordingPlayerTest::whatNoUnitHasIsAnsweredAndTeachesNothing()
     const ScenarioCamera c{session.scenario()};
     const std::vector<std::string> keys{State::keys()};
     std::vector<Value> before;
+    before.reserve(keys.size());
     for (const std::string &key : keys) {
         before.push_back(c.simulation.state.get(key));
     }
