@@ -2,15 +2,14 @@
 // SPDX-License-Identifier: MIT
 // Own time of declaring a line of bad pixels, beside its parts and beside the serial link.
 #include "mainwindow.h"
+#include "operatedwindow.h"
 #include "veltrix_sdk/numbers.h"
 #include "veltrix_sdk/sdk.h"
 #include "veltrix_simulator/simulator.h"
 
 #include <QApplication>
-#include <QComboBox>
 #include <QElapsedTimer>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QTextStream>
 
 #include <algorithm>
@@ -51,15 +50,10 @@ int main(int argc, char *argv[])
 
     MainWindow window;
     window.show();
-    const auto button = [&window](const char *name) {
-        return window.findChild<QPushButton *>(QLatin1String{name});
-    };
-    button("scanDeviceButton")->click();
-    window.findChild<QComboBox *>(QStringLiteral("selectDeviceComboBox"))->setCurrentText("SIM1");
-    button("connectDeviceButton")->click();
-
-    const double whole{milliseconds([&] { button("addBadPixelLineButton")->click(); })};
-    button("disconnectDeviceButton")->click();
+    const OperatedWindow operated{window};
+    operated.connectDevice();
+    const double whole{milliseconds([&] { operated.press("addBadPixelLineButton"); })};
+    operated.press("disconnectDeviceButton");
 
     auto *const device = veltrix_sdk::VeltrixSdk::get_instance()->getDeviceManager()->openDevice("SIM1");
     int accepted{0};
@@ -72,7 +66,7 @@ int main(int argc, char *argv[])
         qFatal("the device refused pixels; the figures would mean nothing");
     }
 
-    const auto &logView = *window.findChild<QPlainTextEdit *>(QStringLiteral("logView"));
+    const auto &logView = operated.child<QPlainTextEdit>("logView");
     QPlainTextEdit plainView;
     plainView.setReadOnly(true);
     plainView.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);

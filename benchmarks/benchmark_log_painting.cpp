@@ -3,14 +3,12 @@
 // What painting the log during a sequence costs without latency, and when its lines are on the screen on a
 // slow link.
 #include "mainwindow.h"
+#include "operatedwindow.h"
 #include "veltrix_simulator/simulator.h"
 
-#include <QAbstractButton>
 #include <QApplication>
-#include <QComboBox>
 #include <QElapsedTimer>
 #include <QEvent>
-#include <QMetaObject>
 #include <QPlainTextEdit>
 #include <QTextDocument>
 #include <QTextStream>
@@ -26,15 +24,6 @@ constexpr int runs{50};
 double milliseconds(const QElapsedTimer &timer)
 {
     return static_cast<double>(timer.nsecsElapsed()) / 1e6;
-}
-
-void connectDevice(MainWindow &window)
-{
-    window.findChild<QAbstractButton *>(QStringLiteral("scanDeviceButton"))->click();
-    window.findChild<QComboBox *>(QStringLiteral("selectDeviceComboBox"))
-        ->setCurrentText(QStringLiteral("SIM1"));
-    QCoreApplication::processEvents();
-    QMetaObject::invokeMethod(&window, "connectDevice", Qt::DirectConnection);
 }
 
 /// When the lines of a sequence are written, and when they are painted.
@@ -75,15 +64,16 @@ int main(int argc, char *argv[])
     {
         MainWindow window;
         window.show();
-        connectDevice(window);
-        auto &log = *window.findChild<QPlainTextEdit *>(QStringLiteral("logView"));
+        const OperatedWindow operated{window};
+        operated.connectDevice();
+        auto &log = operated.child<QPlainTextEdit>("logView");
         for (const char *const handler : {"readAllParameters", "ResetParamsUser", "addBadPixelLineClicked"}) {
             double sequences{0};
             double paintings{0};
             qsizetype painted{0};
             for (int run{0}; run < runs; ++run) {
                 const Times times{log};
-                QMetaObject::invokeMethod(&window, handler, Qt::DirectConnection);
+                operated.invoke(handler);
                 sequences += milliseconds(times.timer);
                 painted += times.painted.size();
                 // What one painting takes, with as much to paint.
@@ -104,8 +94,9 @@ int main(int argc, char *argv[])
     MainWindow window;
     window.show();
     QCoreApplication::processEvents();
-    const Times times{*window.findChild<QPlainTextEdit *>(QStringLiteral("logView"))};
-    connectDevice(window);
+    const OperatedWindow operated{window};
+    const Times times{operated.child<QPlainTextEdit>("logView")};
+    operated.connectDevice();
     out << "slow-link, connect: first line written after " << times.written.value(0) << " ms, painted after "
         << times.painted.value(0) << " ms; second line, which follows two commands, written after "
         << times.written.value(1) << " ms; " << times.painted.size() << " paintings for "

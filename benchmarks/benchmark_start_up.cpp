@@ -3,11 +3,8 @@
 // What a start costs until the window is painted. First within one process: as the program starts, the window
 // alone, and an empty window as Qt shows it. Then, on an X server, the programs themselves beside each other.
 // benchmark_start_up [STARTS] starts each so many times, in turn.
-#include "appearance.h"
-#include "fittedwindow.h"
 #include "mainwindow.h"
-#include "operatorinput.h"
-#include "scaling.h"
+#include "programwindow.h"
 #if defined(WATCHES_X11)
 #include "screenwatch.h"
 #endif
@@ -114,16 +111,10 @@ public:
 
 [[noreturn]] void startProgram(int argc, char *argv[])
 {
-    qputenv("QT_XCB_GL_INTEGRATION", "none");
-    followDesktopScaling();
+    bringUpProgram();
     const QApplication application{argc, argv};
-    setAppearance();
-    OperatorInput operatorInput;
-    MainWindow window{nullptr};
-    QApplication::setWindowIcon(window.windowIcon());
-    window.setSequenceObserver([&operatorInput](bool running) { operatorInput.sequenceRuns(running); });
-    [[maybe_unused]] const auto fitted = fitToScreen(window);
-    showAndTell(window);
+    ProgramWindow program;
+    showAndTell(program.window);
 }
 
 [[noreturn]] void startWindow(int argc, char *argv[])
