@@ -37,7 +37,7 @@ QString VirtualScreen::classOfWindow(const QString &title) const
     QElapsedTimer timer;
     timer.start();
     while (timer.elapsed() < 30000) {
-        const Outcome outcome{askXprop({"-name", title, "WM_CLASS"})};
+        const Outcome outcome{ask(XPROP, {"-name", title, "WM_CLASS"})};
         if (outcome.exited && outcome.status == 0) {
             return outcome.output.trimmed();
         }
@@ -46,16 +46,29 @@ QString VirtualScreen::classOfWindow(const QString &title) const
     return {};
 }
 
-Outcome VirtualScreen::askXprop(const QStringList &arguments) const
+bool VirtualScreen::shows(const QString &title) const
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < 30000) {
+        if (ask(XWININFO, {"-name", title}).output.contains("Map State: IsViewable")) {
+            return true;
+        }
+        QThread::msleep(50);
+    }
+    return false;
+}
+
+Outcome VirtualScreen::ask(const QString &tool, const QStringList &arguments) const
 {
     QProcessEnvironment environment{programEnvironment()};
     environment.insert("DISPLAY", display);
-    return run(XPROP, arguments, environment);
+    return run(tool, arguments, environment);
 }
 
 bool VirtualScreen::setProperty(const QString &name, const QString &format, const QString &value) const
 {
-    const Outcome outcome{askXprop({"-root", "-f", name, format, "-set", name, value})};
+    const Outcome outcome{ask(XPROP, {"-root", "-f", name, format, "-set", name, value})};
     return outcome.exited && outcome.status == 0;
 }
 

@@ -29,9 +29,11 @@ public:
     /// What a desktop knows a window by, WM_CLASS as xprop writes it, once there is one with that title;
     /// empty after half a minute.
     QString classOfWindow(const QString &title) const;
+    /// Whether a window with that title can be seen, at the latest after half a minute.
+    bool shows(const QString &title) const;
 
 private:
-    Outcome askXprop(const QStringList &arguments) const;
+    Outcome ask(const QString &tool, const QStringList &arguments) const;
     bool setProperty(const QString &name, const QString &format, const QString &value) const;
 
     QProcess server;
