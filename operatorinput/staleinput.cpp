@@ -53,7 +53,8 @@ void StaleInput::showBusy(bool nowBusy)
 void StaleInput::dropWhatWaits()
 {
     QCoreApplication::processEvents();
-    dropping = false;
+    // A sequence that ran among what waited has ended with stale input of its own, and its turn comes.
+    dropping = drop.isActive();
 }
 
 bool StaleInput::takes(QEvent &event)
@@ -61,6 +62,11 @@ bool StaleInput::takes(QEvent &event)
     switch (event.type()) {
     case QEvent::WindowBlocked:
         showBusy(false);
+        if (dropping) {
+            // A release may raise a box while what waits is worked off. The box has an event loop of its own,
+            // and whoever answers it must be heard there.
+            drop.start(0);
+        }
         return false;
     case QEvent::WindowUnblocked:
         showBusy(running && QGuiApplication::modalWindow() == nullptr);

@@ -45,6 +45,23 @@ void duringTheSequence(OperatorWindow &test, const std::function<void()> &deed)
                                    });
 }
 
+/// Runs once when the sequence that runs now has ended, while what waits is worked off, and behind all that
+/// is in the queue already.
+void whileTheRestIsDropped(OperatorWindow &test, const std::function<void()> &deed)
+{
+    // Timers come in the order in which they were started: this one before the one that drops, and the one
+    // that it starts behind that.
+    auto *const before = new QTimer{&test.window()};
+    before->setSingleShot(true);
+    QObject::connect(before, &QTimer::timeout, before, [before, deed] {
+        auto *const meanwhile = new QTimer{before};
+        meanwhile->setSingleShot(true);
+        QObject::connect(meanwhile, &QTimer::timeout, meanwhile, deed);
+        meanwhile->start(0);
+    });
+    before->start(0);
+}
+
 /// Puts a mouse event into the queue that is worked off when control returns to the event loop.
 void queueMouse(OperatorWindow &test, QEvent::Type type, const QPoint &place)
 {
@@ -158,6 +175,8 @@ private slots:
     void aKeyThatIsHeldBeyondTheEndIsDroppedWhole();
     void aKeyIsTheSameWhateverShiftMakesOfIt();
     void aReleaseWhosePressWasDeliveredIsDelivered();
+    void aSequenceAmongWhatWaitsDropsItsOwnInput();
+    void aBoxAmongWhatWaitsIsAnswered();
     void afterwardsEverythingWorks();
     void theWindowCanBeClosedMeanwhile();
     void noEventIsProcessedMeanwhile();
@@ -396,6 +415,58 @@ void SequencesTest::aReleaseWhosePressWasDeliveredIsDelivered()
     rest();
     QVERIFY(!slider.isSliderDown());
     QCOMPARE(test.takeCalls(), QStringList{QStringLiteral("setGfid(%1) -> true").arg(slider.value())});
+}
+
+void SequencesTest::aSequenceAmongWhatWaitsDropsItsOwnInput()
+{
+    OperatorWindow test;
+    test.beConnected();
+    const QPoint disconnect{test.middleOf("disconnectDeviceButton")};
+    duringTheSequence(test, [&] {
+        whileTheRestIsDropped(test, [&] {
+            duringTheSequence(test, [&] { queueClick(test, disconnect); });
+            test.invoke("readAllParameters");
+        });
+    });
+
+    test.invoke("readAllParameters");
+    for (int round{0}; round < 5; ++round) {
+        rest();
+    }
+    const QStringList calls{test.takeCalls()};
+    QCOMPARE(timesRead(calls), 2);
+    QVERIFY(!calls.contains("closeDevice(device)"));
+
+    test.clickAt(disconnect);
+    QVERIFY(test.takeCalls().contains("closeDevice(device)"));
+}
+
+void SequencesTest::aBoxAmongWhatWaitsIsAnswered()
+{
+    OperatorWindow test;
+    test.beConnected();
+    const QPoint read{test.middleOf("readParamButtonUser")};
+    test.press(read);
+    duringTheSequence(test, [&] {
+        test.simulator.addFault({"getFirmwareVersions"});
+        whileTheRestIsDropped(test, [&] { test.release(read); });
+    });
+    bool answered{false};
+    test.boxes.expect([&](QDialog &box) {
+        // The operator needs a moment to read it.
+        QTimer::singleShot(200, &box, [&] {
+            sendKey(*box.windowHandle(), QEvent::KeyPress, Qt::Key_Return);
+            answered = !box.isVisible();
+            box.accept();
+        });
+    });
+
+    test.invoke("ApplyParamsUser");
+    for (int round{0}; round < 5; ++round) {
+        rest();
+    }
+    QCOMPARE(test.boxes.takeShown().size(), 1);
+    QVERIFY(answered);
 }
 
 void SequencesTest::afterwardsEverythingWorks()
