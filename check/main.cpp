@@ -53,8 +53,7 @@ int main(int argc, char *argv[])
         listPorts(std::cout);
         return sdk_check::wrongUsage;
     }
-    const std::string fault{recording::begin(
-        line.recording.empty() ? recording::fileOfEnvironment() : line.recording, "pilotel-sdk-check")};
+    const std::string fault{recording::begin(recording::fileOf(line.recording), "pilotel-sdk-check")};
     if (!fault.empty()) {
         sdk_check::tell("pilotel-sdk-check", fault + ".");
         return sdk_check::wrongUsage;

@@ -63,9 +63,7 @@ int main(int argc, char *argv[])
         if (!command) {
             return statusWithOutput(ctl::done);
         }
-        if (arguments.link.recording.empty()) {
-            arguments.link.recording = recording::fileOfEnvironment();
-        }
+        arguments.link.recording = recording::fileOf(arguments.link.recording);
         ctl::Session session{arguments.link};
         return statusWithOutput(command(session));
     } catch (const ctl::Failure &failure) {

@@ -119,9 +119,9 @@ ILogger &LogRecord::stream()
     return recorded != nullptr ? *recorded : logger->GetILogger();
 }
 
-std::string fileOfEnvironment()
+std::string fileOf(const std::string &option)
 {
-    return veltrix_simulator::environmentVariable("PILOTEL_RECORD");
+    return option.empty() ? veltrix_simulator::environmentVariable("PILOTEL_RECORD") : option;
 }
 
 std::string begin(const std::string &file, const std::string &program)
@@ -136,7 +136,7 @@ std::string begin(const std::string &file, const std::string &program)
 
 void beginAsEnvironmentSays(const std::string &program)
 {
-    const std::string fault{begin(fileOfEnvironment(), program)};
+    const std::string fault{begin(fileOf({}), program)};
     if (!fault.empty()) {
         veltrix_simulator::writeToStandardError("pilotel: " + fault +
                                                 ". The program goes on without a recording.\n");

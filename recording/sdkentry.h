@@ -36,8 +36,9 @@ private:
     std::unique_ptr<RecordedStream> recorded; ///< Null without a recording.
 };
 
-/// The file that PILOTEL_RECORD names, in UTF-8; empty when there is none.
-std::string fileOfEnvironment();
+/// The file to record in, in UTF-8: the one that an option of the command line names, else that of
+/// PILOTEL_RECORD; empty when neither names one.
+std::string fileOf(const std::string &option);
 
 /// Begins to record in a file, whose name is in UTF-8; an earlier recording there is kept with ".~1~" behind
 /// its name, or the next number that is free. To be called before the library is called for the first time.
