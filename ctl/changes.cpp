@@ -10,7 +10,6 @@
 #include "values.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <optional>
 #include <utility>
@@ -25,17 +24,6 @@ namespace
 
 /// How often the old value is sent at most: one lost answer must not leave the device changed.
 constexpr int attemptsToPutBack{3};
-
-/// The number that tells whether an optional region is on, and its flag.
-struct RegionFlag
-{
-    const char *key;
-    bool RegionFlags::*flag;
-};
-
-constexpr std::array regionFlags{RegionFlag{"roi1.x1", &RegionFlags::roi1Inclusive},
-                                 RegionFlag{"roi2.x1", &RegionFlags::roi0Exclusive},
-                                 RegionFlag{"roi3.x1", &RegionFlags::roi1Exclusive}};
 
 std::string textOf(const Place &place, double number)
 {
@@ -119,16 +107,16 @@ void Changes::noteFlags()
     if (!sendsFlags) {
         return;
     }
-    for (const RegionFlag &region : regionFlags) {
-        const auto place =
-            device_settings::findSetting(session.settings(), keyOf(Unit::Camera) + '.' + region.key);
+    for (const device_settings::OptionalRegion &region : device_settings::optionalRegions) {
+        const auto place = device_settings::findSetting(
+            session.settings(), keyOf(Unit::Camera) + ".roi" + std::to_string(region.number) + ".x1");
         const auto step = std::find_if(steps.begin(), steps.end(),
                                        [&](const Step &each) { return each.setting == place->setting; });
         if (step != steps.end()) {
-            foundFlags.*region.flag = step->found[0] != 0;
-            wantedFlags.*region.flag = step->wanted[0] != 0;
+            foundFlags.*region.flag = device_settings::isRegionOn(step->found[0]);
+            wantedFlags.*region.flag = device_settings::isRegionOn(step->wanted[0]);
         } else {
-            const bool isOn{readSurely(place->unit, *place->setting)[0] != 0};
+            const bool isOn{device_settings::isRegionOn(readSurely(place->unit, *place->setting)[0])};
             foundFlags.*region.flag = isOn;
             wantedFlags.*region.flag = isOn;
         }

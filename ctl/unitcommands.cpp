@@ -4,6 +4,7 @@
 #include "commands.h"
 #include "escaped.h"
 #include "fieldtext.h"
+#include "firmwaretext.h"
 #include "messages.h"
 #include "ports.h"
 #include "values.h"
@@ -21,41 +22,13 @@ namespace ctl
 namespace
 {
 
-/// The hexadecimal digit of a version word, the least significant first.
-std::string digit(std::uint32_t word, unsigned place)
+std::string firmwareText(Unit unit, bool ofProcessor, std::uint16_t word)
 {
-    std::ostringstream text;
-    text << std::hex << ((word >> (4 * place)) & 0xfU);
-    return text.str();
-}
-
-std::string dotted(std::uint32_t word, unsigned first)
-{
-    std::string text{digit(word, first)};
-    for (unsigned place{first}; place > 0; --place) {
-        text += '.' + digit(word, place - 1);
-    }
-    return text;
-}
-
-/// As the window's log has it.
-std::string processorText(Unit unit, std::uint32_t word)
-{
+    using namespace device_settings;
     if (unit == Unit::Camera) {
-        return dotted(word, 2);
+        return ofProcessor ? cameraProcessorText(word) : cameraFpgaText(word);
     }
-    return digit(word, 3) + '.' + digit(word, 2) + '.' + digit(word, 1) + " Beta" + digit(word, 0);
-}
-
-std::string fpgaText(Unit unit, std::uint32_t word)
-{
-    if (unit == Unit::BlendUnit) {
-        return dotted(word, 3);
-    }
-    constexpr std::uint32_t nineHertz{1U << 12U};
-    constexpr std::uint32_t mipi{1U << 13U};
-    return dotted(word, 2) + ((word & mipi) != 0 ? " MIPI" : "") +
-           ((word & nineHertz) != 0 ? " 9Hz" : " 60Hz");
+    return ofProcessor ? blendUnitProcessorText(word) : blendUnitFpgaText(word);
 }
 
 std::string bitText(double word)
@@ -86,8 +59,7 @@ std::string shown(const device_settings::Place &place, double number)
 {
     const std::string &key = place.setting->key;
     if (key == "firmwareVersions") {
-        const auto word = static_cast<std::uint32_t>(number);
-        return place.field == 0 ? processorText(place.unit, word) : fpgaText(place.unit, word);
+        return firmwareText(place.unit, place.field == 0, static_cast<std::uint16_t>(number));
     }
     if (key == "bitStatus") {
         return bitText(number);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Image settings of the Blend Unit: reading, zoom, warp, the visible channel and saving.
 #include "encodings.h"
+#include "firmwaretext.h"
 #include "logtext.h"
 #include "mainwindow.h"
 #include "ui_mainwindow.h"
@@ -12,7 +13,6 @@
 
 #include <QString>
 
-#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -45,12 +45,8 @@ bool MainWindow::readBlendUnitParameters()
     if (!versions) {
         return false;
     }
-    const auto topDigits = [](std::uint16_t word) {
-        return versionDigit(word, 3) + '.' + versionDigit(word, 2) + '.' + versionDigit(word, 1);
-    };
-    appendLog("RISC-V version = " + topDigits(versions->processor) + " Beta" +
-              versionDigit(versions->processor, 0) + "\nFPGA version = " + topDigits(versions->fpga) + '.' +
-              versionDigit(versions->fpga, 0));
+    appendLog("RISC-V version = " + device_settings::blendUnitProcessorText(versions->processor) +
+              "\nFPGA version = " + device_settings::blendUnitFpgaText(versions->fpga));
     appendLog(joinText("Serial number = ", device->getSerialNumber()));
     readVideoMode();
     readZoom(fusionZoom);

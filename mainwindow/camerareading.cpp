@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 // Reading the camera: its whole user-level state into the controls and the log.
 #include "encodings.h"
+#include "firmwaretext.h"
 #include "logtext.h"
 #include "mainwindow.h"
+#include "optionalregions.h"
 #include "region.h"
 #include "sliderpair.h"
 #include "togglesetting.h"
@@ -25,22 +27,6 @@
 
 using namespace veltrix_sdk;
 
-namespace
-{
-
-/// What bits 12 and 13 of the camera's FPGA word say about the build.
-const char *fpgaBuild(std::uint16_t fpga)
-{
-    const bool nineHertz{(fpga & 0x1000U) != 0};
-    const bool mipi{(fpga & 0x2000U) != 0};
-    if (mipi) {
-        return nineHertz ? " MIPI 9Hz" : " MIPI 60Hz";
-    }
-    return nineHertz ? " 9Hz" : " 60Hz";
-}
-
-} // namespace
-
 bool MainWindow::readCameraParameters()
 {
     if (tellNotConnected()) {
@@ -51,8 +37,8 @@ bool MainWindow::readCameraParameters()
     if (!versions) {
         return false;
     }
-    appendLog("RISC-V version = " + versionText(versions->processor) +
-              "\nFPGA version = " + versionText(versions->fpga) + fpgaBuild(versions->fpga));
+    appendLog("RISC-V version = " + device_settings::cameraProcessorText(versions->processor) +
+              "\nFPGA version = " + device_settings::cameraFpgaText(versions->fpga));
     readIdentity();
     readOutputs();
     readFlipAndPolarity();
@@ -150,7 +136,7 @@ void MainWindow::readRegions()
         const RegionWidgets widgets{regionWidgets(*ui, regions[place].region)};
         const auto &[x1, y1, x2, y2] = pixels[place];
         if (widgets.enable != nullptr) {
-            widgets.enable->setChecked(x1 != 0);
+            widgets.enable->setChecked(device_settings::isRegionOn(x1));
         }
         const struct
         {

@@ -29,18 +29,6 @@ inline std::string hexText(std::uint32_t value)
     return stream.str();
 }
 
-/// One of the four hexadecimal digits of a version word; 3 is the most significant.
-inline std::string versionDigit(std::uint16_t word, unsigned digit)
-{
-    return hexText((static_cast<std::uint32_t>(word) >> (4 * digit)) & 0xFU);
-}
-
-/// The three low digits of a version word with dots between them: major, minor, patch.
-inline std::string versionText(std::uint16_t word)
-{
-    return versionDigit(word, 2) + '.' + versionDigit(word, 1) + '.' + versionDigit(word, 0);
-}
-
 /// The word for an on/off state.
 inline const char *enabledWord(bool enabled)
 {

@@ -57,14 +57,11 @@ std::optional<Place> findSetting(const std::vector<Setting> &table, std::string_
 
 RegionFlags readRegionFlags(Device &device)
 {
-    // The getters and the setters give 1 and 2 to different regions, and nothing translates between them: a
-    // region is kept under the number that it was set under. So the setters' numbers are read with here, and
-    // writeField reads and sends a region under one number.
-    const auto isOn = [&](std::int32_t region) {
-        return device.getRoiX1(static_cast<std::uint32_t>(region)) != 0;
-    };
-    using namespace veltrix_sdk::setter_region;
-    return {isOn(roi1Inclusive), isOn(roi0Exclusive), isOn(roi1Exclusive)};
+    RegionFlags flags;
+    for (const OptionalRegion &region : optionalRegions) {
+        flags.*region.flag = isRegionOn(device.getRoiX1(static_cast<std::uint32_t>(region.number)));
+    }
+    return flags;
 }
 
 std::optional<Values> readAll(Device &device, const Setting &setting)

@@ -4,6 +4,7 @@
 // written.
 #pragma once
 
+#include "optionalregions.h"
 #include "values.h"
 #include "veltrix_sdk/device_control.h"
 #include "veltrix_sdk/numbers.h"
@@ -65,15 +66,6 @@ struct Field
     /// where a number speaks for itself.
     std::vector<std::string> words{};
     Scale scale{};
-};
-
-/// Which of the optional regions are on. No operation reads it; the first column of a region that is off is
-/// 0.
-struct RegionFlags
-{
-    bool roi1Inclusive{false};
-    bool roi0Exclusive{false};
-    bool roi1Exclusive{false};
 };
 
 using Device = veltrix_sdk::IDeviceControl;

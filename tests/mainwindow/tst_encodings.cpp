@@ -52,9 +52,6 @@ private slots:
     void joinsPiecesInOrder();
     void writesHexadecimalDigits_data();
     void writesHexadecimalDigits();
-    void writesVersionWords_data();
-    void writesVersionWords();
-    void takesEachVersionDigit();
     void namesOnOffStates();
 };
 
@@ -368,35 +365,6 @@ void EncodingsTest::writesHexadecimalDigits()
     QFETCH(const quint32, value);
     QFETCH(const QString, text);
     QCOMPARE(QString::fromStdString(hexText(value)), text);
-}
-
-void EncodingsTest::writesVersionWords_data()
-{
-    QTest::addColumn<int>("word");
-    QTest::addColumn<QString>("text");
-    const auto row = [](int word, const char *text) {
-        QTest::newRow(text) << word << text;
-    };
-    row(0x0000, "0.0.0");
-    row(0x0123, "1.2.3");
-    row(0x3456, "4.5.6");
-    row(0x0A0F, "a.0.f");
-    row(0xFFFF, "f.f.f");
-}
-
-void EncodingsTest::writesVersionWords()
-{
-    QFETCH(const int, word);
-    QFETCH(const QString, text);
-    QCOMPARE(QString::fromStdString(versionText(static_cast<std::uint16_t>(word))), text);
-}
-
-void EncodingsTest::takesEachVersionDigit()
-{
-    QCOMPARE(versionDigit(0x1A3C, 3), std::string{"1"});
-    QCOMPARE(versionDigit(0x1A3C, 2), std::string{"a"});
-    QCOMPARE(versionDigit(0x1A3C, 1), std::string{"3"});
-    QCOMPARE(versionDigit(0x1A3C, 0), std::string{"c"});
 }
 
 void EncodingsTest::namesOnOffStates()

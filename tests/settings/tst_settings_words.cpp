@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // The numbers of the settings in the words and units of operators: those of the window, and back.
 #include "fieldtext.h"
+#include "firmwaretext.h"
 #include "heldvalues.h"
 #include "testclass.h"
 #include "values.h"
@@ -14,6 +15,7 @@
 #include <QTest>
 #include <QXmlStreamReader>
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -40,6 +42,8 @@ private slots:
     void anEmptyRangeAllowsNothing();
     void everyKindHasAName_data();
     void everyKindHasAName();
+    void saysVersionsOfTheFirmware_data();
+    void saysVersionsOfTheFirmware();
     void theSimulatorsTableHasKindsAndRanges();
 };
 
@@ -274,6 +278,41 @@ void SettingsWordsTest::everyKindHasAName()
 {
     QFETCH(const int, kind);
     QCOMPARE(kindName(static_cast<Kind>(kind)), std::string{QTest::currentDataTag()});
+}
+
+void SettingsWordsTest::saysVersionsOfTheFirmware_data()
+{
+    QTest::addColumn<int>("word");
+    QTest::addColumn<QString>("camera");
+    QTest::addColumn<QString>("cameraFpga");
+    QTest::addColumn<QString>("blendUnit");
+    QTest::addColumn<QString>("blendUnitFpga");
+    const auto row = [](int word, const char *camera, const char *cameraFpga, const char *blendUnit,
+                        const char *blendUnitFpga) {
+        QTest::addRow("%04x", static_cast<unsigned>(word))
+            << word << QString{camera} << QString{cameraFpga} << QString{blendUnit} << QString{blendUnitFpga};
+    };
+    row(0x0000, "0.0.0", "0.0.0 60Hz", "0.0.0 Beta0", "0.0.0.0");
+    row(0x0123, "1.2.3", "1.2.3 60Hz", "0.1.2 Beta3", "0.1.2.3");
+    row(0x1A3C, "a.3.c", "a.3.c 9Hz", "1.a.3 Betac", "1.a.3.c");
+    row(0x2456, "4.5.6", "4.5.6 MIPI 60Hz", "2.4.5 Beta6", "2.4.5.6");
+    row(0x3456, "4.5.6", "4.5.6 MIPI 9Hz", "3.4.5 Beta6", "3.4.5.6");
+    row(0xCA0F, "a.0.f", "a.0.f 60Hz", "c.a.0 Betaf", "c.a.0.f");
+    row(0xFFFF, "f.f.f", "f.f.f MIPI 9Hz", "f.f.f Betaf", "f.f.f.f");
+}
+
+void SettingsWordsTest::saysVersionsOfTheFirmware()
+{
+    QFETCH(const int, word);
+    QFETCH(const QString, camera);
+    QFETCH(const QString, cameraFpga);
+    QFETCH(const QString, blendUnit);
+    QFETCH(const QString, blendUnitFpga);
+    const auto version = static_cast<std::uint16_t>(word);
+    QCOMPARE(QString::fromStdString(cameraProcessorText(version)), camera);
+    QCOMPARE(QString::fromStdString(cameraFpgaText(version)), cameraFpga);
+    QCOMPARE(QString::fromStdString(blendUnitProcessorText(version)), blendUnit);
+    QCOMPARE(QString::fromStdString(blendUnitFpgaText(version)), blendUnitFpga);
 }
 
 void SettingsWordsTest::theSimulatorsTableHasKindsAndRanges()
