@@ -4,6 +4,7 @@
 #include "badpixels.h"
 
 #include "escaped.h"
+#include "filenames.h"
 #include "files.h"
 #include "interruption.h"
 #include "messages.h"
@@ -106,7 +107,7 @@ veltrix_simulator::BprTable tableIn(const std::string &name)
 {
     QFile file{QString::fromStdString(name)};
     if (!file.open(QIODevice::ReadOnly)) {
-        throw Failure{wrongUse, escaped(name) + ": " + escaped(file.errorString().toStdString()) +
+        throw Failure{wrongUse, shownName(name) + ": " + escaped(file.errorString().toStdString()) +
                                     "; \"pilotel-ctl bad-pixels read\" fetches the table of a unit"};
     }
     constexpr qint64 most{1'000'000};
@@ -114,7 +115,7 @@ veltrix_simulator::BprTable tableIn(const std::string &name)
     auto parsed =
         veltrix_simulator::parseBprFile({bytes.constData(), static_cast<std::size_t>(bytes.size())});
     if (const auto *const reason = std::get_if<std::string>(&parsed)) {
-        throw Failure{wrongUse, escaped(name) + ": " + escaped(*reason)};
+        throw Failure{wrongUse, shownName(name) + ": " + escaped(*reason)};
     }
     return std::get<veltrix_simulator::BprFile>(parsed).table;
 }

@@ -5,6 +5,7 @@
 
 #include "calls/tracefile.h"
 #include "escaped.h"
+#include "filenames.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -27,8 +28,7 @@ bool isReplaced(const QString &name)
 
 Failure notWritten(ExitStatus status, const std::string &file, const QIODevice &device)
 {
-    return Failure{status,
-                   sdk_check::escaped(file) + ": " + sdk_check::escaped(device.errorString().toStdString())};
+    return Failure{status, shownName(file) + ": " + sdk_check::escaped(device.errorString().toStdString())};
 }
 
 /// Whether there is a plain file that begins like one.
@@ -46,8 +46,8 @@ bool isRecording(const QString &name)
 void refuseRecording(const std::string &file)
 {
     if (isRecording(QString::fromStdString(file))) {
-        throw Failure{wrongUse, sdk_check::escaped(file) +
-                                    ": this is a recording, and is left as it is; name another file"};
+        throw Failure{wrongUse,
+                      shownName(file) + ": this is a recording, and is left as it is; name another file"};
     }
 }
 

@@ -3,8 +3,8 @@
 // A picture of what was read over a time.
 #include "plot.h"
 
-#include "escaped.h"
 #include "failure.h"
+#include "filenames.h"
 #include "files.h"
 
 #include <QByteArray>
@@ -87,7 +87,7 @@ void Plot::write(const std::string &title, const std::string &quantity, const st
     drawing.closeWriteChannel();
     if (!drawing.waitForFinished(mostMilliseconds) || drawing.exitStatus() != QProcess::NormalExit ||
         drawing.exitCode() != 0) {
-        throw Failure{refused, sdk_check::escaped(file) + ": the curves could not be drawn"};
+        throw Failure{refused, shownName(file) + ": the curves could not be drawn"};
     }
     writeWhole(file, drawing.readAllStandardOutput(), refused);
 }

@@ -6,6 +6,7 @@
 #include "escaped.h"
 #include "failure.h"
 #include "fieldtext.h"
+#include "filenames.h"
 #include "files.h"
 #include "messages.h"
 #include "names.h"
@@ -68,7 +69,7 @@ public:
 
     [[noreturn]] void fail(const TomlPosition &position, const std::string &reason) const
     {
-        throw Failure{wrongUse, sdk_check::escaped(fileName) + ':' + std::to_string(position.line) + ':' +
+        throw Failure{wrongUse, shownName(fileName) + ':' + std::to_string(position.line) + ':' +
                                     std::to_string(position.column) + ": " + reason};
     }
 
@@ -207,7 +208,7 @@ ExitStatus writeProfile(const std::string &file, const std::string &comment,
         return done;
     }
     writeWhole(file, QByteArray::fromStdString(text), wrongUse);
-    std::cout << countedSettings(lines.size()) << " saved in " << sdk_check::escaped(file) << std::endl;
+    std::cout << countedSettings(lines.size()) << " saved in " << shownName(file) << std::endl;
     return done;
 }
 
@@ -266,8 +267,8 @@ Profile readProfile(const std::string &fileName, const std::vector<Setting> &tab
 {
     QFile file{QString::fromStdString(fileName)};
     if (!file.open(QIODevice::ReadOnly)) {
-        throw Failure{wrongUse, sdk_check::escaped(fileName) + ": " +
-                                    sdk_check::escaped(file.errorString().toStdString())};
+        throw Failure{wrongUse,
+                      shownName(fileName) + ": " + sdk_check::escaped(file.errorString().toStdString())};
     }
     const QByteArray text{file.read(static_cast<qint64>(veltrix_simulator::largestScenario) + 1)};
     return parseProfile(fileName, {text.constData(), static_cast<std::size_t>(text.size())}, table);

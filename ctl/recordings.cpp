@@ -4,6 +4,7 @@
 #include "recordings.h"
 
 #include "escaped.h"
+#include "filenames.h"
 #include "messages.h"
 #include "output/clock.h"
 #include "profile.h"
@@ -86,10 +87,10 @@ void readAll(const std::string &name, Function function, bool isShown)
     // Qt says best why a file cannot be read.
     QFile file{QString::fromStdString(name)};
     if (!file.open(QIODevice::ReadOnly)) {
-        throw Failure{wrongUse, escaped(name) + ": " + escaped(file.errorString().toStdString())};
+        throw Failure{wrongUse, shownName(name) + ": " + escaped(file.errorString().toStdString())};
     }
     std::ifstream input{std::filesystem::u8path(name), std::ios::binary};
-    RecordingReader reader{input, escaped(name)};
+    RecordingReader reader{input, shownName(name)};
     ReadMegabytes progress{isShown ? 0 : file.size()};
     try {
         while (const std::optional<RecordedLine> line = reader.next()) {
@@ -100,7 +101,10 @@ void readAll(const std::string &name, Function function, bool isShown)
             }
         }
     } catch (const veltrix_simulator::RecordingError &error) {
-        throw Failure{wrongUse, printable(error.message())};
+        // The name of the file is fit to be shown already.
+        throw Failure{
+            wrongUse,
+            veltrix_simulator::RecordingError{error.file, error.line, printable(error.text)}.message()};
     }
     if (const std::optional<std::string> cut = reader.cut()) {
         tell(*cut);
@@ -185,7 +189,7 @@ ExitStatus saveRecordedProfile(const std::string &file, const std::string &profi
     readAll(file, Collector{settings}, false);
     const std::vector<ProfileLine> lines{settings.lines()};
     if (lines.empty()) {
-        throw Failure{wrongUse, escaped(file) + ": the recording shows no setting of either unit"};
+        throw Failure{wrongUse, shownName(file) + ": the recording shows no setting of either unit"};
     }
     return writeProfile(profile, settings.comment(), lines);
 }

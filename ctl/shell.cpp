@@ -6,6 +6,7 @@
 #include "commandline.h"
 #include "completion.h"
 #include "escaped.h"
+#include "filenames.h"
 #include "interruption.h"
 #include "lineeditor.h"
 #include "messages.h"
@@ -72,7 +73,7 @@ ExitStatus runLines(Session &session, QFile &lines, const std::string &name)
 {
     std::string begin{"line "};
     if (!name.empty()) {
-        begin = sdk_check::escaped(name) + ':';
+        begin = shownName(name) + ':';
     }
     ExitStatus status{done};
     for (int number{1}; status == done; ++number) {
@@ -149,8 +150,8 @@ ExitStatus runShell(Session &session, const std::string &file)
     const bool isOpen{file.empty() ? lines.open(stdin, QIODevice::ReadOnly)
                                    : lines.open(QIODevice::ReadOnly)};
     if (!isOpen) {
-        throw Failure{wrongUse, sdk_check::escaped(file) + ": " +
-                                    sdk_check::escaped(lines.errorString().toStdString())};
+        throw Failure{wrongUse,
+                      shownName(file) + ": " + sdk_check::escaped(lines.errorString().toStdString())};
     }
     return runLines(session, lines, file);
 }

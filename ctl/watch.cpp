@@ -4,6 +4,7 @@
 #include "watch.h"
 
 #include "escaped.h"
+#include "filenames.h"
 #include "files.h"
 #include "interruption.h"
 #include "messages.h"
@@ -193,7 +194,7 @@ private:
         if (!csvAlone()) {
             refuseRecording(watch.csvFile);
             if (!csv.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
-                throw Failure{wrongUse, sdk_check::escaped(watch.csvFile) + ": " +
+                throw Failure{wrongUse, shownName(watch.csvFile) + ": " +
                                             sdk_check::escaped(csv.errorString().toStdString())};
             }
         }
@@ -212,7 +213,7 @@ private:
         }
         csv.write(QByteArray::fromStdString(line));
         if (!csv.flush()) {
-            throw Failure{refused, sdk_check::escaped(watch.csvFile) + ": " +
+            throw Failure{refused, shownName(watch.csvFile) + ": " +
                                        sdk_check::escaped(csv.errorString().toStdString())};
         }
     }
