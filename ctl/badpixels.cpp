@@ -210,6 +210,9 @@ ExitStatus declareBadPixels(Session &session, Unit unit, const Pixels &pixels, b
 
 ExitStatus listBadPixels(Session &session, Unit unit, const std::string &file, const std::string &picture)
 {
+    if (!picture.empty()) {
+        refuseRecording(picture, session.recording());
+    }
     const std::vector<Pixel> bad{badOf(tableIn(file.empty() ? fileNameOf(session, unit) : file))};
     for (const Pixel &pixel : bad) {
         std::cout << textOf(pixel) << '\n';

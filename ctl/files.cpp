@@ -31,6 +31,14 @@ Failure notWritten(ExitStatus status, const std::string &file, const QIODevice &
     return Failure{status, shownName(file) + ": " + sdk_check::escaped(device.errorString().toStdString())};
 }
 
+/// A file by the path that leads there without links, whether it exists or not.
+QString placeOf(const std::string &name)
+{
+    const QFileInfo file{QString::fromStdString(name)};
+    return file.exists() ? file.canonicalFilePath()
+                         : QFileInfo{file.absolutePath()}.canonicalFilePath() + '/' + file.fileName();
+}
+
 /// Whether there is a plain file that begins like one.
 bool isRecording(const QString &name)
 {
@@ -48,6 +56,15 @@ void refuseRecording(const std::string &file)
     if (isRecording(QString::fromStdString(file))) {
         throw Failure{wrongUse,
                       shownName(file) + ": this is a recording, and is left as it is; name another file"};
+    }
+}
+
+void refuseRecording(const std::string &file, const std::string &recordingOfCalls)
+{
+    refuseRecording(file);
+    if (!recordingOfCalls.empty() && placeOf(file) == placeOf(recordingOfCalls)) {
+        throw Failure{wrongUse,
+                      shownName(file) + ": the calls to the library are recorded there; name another file"};
     }
 }
 

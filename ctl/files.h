@@ -16,6 +16,10 @@ namespace ctl
 /// Failure of wrong use.
 void refuseRecording(const std::string &file);
 
+/// The same, and that the calls of this program, if they are recorded, go to another file: for a file that is
+/// written at the end of a command, before the command calls anything.
+void refuseRecording(const std::string &file, const std::string &recordingOfCalls);
+
 /// Makes sure that a file can be written and is no recording, and leaves it as it is; else a Failure of wrong
 /// use.
 void tryToWrite(const std::string &file);

@@ -4,6 +4,7 @@
 #include "changes.h"
 #include "commands.h"
 #include "fieldtext.h"
+#include "files.h"
 #include "messages.h"
 #include "names.h"
 #include "profile.h"
@@ -77,6 +78,9 @@ void writeDifference(const Difference &difference)
 
 ExitStatus saveProfile(Session &session, const std::string &file)
 {
+    if (file != "-") {
+        refuseRecording(file, session.recording());
+    }
     const std::string comment{commentOf(session)};
     const std::vector<ProfileLine> lines{readLines(session)};
     return writeProfile(file, comment, lines);

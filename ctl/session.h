@@ -65,6 +65,8 @@ public:
     void close();
     /// The port of the device, as it was given or found.
     const std::string &port() const { return link.port; }
+    /// The file that the calls are recorded in; empty: none.
+    const std::string &recording() const { return link.recording; }
     /// The device with this unit addressed. A unit is asked for its versions before anything else.
     Device &on(Unit unit);
     /// What the unit answers. A unit that is found to be gone ends the command.

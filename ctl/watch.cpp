@@ -122,7 +122,11 @@ public:
 
     ExitStatus run()
     {
+        if (!watch.csvFile.empty() && !csvAlone()) {
+            refuseRecording(watch.csvFile, session.recording());
+        }
         if (!watch.plotFile.empty()) {
+            refuseRecording(watch.plotFile, session.recording());
             plot.emplace(watch.plotFile);
         }
         session.open();

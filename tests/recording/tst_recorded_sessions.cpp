@@ -79,6 +79,8 @@ private slots:
 #endif
     void nothingElseTakesThePlaceOfARecording_data();
     void nothingElseTakesThePlaceOfARecording();
+    void noCommandWritesWhereItRecords_data();
+    void noCommandWritesWhereItRecords();
     void unwritableFileIsTold_data();
     void unwritableFileIsTold();
     void fullDiskEndsTheRecording();
@@ -328,17 +330,16 @@ void RecordedSessionsTest::linkToNothingIsFollowed()
 void RecordedSessionsTest::nothingElseTakesThePlaceOfARecording_data()
 {
     QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<bool>("records");
-    const auto row = [](const QStringList &arguments, bool records = false) {
-        QTest::addRow("%s", qPrintable(arguments.join(' '))) << arguments << records;
+    const auto row = [](const QStringList &arguments) {
+        QTest::addRow("%s", qPrintable(arguments.join(' '))) << arguments;
     };
 
     row({"recording", "profile", "session.recording", "session.recording"});
     row({"profile", "save", "session.recording"});
-    row({"profile", "save", "--record=session.recording", "session.recording"}, true);
+    row({"profile", "save", "--record=session.recording", "session.recording"});
     row({"watch", "temperatures", "--count", "1", "--csv", "session.recording"});
-    row({"watch", "temperatures", "--count", "1", "--record=session.recording", "--csv", "session.recording"},
-        true);
+    row({"watch", "temperatures", "--count", "1", "--record=session.recording", "--csv",
+         "session.recording"});
     row({"bad-pixels", "list", "--picture", "session.recording"});
 #if defined(HAS_CURVES)
     row({"watch", "temperatures", "--count", "1", "--plot", "session.recording"});
@@ -348,7 +349,6 @@ void RecordedSessionsTest::nothingElseTakesThePlaceOfARecording_data()
 void RecordedSessionsTest::nothingElseTakesThePlaceOfARecording()
 {
     QFETCH(const QStringList, arguments);
-    QFETCH(const bool, records);
     const Folder folder;
     QCOMPARE(folder.run(CTL, {"--record", "session.recording", "list"}).status, 0);
     const QByteArray earlier{folder.read("session.recording")};
@@ -359,8 +359,52 @@ void RecordedSessionsTest::nothingElseTakesThePlaceOfARecording()
              QString{"pilotel-ctl: session.recording: this is a recording, and is left as it is; "
                      "name another file\n"});
     QCOMPARE(outcome.status, 2);
-    QCOMPARE(folder.read(records ? "session.recording.~1~" : "session.recording"), earlier);
-    QVERIFY(folder.read("session.recording").startsWith(R"({"trace":1,"program":)"));
+    QCOMPARE(folder.read("session.recording"), earlier);
+    QCOMPARE(folder.read("session.recording.~1~"), QByteArray{"no file"});
+}
+
+void RecordedSessionsTest::noCommandWritesWhereItRecords_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("recording");
+    const auto row = [](const QStringList &arguments, const QString &recording = "x") {
+        QTest::addRow("%s in %s", qPrintable(arguments.join(' ')), qPrintable(recording))
+            << arguments << recording;
+    };
+    row({"profile", "save", "x"});
+    row({"profile", "save", "x"}, "./x");
+    row({"profile", "save", "x"}, "folder/../x");
+    row({"watch", "temperatures", "--count", "1", "--csv", "x"});
+    row({"bad-pixels", "list", "--picture", "x"});
+#if defined(HAS_CURVES)
+    row({"watch", "temperatures", "--count", "1", "--plot", "x"});
+#endif
+}
+
+void RecordedSessionsTest::noCommandWritesWhereItRecords()
+{
+    QFETCH(const QStringList, arguments);
+    QFETCH(const QString, recording);
+    Folder folder;
+    QVERIFY(QDir{folder.path({})}.mkdir("folder"));
+    const auto refuses = [&](const QStringList &words) {
+        const Outcome outcome{folder.run(CTL, words)};
+        QCOMPARE(outcome.errors,
+                 QString{"pilotel-ctl: x: the calls to the library are recorded there; name another file\n"});
+        QCOMPARE(outcome.output, QString{});
+        QCOMPARE(outcome.status, 2);
+        // Nothing was called, so nothing was recorded either.
+        QCOMPARE(folder.read("x"), QByteArray{"no file"});
+        QVERIFY(!QFile::exists(folder.trace()));
+    };
+    refuses(QStringList{"--record", recording} + arguments);
+    folder.environment.insert("PILOTEL_RECORD", recording);
+    refuses(arguments);
+    // In a line of the shell as well, which has not called anything before.
+    folder.write("commands", arguments.join(' ').toUtf8() + '\n');
+    QVERIFY(folder.run(CTL, {"shell", "commands"})
+                .errors.contains("commands:1: x: the calls to the library are recorded there"));
+    QCOMPARE(folder.read("x"), QByteArray{"no file"});
 }
 
 void RecordedSessionsTest::unwritableFileIsTold_data()
