@@ -5,14 +5,13 @@
 
 #include "commandline.h"
 #include "completion.h"
-#include "escaped.h"
 #include "filenames.h"
+#include "input.h"
 #include "interruption.h"
 #include "lineeditor.h"
 #include "messages.h"
 
-#include <QFile>
-#include <QString>
+#include <QByteArray>
 
 #include <cstddef>
 #include <iostream>
@@ -27,7 +26,7 @@ namespace
 constexpr const char *prompt{"pilotel> "};
 
 /// How many bytes a line of a file may have, without its line feed.
-constexpr qint64 longestLine{100'000};
+constexpr int longestLine{100'000};
 
 /// Runs one line; false when it asks for the end.
 bool runLine(Session &session, const std::vector<std::string> &words, ExitStatus &status)
@@ -68,22 +67,18 @@ ExitStatus talk(Session &session)
     return status;
 }
 
-/// Lines from a file; standard input has an empty name.
-ExitStatus runLines(Session &session, QFile &lines, const std::string &name)
+/// Lines from a file, a pipe or standard input, which have a name in messages.
+ExitStatus runLines(Session &session, Input &lines, const std::string &name)
 {
-    std::string begin{"line "};
-    if (!name.empty()) {
-        begin = shownName(name) + ':';
-    }
     ExitStatus status{done};
     for (int number{1}; status == done; ++number) {
-        // Room for the line feed, and for the zero that Qt may put behind it.
+        // Room for the line feed, and for a byte that is one too many.
         const QByteArray line{lines.readLine(longestLine + 2)};
         if (line.isEmpty()) {
             return status;
         }
         heedInterruption();
-        const std::string place{begin + std::to_string(number) + ": "};
+        const std::string place{name + std::to_string(number) + ": "};
         // What follows in the buffer is no line of its own: it may be the rest of a comment.
         if (line.size() - (line.endsWith('\n') ? 1 : 0) > longestLine) {
             throw Failure{wrongUse, place + "the line has more than " + std::to_string(longestLine) +
@@ -146,14 +141,8 @@ ExitStatus runShell(Session &session, const std::string &file)
     if (file.empty() && LineEditor::somebodyTypes()) {
         return talk(session);
     }
-    QFile lines{QString::fromStdString(file)};
-    const bool isOpen{file.empty() ? lines.open(stdin, QIODevice::ReadOnly)
-                                   : lines.open(QIODevice::ReadOnly)};
-    if (!isOpen) {
-        throw Failure{wrongUse,
-                      shownName(file) + ": " + sdk_check::escaped(lines.errorString().toStdString())};
-    }
-    return runLines(session, lines, file);
+    Input lines{file.empty() ? "-" : file};
+    return runLines(session, lines, file.empty() ? "line " : shownName(Input::nameOf(file)) + ':');
 }
 
 } // namespace ctl
