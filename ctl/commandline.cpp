@@ -147,10 +147,12 @@ private:
         };
         addOne("save", "Writes the settings of both units into a file; - for standard output",
                [&given = arguments](Session &session) { return saveProfile(session, given.file); });
-        addOne("apply", "Sets what a file has; all of it or nothing", [&given = arguments](Session &session) {
-            return applyProfile(session, given.file, given.dryRun);
-        })->add_flag("--dry-run", arguments.dryRun, "Only tells what would be set");
-        addOne("diff", "Tells where the units differ from a file",
+        addOne("apply", "Sets what a file has, all of it or nothing; - for standard input",
+               [&given = arguments](Session &session) {
+                   return applyProfile(session, given.file, given.dryRun);
+               })
+            ->add_flag("--dry-run", arguments.dryRun, "Only tells what would be set");
+        addOne("diff", "Tells where the units differ from a file; - for standard input",
                [&given = arguments](Session &session) { return compareProfile(session, given.file); });
     }
 
@@ -248,8 +250,9 @@ private:
                                         return saveRecordedProfile(given.file, given.profile);
                                     })};
         for (CLI::App *const each : {show, profile}) {
-            each->add_option("FILE", arguments.file,
-                             "What a program recorded, or a trace of the simulated camera")
+            each->add_option(
+                    "FILE", arguments.file,
+                    "What a program recorded, or a trace of the simulated camera; - for standard input")
                 ->required();
         }
         profile->add_option("PROFILE", arguments.profile, "The file to write; standard output if not given");

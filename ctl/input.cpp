@@ -168,4 +168,12 @@ QByteArray Input::readLine(int mostBytes)
     return line;
 }
 
+InputBuffer::int_type InputBuffer::underflow()
+{
+    bytes = input.read();
+    count += bytes.size();
+    setg(bytes.data(), bytes.data(), bytes.data() + bytes.size());
+    return bytes.isEmpty() ? traits_type::eof() : traits_type::to_int_type(bytes.front());
+}
+
 } // namespace ctl

@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <QFile>
 
+#include <streambuf>
 #include <string>
 
 namespace ctl
@@ -41,6 +42,25 @@ private:
     const std::string name;
     QFile file;
     QByteArray ahead; ///< Read, but not yet a part of a line that was asked for.
+};
+
+/// The same bytes for whoever reads a stream.
+class InputBuffer : public std::streambuf
+{
+public:
+    /// The input outlives it.
+    explicit InputBuffer(Input &itsInput) : input{itsInput} {}
+
+    /// How many bytes the stream has taken out of the input.
+    qint64 taken() const { return count; }
+
+protected:
+    int_type underflow() override;
+
+private:
+    Input &input;
+    QByteArray bytes{};
+    qint64 count{0};
 };
 
 } // namespace ctl

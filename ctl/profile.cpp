@@ -8,6 +8,7 @@
 #include "fieldtext.h"
 #include "filenames.h"
 #include "files.h"
+#include "input.h"
 #include "messages.h"
 #include "names.h"
 #include "output/wording.h"
@@ -16,8 +17,6 @@
 #include "values.h"
 
 #include <QByteArray>
-#include <QFile>
-#include <QString>
 
 #include <algorithm>
 #include <charconv>
@@ -265,13 +264,17 @@ Profile parseProfile(const std::string &fileName, std::string_view text, const s
 
 Profile readProfile(const std::string &fileName, const std::vector<Setting> &table)
 {
-    QFile file{QString::fromStdString(fileName)};
-    if (!file.open(QIODevice::ReadOnly)) {
-        throw Failure{wrongUse,
-                      shownName(fileName) + ": " + sdk_check::escaped(file.errorString().toStdString())};
+    Input input{fileName};
+    constexpr int most{static_cast<int>(veltrix_simulator::largestScenario)};
+    QByteArray text;
+    bool isWhole{false};
+    while (!isWhole && text.size() <= most) {
+        const QByteArray more{input.read()};
+        text += more;
+        isWhole = more.isEmpty();
     }
-    const QByteArray text{file.read(static_cast<qint64>(veltrix_simulator::largestScenario) + 1)};
-    return parseProfile(fileName, {text.constData(), static_cast<std::size_t>(text.size())}, table);
+    return parseProfile(Input::nameOf(fileName), {text.constData(), static_cast<std::size_t>(text.size())},
+                        table);
 }
 
 } // namespace ctl

@@ -49,7 +49,7 @@ std::string countedSettings(std::size_t count);
 /// No text can crash it.
 Profile parseProfile(const std::string &fileName, std::string_view text, const std::vector<Setting> &table);
 
-/// Reads a file, of which no more than a profile can have is ever held.
+/// Reads a file, or standard input for "-", of which hardly more than a profile can have is ever held.
 Profile readProfile(const std::string &fileName, const std::vector<Setting> &table);
 
 } // namespace ctl

@@ -5,6 +5,7 @@
 
 #include "escaped.h"
 #include "filenames.h"
+#include "input.h"
 #include "messages.h"
 #include "output/clock.h"
 #include "profile.h"
@@ -13,17 +14,13 @@
 #include "recordings/recordingreader.h"
 #include "session.h"
 
-#include <QFile>
-#include <QIODevice>
-#include <QString>
-
+#include <algorithm>
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
-#include <filesystem>
-#include <fstream>
 #include <iostream>
+#include <istream>
 #include <optional>
 #include <string_view>
 #include <variant>
@@ -56,26 +53,26 @@ std::string printable(std::string_view text)
     return shown;
 }
 
-/// How far the reading of a file is, for who waits for it and sees nothing else.
+/// How far the reading of a file is, for who waits for it and sees nothing else. Nobody knows it of a pipe,
+/// whose size is 0, and a recording may grow while it is read.
 class ReadMegabytes
 {
 public:
-    explicit ReadMegabytes(std::int64_t size) : progress{"Reading megabytes", megabytes(size) + 1} {}
+    explicit ReadMegabytes(std::int64_t size)
+        : total{size == 0 ? 0 : megabytes(size) + 1}, progress{"Reading megabytes", total}
+    {}
 
-    /// Behind the end of the file its place is -1.
     void reached(std::int64_t place)
     {
-        for (; read < megabytes(place); ++read) {
+        for (; read < std::min(megabytes(place), total); ++read) {
             progress.step();
         }
     }
 
 private:
-    static std::size_t megabytes(std::int64_t bytes)
-    {
-        return bytes < 0 ? 0 : static_cast<std::size_t>(bytes / 1'000'000);
-    }
+    static std::size_t megabytes(std::int64_t bytes) { return static_cast<std::size_t>(bytes / 1'000'000); }
 
+    const std::size_t total;
     Progress progress;
     std::size_t read{0};
 };
@@ -84,20 +81,19 @@ private:
 template <typename Function>
 void readAll(const std::string &name, Function function, bool isShown)
 {
-    // Qt says best why a file cannot be read.
-    QFile file{QString::fromStdString(name)};
-    if (!file.open(QIODevice::ReadOnly)) {
-        throw Failure{wrongUse, shownName(name) + ": " + escaped(file.errorString().toStdString())};
-    }
-    std::ifstream input{std::filesystem::u8path(name), std::ios::binary};
-    RecordingReader reader{input, shownName(name)};
-    ReadMegabytes progress{isShown ? 0 : file.size()};
+    Input input{name};
+    InputBuffer bytes{input};
+    std::istream stream{&bytes};
+    // What the input throws is passed on.
+    stream.exceptions(std::ios::badbit);
+    RecordingReader reader{stream, shownName(Input::nameOf(name))};
+    ReadMegabytes progress{isShown ? 0 : input.size()};
     try {
         while (const std::optional<RecordedLine> line = reader.next()) {
             heedInterruption();
             std::visit(function, *line);
             if (!isShown) {
-                progress.reached(input.tellg());
+                progress.reached(bytes.taken());
             }
         }
     } catch (const veltrix_simulator::RecordingError &error) {
@@ -189,7 +185,8 @@ ExitStatus saveRecordedProfile(const std::string &file, const std::string &profi
     readAll(file, Collector{settings}, false);
     const std::vector<ProfileLine> lines{settings.lines()};
     if (lines.empty()) {
-        throw Failure{wrongUse, shownName(file) + ": the recording shows no setting of either unit"};
+        throw Failure{wrongUse,
+                      shownName(Input::nameOf(file)) + ": the recording shows no setting of either unit"};
     }
     return writeProfile(profile, settings.comment(), lines);
 }

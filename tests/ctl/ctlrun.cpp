@@ -9,6 +9,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QJsonValue>
+#include <QProcess>
 #include <QRegularExpression>
 
 namespace
@@ -63,6 +64,18 @@ Outcome CtlFolder::run(const QStringList &arguments)
     outcome.errors.remove(QRegularExpression{"^veltrix.sdk: .*: this fault never happened\n",
                                              QRegularExpression::MultilineOption});
     return outcome;
+}
+
+Outcome CtlFolder::runReading(const QString &file, const QStringList &arguments)
+{
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.setWorkingDirectory(directory.path());
+    process.setStandardInputFile(path(file));
+    process.start(CTL, arguments);
+    const bool exited{process.waitForFinished() && process.exitStatus() == QProcess::NormalExit};
+    return {exited, process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+            QString::fromUtf8(process.readAllStandardError())};
 }
 
 QStringList CtlFolder::calls() const

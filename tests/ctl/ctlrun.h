@@ -28,6 +28,8 @@ public:
 
     /// Runs the program to its end. What the simulator says of faults that did not happen is left out.
     Outcome run(const QStringList &arguments);
+    /// The same with what stands in a file of the folder at its standard input.
+    Outcome runReading(const QString &file, const QStringList &arguments);
     /// The calls of the last run, from its trace, that change the device, such as "setGamma(144179)".
     QStringList commands() const;
     /// All its calls.

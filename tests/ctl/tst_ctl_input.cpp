@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // What the commands read while it comes: from pipes, with and without a name, and what ends the waiting.
 #include "ctlrun.h"
+#include "terminal.h"
 #include "testclass.h"
 
 #include <QByteArray>
@@ -95,6 +96,8 @@ private slots:
     void theShellRunsEachLineAsItComes();
     void aPipeWithANameMayBeWrittenLater();
     void otherSignalsEndNothing();
+    void tellsWhatCannotBeRead();
+    void aPipeHasNoProgressOnATerminal();
 };
 
 void CtlInputTest::aSignalEndsTheWaiting_data()
@@ -112,6 +115,10 @@ void CtlInputTest::aSignalEndsTheWaiting_data()
     }
     row({"shell", "pipe"}, SIGINT);
     row({"shell", "pipe"}, SIGINT, true);
+    row({"profile", "apply", "-"}, SIGINT);
+    row({"profile", "diff", "pipe"}, SIGINT);
+    row({"recording", "show", "-"}, SIGINT);
+    row({"recording", "profile", "pipe"}, SIGINT, true);
 }
 
 void CtlInputTest::aSignalEndsTheWaiting()
@@ -201,6 +208,42 @@ void CtlInputTest::otherSignalsEndNothing()
     QVERIFY(process.waitForFinished());
     QCOMPARE(process.readAllStandardOutput(), QByteArray{"camera.clhe = 2000\n"});
     QCOMPARE(process.exitCode(), 0);
+}
+
+void CtlInputTest::tellsWhatCannotBeRead()
+{
+    CtlFolder folder;
+    for (const QStringList &arguments : {QStringList{"shell"}, QStringList{"profile", "apply", "-"},
+                                         QStringList{"recording", "show", "-"}}) {
+        // A folder opens as standard input, and cannot be read.
+        const Outcome outcome{
+            ::run("/bin/sh", {"-c", QString{CTL} + ' ' + arguments.join(' ') + " < /"}, folder.environment)};
+        QCOMPARE(outcome.errors, QString{"pilotel-ctl: standard input: Is a directory\n"});
+        QCOMPARE(outcome.status, 2);
+    }
+    for (const QStringList &arguments :
+         {QStringList{"shell", "nowhere"}, QStringList{"profile", "apply", "nowhere"},
+          QStringList{"recording", "show", "nowhere"}}) {
+        const Outcome outcome{folder.run(arguments)};
+        QCOMPARE(outcome.errors, QString{"pilotel-ctl: nowhere: No such file or directory\n"});
+        QCOMPARE(outcome.status, 2);
+    }
+}
+
+void CtlInputTest::aPipeHasNoProgressOnATerminal()
+{
+    CtlFolder folder;
+    folder.run({"info"});
+    // More than a megabyte, for longer than a second: then a file would show how far it is.
+    const QByteArray session{folder.read("trace.json")};
+    folder.write("part", session.repeated(1'500'000 / session.size() + 1));
+    Terminal terminal{"/bin/sh",
+                      {"-c", "cd " + folder.path({}) + " && { cat part; sleep 1.2; cat part; } | " + CTL +
+                                 " recording profile -"},
+                      folder.environment};
+    QVERIFY2(terminal.waitFor("the recording shows no setting of either unit"), terminal.seen());
+    QCOMPARE(terminal.end(), 2);
+    QVERIFY2(!terminal.seen().contains("Reading megabytes"), terminal.seen());
 }
 
 PILOTEL_TEST_CLASS(CtlInputTest)

@@ -48,6 +48,8 @@ private slots:
     void refusesAFileThatWasCut();
     void keepsTheOldFileWhenAReadFails();
     void writesToStandardOutput();
+    void readsStandardInput();
+    void readsTheInputOfTheShellOnlyForTheShell();
     void saysWhyAFileIsNotWritten();
 };
 
@@ -386,6 +388,43 @@ void CtlProfilesTest::writesToStandardOutput()
     QCOMPARE(folder.run({"profile", "save", "p.toml"}).status, 0);
     QCOMPARE(folder.run({"profile", "save", "-"}).output.toUtf8(), folder.read("p.toml"));
     QVERIFY(!folder.has("-"));
+}
+
+void CtlProfilesTest::readsStandardInput()
+{
+    CtlFolder folder;
+    folder.write("wanted.toml", "camera.gamma = 144179\n");
+    const Outcome compared{folder.runReading("wanted.toml", {"profile", "diff", "-"})};
+    QCOMPARE(compared.output, lines({"camera.gamma: 65536 (1) -> 144179 (2.2)"}));
+    QCOMPARE(compared.errors, QString{});
+    QCOMPARE(compared.status, 1);
+    const Outcome applied{folder.runReading("wanted.toml", {"profile", "apply", "-"})};
+    QCOMPARE(applied.output,
+             lines({"camera.gamma: 65536 (1) -> 144179 (2.2)", "1 setting set, 0 as they were"}));
+    QCOMPARE(applied.errors, QString{});
+    QCOMPARE(applied.status, 0);
+    folder.write("wanted.toml", "\ncamera.gama = 144179\n");
+    const Outcome wrong{folder.runReading("wanted.toml", {"profile", "apply", "-"})};
+    QCOMPARE(wrong.errors,
+             lines({"pilotel-ctl: standard input:2:8: \"camera.gama\" is no setting of a profile; "
+                    "did you mean \"camera.gamma\"?"}));
+    QCOMPARE(wrong.status, 2);
+}
+
+void CtlProfilesTest::readsTheInputOfTheShellOnlyForTheShell()
+{
+    CtlFolder folder;
+    folder.write("wanted.toml", "camera.gamma = 144179\n");
+    folder.write("commands", "profile apply -\nget camera.gamma\n");
+    const Outcome fromFile{folder.runReading("wanted.toml", {"shell", "commands"})};
+    QCOMPARE(fromFile.output, lines({"camera.gamma: 65536 (1) -> 144179 (2.2)",
+                                     "1 setting set, 0 as they were", "camera.gamma = 144179  # 2.2"}));
+    QCOMPARE(fromFile.status, 0);
+    const Outcome fromInput{folder.runReading("commands", {"shell"})};
+    QCOMPARE(fromInput.output, QString{});
+    QCOMPARE(fromInput.errors,
+             lines({"pilotel-ctl: line 1: standard input: the commands are read from there; name a file"}));
+    QCOMPARE(fromInput.status, 2);
 }
 
 void CtlProfilesTest::saysWhyAFileIsNotWritten()

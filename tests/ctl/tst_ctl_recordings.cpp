@@ -31,6 +31,7 @@ private slots:
     void refusesAWrongFile_data();
     void refusesAWrongFile();
     void saysThatThereIsNoSetting();
+    void readsStandardInput();
 };
 
 namespace
@@ -340,6 +341,25 @@ void CtlRecordingsTest::saysThatThereIsNoSetting()
     QCOMPARE(outcome.errors,
              QStringLiteral("pilotel-ctl: session.trace: the recording shows no setting of either unit\n"));
     QCOMPARE(outcome.status, 2);
+}
+
+void CtlRecordingsTest::readsStandardInput()
+{
+    CtlFolder folder;
+    folder.write("session.trace", header + gammaRead + gammaRead.left(40));
+    for (const QStringList &command :
+         {QStringList{"recording", "show"}, QStringList{"recording", "profile"}}) {
+        const Outcome fromFile{folder.run(command + QStringList{"session.trace"})};
+        const Outcome fromInput{folder.runReading("session.trace", command + QStringList{"-"})};
+        QVERIFY(fromFile.output.contains("70000"));
+        QCOMPARE(fromInput.output, fromFile.output);
+        QCOMPARE(fromInput.errors, QString{fromFile.errors}.replace("session.trace:3:", "standard input:3:"));
+        QVERIFY(fromInput.errors.contains("standard input:3: the last line is cut"));
+        QCOMPARE(fromInput.status, 0);
+    }
+    folder.write("session.trace", header + call("getSerialNumber", "", "9"));
+    QCOMPARE(folder.runReading("session.trace", {"recording", "profile", "-"}).errors,
+             QString{"pilotel-ctl: standard input: the recording shows no setting of either unit\n"});
 }
 
 PILOTEL_TEST_CLASS(CtlRecordingsTest)
