@@ -3,19 +3,16 @@
 // What an action may make the window send.
 #include "asked.h"
 
-#include "controls.h"
 #include "hand.h"
 
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
 #include <QApplication>
+#include <QComboBox>
 #include <QLatin1Char>
-#include <QMap>
 #include <QPoint>
-#include <QRegularExpression>
 #include <QSlider>
 #include <QTabBar>
-#include <QTabWidget>
 
 #include <algorithm>
 #include <optional>
@@ -23,159 +20,162 @@
 namespace
 {
 
-Asked one(const QString &operation)
-{
-    return {{operation}, 1};
-}
-
-/// Every control of the window that sends, by its name.
-QMap<QString, Asked> askingControls()
-{
-    QMap<QString, Asked> controls;
-    for (const Pair &pair : pairs) {
-        const Asked asked{one(QString{pair.call}.section('(', 0, 0))};
-        controls[pair.slider] = asked;
-        controls[pair.box] = asked;
-    }
-    for (const ToggleRow &row : toggleRows) {
-        controls[row.button] = one(QStringLiteral("set") + row.operation);
-    }
-    for (const ChoiceRow &row : choiceRows) {
-        controls[row.comboBox] = one(row.operation);
-    }
-    for (const RegionRow &row : regionRows) {
-        QStringList all;
-        for (const char *const name : {"X1", "X2", "Y1", "Y2"}) {
-            const QString operation{QStringLiteral("setRoi") + name};
-            all.append(operation);
-            controls[QString{row.boxes} + name] = one(operation);
-        }
-        if (row.enable != nullptr) {
-            controls[row.enable] = {all, 4};
-        }
-    }
-    for (const CorrectionRow &row : correctionRows) {
-        controls[row.checkBox] = one(QStringLiteral("set") + row.operation);
-    }
-    for (const VideoModeRow &row : videoModeRows) {
-        controls[row.button] = one("setVideoMode");
-    }
-    for (const BoxRow &row : boxRows) {
-        controls[row.box] =
-            one(qstrcmp(row.sendSlot, "visibleAgcChanged") == 0 ? "setVisibleAgc" : "setVisibleClhe");
-    }
-    controls["startingModeCB"] = one("setStartingMode");
-    controls["FusionConfigureZoomPB"] = one("configureZoom");
-    controls["FusionWarpPB"] = one("setWarp");
-    for (const char *const button : {"saveParamButtonUser", "saveParamFactoryPB"}) {
-        controls[button] = one("saveBlendUnitParameters");
-    }
-    controls["BaudRateConnectCB"] = one("setBaudRate");
-    controls["Principal_tab"] = one("setTarget");
-    for (const char *const button :
-         {"connectDeviceButton", "readParamButtonUser", "readParamButtonExpert", "resetParamButtonUser"}) {
-        controls[button] = {{}, 0, true};
-    }
-    return controls;
-}
-
-Asked times(Asked asked, int count)
-{
-    asked.count *= count;
-    return asked;
-}
+/// Of a key that the hand holds: the first press and its repeats.
+constexpr int pressesWhileHeld{5};
 
 Asked askedFrom(const QWidget *widget)
 {
-    return askedFrom(sendingControl(widget));
+    return ::askedFrom(sendingControl(widget));
+}
+
+/// A spin box sends when it loses the focus; nothing else does.
+Asked askedByLeaving(const QWidget *focused)
+{
+    return qobject_cast<const QAbstractSpinBox *>(focused) != nullptr ? askedFrom(focused) : Asked{};
+}
+
+/// The control that has the focus after that one when an arrow is pressed on a button.
+const QWidget *beside(const QWidget *widget, bool forwards)
+{
+    const QWidget *next{widget};
+    do {
+        next = forwards ? next->nextInFocusChain() : next->previousInFocusChain();
+    } while (next != widget && ((next->focusPolicy() & Qt::TabFocus) == 0 || next->focusProxy() != nullptr ||
+                                !next->isVisible() || !next->isEnabled() || next->isWindow()));
+    return next;
+}
+
+/// What a key without Ctrl and Alt may send in the control that has the focus.
+Asked askedByKeyIn(const QWidget *focused, const QString &key, int presses)
+{
+    static const QStringList enter{QStringLiteral("Return"), QStringLiteral("Enter")};
+    static const QStringList tab{QStringLiteral("Tab"), QStringLiteral("Backtab")};
+    static const QStringList sideways{QStringLiteral("Left"), QStringLiteral("Right")};
+    static const QStringList arrows{sideways + QStringList{QStringLiteral("Up"), QStringLiteral("Down")}};
+    static const QStringList moves{arrows + QStringList{QStringLiteral("PgUp"), QStringLiteral("PgDown"),
+                                                        QStringLiteral("Home"), QStringLiteral("End")}};
+    const Asked own{askedFrom(focused)};
+    if (qobject_cast<const QAbstractSpinBox *>(focused) != nullptr) {
+        // What is stepped is not finished yet. Enter does not repeat while it is held.
+        return enter.contains(key) || tab.contains(key) ? own : Asked{};
+    }
+    if (qobject_cast<const QAbstractButton *>(focused) != nullptr) {
+        if (arrows.contains(key) && presses > 1) {
+            // The first press goes on to the control beside it, which gets the others.
+            const bool forwards{key == QStringLiteral("Right") || key == QStringLiteral("Down")};
+            return askedByKeyIn(beside(focused, forwards), key, presses - 1);
+        }
+        // A button that is held is clicked when it is let go.
+        return key == QStringLiteral("Space") ? own : Asked{};
+    }
+    if (qobject_cast<const QComboBox *>(focused) != nullptr) {
+        // A letter looks for an item that begins with it.
+        return moves.contains(key) || key.size() == 1 ? times(own, presses) : Asked{};
+    }
+    if (qobject_cast<const QSlider *>(focused) != nullptr) {
+        // A key that is held sends at its end.
+        return moves.contains(key) ? own : Asked{};
+    }
+    if (qobject_cast<const QTabBar *>(focused) != nullptr) {
+        return sideways.contains(key) ? times(own, presses) : Asked{};
+    }
+    return {};
+}
+
+/// In a list that is open only the end of the choice counts.
+Asked askedByKeyInList(const QWidget &list, const QString &key)
+{
+    static const QStringList choosing{QStringLiteral("Return"), QStringLiteral("Enter"), QStringLiteral("F4"),
+                                      QStringLiteral("Alt+Down")};
+    return choosing.contains(key) ? askedFrom(list.parentWidget()) : Asked{};
+}
+
+Asked askedByKey(OperatorWindow &test, const QString &key, int presses)
+{
+    if (const QWidget *const list{QApplication::activePopupWidget()}) {
+        return askedByKeyInList(*list, key);
+    }
+    const QWidget *const focused{test.window().focusWidget()};
+    if (key == QStringLiteral("Ctrl+Tab")) {
+        // To the next page.
+        Asked asked{askedByLeaving(focused)};
+        asked += ::askedFrom(QStringLiteral("Principal_tab"));
+        return asked;
+    }
+    return askedByKeyIn(focused, key.section(QLatin1Char{'+'}, -1), presses);
+}
+
+Asked askedByTyping(OperatorWindow &test, const QString &text)
+{
+    const QWidget *const focused{test.window().focusWidget()};
+    const QWidget *const list{QApplication::activePopupWidget()};
+    if (list != nullptr || qobject_cast<const QComboBox *>(focused) != nullptr) {
+        // A space opens the list, a new line closes it, and each letter may choose while it is closed.
+        return times(askedFrom(list != nullptr ? list->parentWidget() : focused), text.size());
+    }
+    Asked asked;
+    for (const QChar character : text) {
+        const bool space{character == QLatin1Char{' '}};
+        const bool newLine{character == QLatin1Char{'\n'}};
+        asked += askedByKeyIn(focused,
+                              space     ? QStringLiteral("Space")
+                              : newLine ? QStringLiteral("Return")
+                                        : QString{character},
+                              1);
+    }
+    // The first space disables these two, and the next one goes to whatever has the focus then.
+    static const QStringList disabled{QStringLiteral("connectDeviceButton"),
+                                      QStringLiteral("disconnectDeviceButton")};
+    asked.all =
+        focused != nullptr && disabled.contains(focused->objectName()) && text.count(QLatin1Char{' '}) > 1;
+    return asked;
 }
 
 /// Who presses somewhere leaves where the focus was, and a list that is open takes the press.
 Asked askedByMouse(OperatorWindow &test, const Action &action)
 {
-    const QWidget *const popup{QApplication::activePopupWidget()};
-    Asked asked{askedFrom(focusOf(test))};
-    if (popup != nullptr) {
-        asked += askedFrom(popup->parentWidget());
-        asked += askedFrom(test.window().focusWidget());
+    Asked asked;
+    const QWidget *const list{QApplication::activePopupWidget()};
+    if (list != nullptr) {
+        asked += askedFrom(list->parentWidget());
     }
+    const QWidget *const focused{test.window().focusWidget()};
     const std::optional<QPoint> place{placeIn(test, action.target, action.x, action.y)};
-    if (place) {
-        const Asked pressed{askedFrom(test.window().childAt(*place))};
-        asked += times(pressed, action.verb == QStringLiteral("dblclick") ? 2 : 1);
+    const QWidget *const pressed{place ? test.window().childAt(*place) : nullptr};
+    if (pressed == nullptr || sendingControl(pressed) != sendingControl(focused)) {
+        asked += askedByLeaving(focused);
+    }
+    const QString control{sendingControl(pressed)};
+    const auto *const worked = test.window().findChild<QWidget *>(control);
+    const bool takesPress{action.verb != QStringLiteral("rclick") &&
+                          qobject_cast<const QAbstractSpinBox *>(worked) == nullptr};
+    if (!control.isEmpty() && takesPress) {
+        const bool workedByEach{qobject_cast<const QAbstractButton *>(worked) != nullptr ||
+                                qobject_cast<const QSlider *>(worked) != nullptr};
+        const bool twice{workedByEach && action.verb == QStringLiteral("dblclick")};
+        asked += times(::askedFrom(control), twice ? 2 : 1);
     }
     return asked;
 }
 
+/// Only a slider that has the focus sends what the wheel does to it, once for each turn.
 Asked askedByWheel(OperatorWindow &test, const Action &action)
 {
-    const QWidget *const popup{QApplication::activePopupWidget()};
-    Asked asked{popup != nullptr ? askedFrom(popup->parentWidget()) : Asked{}};
     const std::optional<QPoint> place{placeIn(test, action.target, action.x, action.y)};
     const QWidget *const focused{focusOf(test)};
-    // Only a slider sends what the wheel does to it.
-    if (place && qobject_cast<const QSlider *>(focused) != nullptr &&
-        test.window().childAt(*place) == focused) {
-        asked += times(askedFrom(focused), std::abs(action.text.toInt()));
-    }
-    return asked;
+    const bool turnsSlider{place && qobject_cast<const QSlider *>(focused) != nullptr &&
+                           test.window().childAt(*place) == focused};
+    return turnsSlider ? askedFrom(focused) : Asked{};
 }
 
-Asked askedByKeys(OperatorWindow &test, const Action &action)
+/// What a script does to a control. A spin box that gets a number has no edit that is finished.
+Asked askedByWork(OperatorWindow &test, const QString &control)
 {
-    const QWidget *const focused{focusOf(test)};
-    const QWidget *const popup{QApplication::activePopupWidget()};
-    const QString &text{action.text};
-    const bool keys{action.verb == QStringLiteral("key") || action.verb == QStringLiteral("hold")};
-    const bool ends{keys
-                        ? text.contains(QStringLiteral("tab"), Qt::CaseInsensitive) ||
-                              text.contains(QStringLiteral("Enter")) ||
-                              text.contains(QStringLiteral("Return")) || text.contains(QStringLiteral("Ctrl"))
-                        : text.contains(QLatin1Char{'\n'})};
-    Asked asked;
-    if (popup != nullptr) {
-        asked += times(askedFrom(popup->parentWidget()), 10);
-    }
-    if (action.verb == QStringLiteral("hold") && qobject_cast<const QAbstractButton *>(focused) != nullptr) {
-        // An arrow that is held goes from a button to the control beside it, and on in that one.
-        asked.anything = true;
-    }
-    // What is typed into a spin box, or stepped there, is not finished; one key finishes it once.
-    const bool inSpinBox{qobject_cast<const QAbstractSpinBox *>(focused) != nullptr};
-    if (!inSpinBox || ends) {
-        const bool once{inSpinBox && action.verb == QStringLiteral("key")};
-        asked += times(askedFrom(focused), once ? 1 : keys ? 6 : std::max(1, text.size()));
-    }
-    if (text.contains(QStringLiteral("Ctrl"))) {
-        // To the next page.
-        asked += askedFrom(QStringLiteral("Principal_tab"));
-        asked += askedFrom(test.window().focusWidget());
-    }
-    return asked;
+    const auto *const worked = test.window().findChild<QWidget *>(control);
+    return qobject_cast<const QAbstractSpinBox *>(worked) != nullptr ? Asked{} : ::askedFrom(control);
 }
 
 } // namespace
-
-Asked askedFrom(const QString &control)
-{
-    static const QMap<QString, Asked> controls{askingControls()};
-    return controls.value(control);
-}
-
-QString sendingControl(const QWidget *widget)
-{
-    for (; widget != nullptr; widget = widget->parentWidget()) {
-        const Asked asked{askedFrom(widget->objectName())};
-        if ((asked.count > 0 || asked.anything) && qobject_cast<const QTabWidget *>(widget) == nullptr) {
-            return widget->objectName();
-        }
-        // Pages are chosen on their bar, which has no name of its own.
-        if (qobject_cast<const QTabBar *>(widget) != nullptr) {
-            return widget->parentWidget()->objectName();
-        }
-    }
-    return {};
-}
 
 QWidget *focusOf(OperatorWindow &test)
 {
@@ -186,65 +186,60 @@ QWidget *focusOf(OperatorWindow &test)
 Asked askedBy(OperatorWindow &test, const Action &action)
 {
     const QString &verb{action.verb};
-    if (verb == QStringLiteral("invoke") || verb == QStringLiteral("work")) {
-        return {{}, 0, true};
-    }
     if (verb == QStringLiteral("wheel")) {
         return askedByWheel(test, action);
     }
-    if (verb == QStringLiteral("key") || verb == QStringLiteral("hold") || verb == QStringLiteral("type") ||
-        verb == QStringLiteral("paste")) {
-        return askedByKeys(test, action);
+    if (verb == QStringLiteral("key")) {
+        return askedByKey(test, action.text, 1);
     }
-    if (verb == QStringLiteral("focus") || verb == QStringLiteral("away") ||
-        verb == QStringLiteral("close")) {
-        return askedFrom(test.window().focusWidget());
+    if (verb == QStringLiteral("hold")) {
+        return askedByKey(test, action.text, pressesWhileHeld);
     }
-    if (verb == QStringLiteral("choose")) {
-        Asked asked{askedFrom(test.window().focusWidget())};
-        asked += times(askedFrom(action.target), action.text.toInt() + 1);
-        return asked;
+    if (verb == QStringLiteral("type")) {
+        return askedByTyping(test, action.text);
     }
-    if (verb == QStringLiteral("edit")) {
-        Asked asked{askedFrom(test.window().focusWidget())};
-        asked += times(askedFrom(action.target), 1 + action.text.count(QLatin1Char{'\n'}));
-        return asked;
-    }
-    if (verb == QStringLiteral("begin")) {
-        const QWidget *const focused{test.window().focusWidget()};
-        return sendingControl(focused) == action.target ? Asked{} : askedFrom(focused);
-    }
-    if (verb == QStringLiteral("page")) {
-        Asked asked{askedFrom(test.window().focusWidget())};
-        asked += askedFrom(QStringLiteral("Principal_tab"));
-        return asked;
+    if (verb == QStringLiteral("paste")) {
+        return askedByKey(test, QStringLiteral("V"), 1);
     }
     if (verb == QStringLiteral("resize") || verb == QStringLiteral("destroy")) {
         return {};
     }
-    return askedByMouse(test, action);
+    const bool byMouse{verb == QStringLiteral("click") || verb == QStringLiteral("dblclick") ||
+                       verb == QStringLiteral("rclick") || verb == QStringLiteral("drag")};
+    if (byMouse) {
+        return askedByMouse(test, action);
+    }
+    // The others may take the focus from a spin box: they give it to another control, send it away, close the
+    // window or the connection, or show a box.
+    const QWidget *const focused{test.window().focusWidget()};
+    const bool stays{(verb == QStringLiteral("begin") || verb == QStringLiteral("edit")) &&
+                     sendingControl(focused) == action.target};
+    Asked asked{stays ? Asked{} : askedByLeaving(focused)};
+    if (verb == QStringLiteral("invoke")) {
+        asked += askedFromHandler(action.target.section(QLatin1Char{'('}, 0, 0), wholeNumberIn(action.text));
+    } else if (verb == QStringLiteral("work")) {
+        asked += askedByWork(test, action.target);
+    } else if (verb == QStringLiteral("choose")) {
+        // To the first item, then downwards.
+        asked += times(askedFrom(action.target), 1 + action.text.toInt());
+    } else if (verb == QStringLiteral("edit")) {
+        asked += times(askedFrom(action.target), 1 + action.text.count(QLatin1Char{'\n'}));
+    } else if (verb == QStringLiteral("page")) {
+        asked += askedFrom(QStringLiteral("Principal_tab"));
+    }
+    return asked;
 }
 
 Asked askedInBoxes(const Action &action, const QStringList &shownBoxes)
 {
-    if (!action.box.startsWith(QStringLiteral("within ")) || shownBoxes.isEmpty()) {
+    if (!action.box.startsWith(QStringLiteral("within "))) {
         return {};
     }
-    static const QRegularExpression regionHandler{QStringLiteral("([xy][12])RoiUserValueChanged")};
-    const QRegularExpressionMatch handler{regionHandler.match(action.box)};
-    if (!handler.hasMatch()) {
-        return {{}, 0, true};
-    }
+    const QString handler{action.box.section(QLatin1Char{' '}, 1).section(QLatin1Char{'('}, 0, 0)};
     // The handlers of the regions do nothing while the box about their order is shown.
-    const auto others = std::count_if(shownBoxes.begin(), shownBoxes.end(), [](const QString &box) {
-        return !box.contains(QStringLiteral("\"ROI\""));
+    const bool ofRegion{handler.endsWith(QStringLiteral("RoiUserValueChanged"))};
+    const auto boxes = std::count_if(shownBoxes.begin(), shownBoxes.end(), [ofRegion](const QString &box) {
+        return !ofRegion || !box.contains(QStringLiteral("\"ROI\""));
     });
-    return times(one(QStringLiteral("setRoi") + handler.captured(1).toUpper()), static_cast<int>(others));
-}
-
-bool isCommand(const QString &operation)
-{
-    static const char *const beginnings[]{"set", "configure", "save", "process", "add", "remove", "write"};
-    return std::any_of(std::begin(beginnings), std::end(beginnings),
-                       [&](const char *beginning) { return operation.startsWith(QLatin1String{beginning}); });
+    return times(askedFromHandler(handler, 0), static_cast<int>(boxes));
 }

@@ -31,18 +31,6 @@
 namespace
 {
 
-/// Whole numbers beyond an int become its nearest limit.
-int toInt(const QString &text)
-{
-    bool whole{false};
-    const int number{text.toInt(&whole)};
-    if (whole) {
-        return number;
-    }
-    return text.startsWith(QLatin1Char{'-'}) ? std::numeric_limits<int>::min()
-                                             : std::numeric_limits<int>::max();
-}
-
 Qt::Key keyIn(const QKeySequence &sequence)
 {
     return static_cast<Qt::Key>(sequence[0] & ~static_cast<int>(Qt::KeyboardModifierMask));
@@ -54,6 +42,17 @@ Qt::KeyboardModifiers modifiersIn(const QKeySequence &sequence)
 }
 
 } // namespace
+
+int wholeNumberIn(const QString &text)
+{
+    bool whole{false};
+    const int number{text.toInt(&whole)};
+    if (whole) {
+        return number;
+    }
+    return text.startsWith(QLatin1Char{'-'}) ? std::numeric_limits<int>::min()
+                                             : std::numeric_limits<int>::max();
+}
 
 std::optional<QPoint> placeIn(OperatorWindow &test, const QString &target, double x, double y)
 {
@@ -305,12 +304,12 @@ bool Hand::work(const Action &action)
     } else if (auto *const comboBox = qobject_cast<QComboBox *>(widget)) {
         comboBox->setCurrentIndex(static_cast<int>(action.x * comboBox->count()));
     } else if (auto *const whole = qobject_cast<QSpinBox *>(widget)) {
-        whole->setValue(toInt(action.text));
+        whole->setValue(wholeNumberIn(action.text));
     } else if (auto *const fractional = qobject_cast<QDoubleSpinBox *>(widget)) {
         fractional->setValue(action.text.toDouble());
     } else if (auto *const slider = qobject_cast<QAbstractSlider *>(widget)) {
         slider->setSliderDown(true);
-        slider->setSliderPosition(toInt(action.text));
+        slider->setSliderPosition(wholeNumberIn(action.text));
         slider->setSliderDown(false);
     } else {
         return false;
@@ -332,7 +331,7 @@ bool Hand::invoke(const QString &signature, const QString &argument)
     }
     const QByteArray parameter{method.parameterTypes().constFirst()};
     if (parameter == "int") {
-        return method.invoke(window, Qt::DirectConnection, Q_ARG(int, toInt(argument)));
+        return method.invoke(window, Qt::DirectConnection, Q_ARG(int, wholeNumberIn(argument)));
     }
     if (parameter == "double") {
         return method.invoke(window, Qt::DirectConnection, Q_ARG(double, argument.toDouble()));

@@ -19,6 +19,10 @@
 /// a tab widget is called `NAME/tabs`.
 std::optional<QPoint> placeIn(OperatorWindow &test, const QString &target, double x, double y);
 
+/// The number that a text gives a handler or a control of whole numbers: one beyond an int becomes its
+/// nearest limit.
+int wholeNumberIn(const QString &text);
+
 /// Does actions. One that cannot be done does nothing.
 class Hand : public QObject
 {

@@ -4,18 +4,20 @@
 #include "promises.h"
 
 #include "calltexts.h"
-#include "loglines.h"
+#include "controls.h"
 #include "oracle.h"
 #include "panelpromises.h"
 
 #include <QAbstractItemModel>
 #include <QAbstractSpinBox>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLatin1Char>
 #include <QPlainTextEdit>
 #include <QTest>
 #include <QTextBlock>
 #include <QTextDocument>
+#include <QtGlobal>
 
 #include <algorithm>
 
@@ -36,39 +38,80 @@ bool isAboutPlatform(const QString &warning)
     return warning.startsWith(QStringLiteral("This plugin does not support"));
 }
 
+QStringList itemsOf(const QComboBox &box)
+{
+    QStringList items;
+    for (int index{0}; index < box.count(); ++index) {
+        items.append(box.itemText(index));
+    }
+    return items;
+}
+
 } // namespace
 
 Promises::Promises(OperatorWindow &itsTest) : test{itsTest}, atStart{panelOf(itsTest.window())}
 {
+    const QTextDocument &log{*test.child<QPlainTextEdit>("logView").document()};
+    blocks = log.blockCount();
+    characters = log.characterCount();
     watchLog();
+    watchWindow();
     QObject::connect(test.child<QComboBox>("selectDeviceComboBox").model(), &QAbstractItemModel::rowsInserted,
                      &context, [this] { scans.push_back(test.simulator.journal().size()); });
 }
 
+/// Most commands write a line. It comes after the command, so the window shows what was sent.
 void Promises::watchLog()
 {
     const QTextDocument *const log{test.child<QPlainTextEdit>("logView").document()};
-    QObject::connect(log, &QTextDocument::contentsChange, &context, [this] {
-        const std::vector<Call> &journal{test.simulator.journal()};
-        if (journal.empty() || journal.back().interface != Interface::Device ||
-            !isCommand(QString::fromStdString(journal.back().operation))) {
-            return;
-        }
-        const std::size_t place{journal.size() - 1};
-        if (sentCommands.empty() || sentCommands.back().place != place) {
-            sentCommands.push_back({place, panelOf(test.window())});
+    QObject::connect(log, &QTextDocument::contentsChange, &context, [this, log] {
+        lookAt();
+        if (log->isEmpty()) {
+            logWasCleared = true;
+            clearedAt = test.simulator.journal().size();
         }
     });
+}
+
+/// These send without a line. The window was connected to them before, so it has sent when this runs.
+void Promises::watchWindow()
+{
+    const auto watch = [this](const char *checkBox) {
+        QObject::connect(&test.child<QCheckBox>(checkBox), &QCheckBox::stateChanged, &context,
+                         [this] { lookAt(); });
+    };
+    for (const CorrectionRow &row : correctionRows) {
+        watch(row.checkBox);
+    }
+    for (const RegionRow &row : regionRows) {
+        if (row.enable != nullptr) {
+            watch(row.enable);
+        }
+    }
+    QObject::connect(&test.child<QComboBox>("BaudRateConnectCB"),
+                     QOverload<int>::of(&QComboBox::currentIndexChanged), &context, [this] { lookAt(); });
+}
+
+void Promises::lookAt()
+{
+    const std::vector<Call> &journal{test.simulator.journal()};
+    const std::size_t begin{pictures.empty() ? 0 : pictures.back().end};
+    if (needPicture(journal, begin)) {
+        pictures.push_back({begin, journal.size(), panelOf(test.window())});
+    }
 }
 
 void Promises::before(const Action &action)
 {
     test.simulator.clearJournal();
     test.boxes.takeShown();
-    sentCommands.clear();
+    pictures.clear();
     scans.clear();
+    logWasCleared = false;
+    portsBefore = itemsOf(test.child<QComboBox>("selectDeviceComboBox"));
     device.begin();
     asked = askedBy(test, action);
+    boxAnswer = action.box;
     const QWidget *const focused{test.window().focusWidget()};
     leftBox =
         qobject_cast<const QAbstractSpinBox *>(focused) != nullptr ? sendingControl(focused) : QString{};
@@ -86,6 +129,7 @@ QString Promises::after(const Action &action)
     followDevice();
     shownBoxes = test.boxes.takeShown();
     asked += askedInBoxes(action, shownBoxes);
+    lookAt();
     const Panel panel{panelOf(test.window())};
     const auto firstOf = [](std::initializer_list<QString> findings) {
         const auto found = std::find_if(findings.begin(), findings.end(),
@@ -94,7 +138,7 @@ QString Promises::after(const Action &action)
     };
     return firstOf({checkCalls(), checkWarnings(), checkLog(action), wronglyEnabled(panel, atStart, device),
                     wrongValue(panel, atStart, test.window()), checkAsked(), checkFinishedEdit(action),
-                    checkSent(), compareWithOracle(action)});
+                    checkSent(action), compareWithOracle(action)});
 }
 
 void Promises::followDevice()
@@ -141,80 +185,106 @@ QString Promises::checkWarnings() const
     return {};
 }
 
-QStringList Promises::knownValues(const Action &action) const
+LoggedTexts Promises::loggedTexts() const
 {
-    QStringList values{action.text, device.port};
-    for (const QComboBox *const box : test.window().findChildren<QComboBox *>()) {
-        for (int index{0}; index < box->count(); ++index) {
-            values.append(box->itemText(index));
-        }
-    }
-    values.removeDuplicates();
-    QStringList lines;
-    for (const QString &value : qAsConst(values)) {
-        lines += value.split(QLatin1Char{'\n'});
-    }
-    return lines;
+    return {
+        // Without a scan there is none to choose, and none is opened.
+        portsBefore + itemsOf(test.child<QComboBox>("selectDeviceComboBox")) + QStringList{QString{}},
+        itemsOf(test.child<QComboBox>("VideoOutputCB")),
+        itemsOf(test.child<QComboBox>("frameRateCB")),
+        itemsOf(test.child<QComboBox>("lutColorEdit")),
+    };
 }
 
-QString Promises::checkLog(const Action &action) const
+QString Promises::checkLog(const Action &action)
 {
-    QStringList logged;
+    const QString wrong{checkView()};
+    return wrong.isEmpty() ? checkRecords(action) : wrong;
+}
+
+QString Promises::checkRecords(const Action &action) const
+{
+    LoggedTexts texts{loggedTexts()};
+    // A script may open a port by its name, and write a line of its own.
+    if (action.target.startsWith(QStringLiteral("openCommunication("))) {
+        texts.ports.append(action.text);
+    }
+    bool mayWrite{action.target.startsWith(QStringLiteral("appendLog("))};
     for (const Call &call : test.simulator.journal()) {
-        if (call.interface == Interface::Log) {
-            logged += recordIn(call).split(QLatin1Char{'\n'});
+        if (call.interface != Interface::Log) {
+            continue;
         }
-    }
-    if (logged.isEmpty()) {
-        return {};
-    }
-    const QStringList values{knownValues(action)};
-    for (const QString &line : qAsConst(logged)) {
-        if (!isLineOfTheProgram(line, values) && !values.contains(line)) {
-            return QStringLiteral("log line: ") + line;
-        }
-    }
-    const QTextDocument &shown{*test.child<QPlainTextEdit>("logView").document()};
-    // The last block is the empty line behind the text; who clears the log meanwhile sees what came later.
-    const int lines{std::min(logged.size(), shown.blockCount() - 1)};
-    QTextBlock block{shown.lastBlock()};
-    for (int place{1}; place <= lines; ++place) {
-        block = block.previous();
-        if (block.text() != logged[logged.size() - place]) {
-            return QStringLiteral("log view: it shows %1 instead of %2")
-                .arg(block.text(), logged[logged.size() - place]);
+        const QString record{recordIn(call)};
+        if (mayWrite && record == action.text) {
+            mayWrite = false;
+        } else if (!isRecordOfTheProgram(record, texts)) {
+            return QStringLiteral("log line: ") + record;
         }
     }
     return {};
 }
 
-QStringList Promises::sentOperations() const
+/// The log view must show what was recorded, as many lines and as many characters, and nothing else.
+QString Promises::checkView()
 {
-    QStringList operations;
-    for (const Call &call : test.simulator.journal()) {
-        const QString operation{QString::fromStdString(call.operation)};
-        if (call.interface != Interface::Log && isCommand(operation)) {
-            operations.append(operation);
+    QStringList added;
+    const std::vector<Call> &journal{test.simulator.journal()};
+    for (std::size_t place{logWasCleared ? clearedAt : 0}; place < journal.size(); ++place) {
+        if (journal[place].interface == Interface::Log) {
+            added += recordIn(journal[place]).split(QLatin1Char{'\n'});
         }
     }
-    return operations;
+    // An empty text has one block and one character. Each line has the character that ends it.
+    int expectedBlocks{(logWasCleared ? 1 : blocks) + added.size()};
+    int expectedCharacters{logWasCleared ? 1 : characters};
+    for (const QString &line : qAsConst(added)) {
+        expectedCharacters += line.size() + 1;
+    }
+    const QTextDocument &shown{*test.child<QPlainTextEdit>("logView").document()};
+    blocks = shown.blockCount();
+    characters = shown.characterCount();
+    // The last block is the empty line behind the text.
+    QTextBlock block{shown.lastBlock()};
+    for (int place{added.size() - 1}; place >= 0; --place) {
+        block = block.previous();
+        if (block.text() != added[place]) {
+            return QStringLiteral("log view: it shows %1 instead of %2").arg(block.text(), added[place]);
+        }
+    }
+    return blocks == expectedBlocks && characters == expectedCharacters
+               ? QString{}
+               : QStringLiteral(
+                     "log view: it has %1 lines and %2 characters instead of %3 and %4, at last %5")
+                     .arg(blocks)
+                     .arg(characters)
+                     .arg(expectedBlocks)
+                     .arg(expectedCharacters)
+                     .arg(shown.lastBlock().previous().text() + shown.lastBlock().text());
+}
+
+/// As calls without their answers.
+QStringList Promises::sentCommands() const
+{
+    QStringList commands;
+    for (const Call &call : test.simulator.journal()) {
+        if (call.interface != Interface::Log && isCommand(QString::fromStdString(call.operation))) {
+            commands.append(textOf(call).section(QStringLiteral(" -> "), 0, 0));
+        }
+    }
+    if (logWasCleared) {
+        commands.append(logCleared);
+    }
+    return commands;
 }
 
 QString Promises::checkAsked() const
 {
-    if (asked.anything) {
-        return {};
-    }
-    const QStringList sent{sentOperations()};
-    const bool allAsked{std::all_of(sent.begin(), sent.end(), [this](const QString &operation) {
-        return asked.operations.contains(operation);
-    })};
-    return allAsked && sent.size() <= asked.count
-               ? QString{}
-               : QStringLiteral("not asked for: sent %1, asked for %2 of %3")
-                     .arg(sent.join(QLatin1Char{' '}))
-                     .arg(asked.count)
-                     .arg(asked.operations.join(QLatin1Char{' '}));
+    const QStringList sent{sentCommands()};
+    const QString tooMuch{asked.notAsked(sent)};
+    return tooMuch.isEmpty() ? QString{}
+                             : QStringLiteral("not asked for: %1; sent %2, asked for %3")
+                                   .arg(tooMuch, sent.join(QLatin1Char{' '}),
+                                        QStringList{asked.commands.keys()}.join(QLatin1Char{' '}));
 }
 
 QString Promises::checkFinishedEdit(const Action &action) const
@@ -222,15 +292,15 @@ QString Promises::checkFinishedEdit(const Action &action) const
     const bool windowEnds{action.verb == QStringLiteral("close") ||
                           action.verb == QStringLiteral("destroy") || !test.window().isVisible()};
     // A read may switch a region off, with its coordinates.
-    if (leftBox.isEmpty() || !wasOpen || windowEnds || (asked.anything && isRegionBox(leftBox))) {
+    if (leftBox.isEmpty() || !wasOpen || windowEnds || (asked.reads && isRegionBox(leftBox))) {
         return {};
     }
     const QWidget *const focused{test.window().focusWidget()};
     const bool isLeft{focused == nullptr || sendingControl(focused) != leftBox};
-    const QStringList ofTheBox{askedFrom(leftBox).operations};
+    const Asked ofTheBox{askedFrom(leftBox)};
     bool closed{false};
     for (const Call &call : test.simulator.journal()) {
-        if (ofTheBox.contains(QString::fromStdString(call.operation))) {
+        if (ofTheBox.has(QString::fromStdString(call.operation))) {
             return {};
         }
         closed = closed || call.operation == "closeDevice";
@@ -239,15 +309,19 @@ QString Promises::checkFinishedEdit(const Action &action) const
                             : QString{};
 }
 
-QString Promises::checkSent() const
+QString Promises::checkSent(const Action &action) const
 {
-    for (const SentCommand &sent : sentCommands) {
-        const QString wrong{wronglySent(sent, test.simulator.journal(), !shownBoxes.isEmpty())};
+    const std::vector<Call> &journal{test.simulator.journal()};
+    const bool scriptInBox{!shownBoxes.isEmpty() && action.box.startsWith(QStringLiteral("within"))};
+    const Circumstances circumstances{asked, !shownBoxes.isEmpty(), scriptInBox};
+    for (const Picture &picture : pictures) {
+        const QString wrong{wronglySent(picture, journal, circumstances)};
         if (!wrong.isEmpty()) {
             return QStringLiteral("value: ") + wrong;
         }
     }
-    return {};
+    const QString wrong{wronglyDeclared(journal, panelOf(test.window()), asked)};
+    return wrong.isEmpty() ? QString{} : QStringLiteral("value: ") + wrong;
 }
 
 bool Promises::isByTheBook(const Action &action) const
@@ -312,14 +386,17 @@ QString Promises::connectsAgain()
         test.simulator.set(std::string{unit} + ".identity", 21);
         test.simulator.set(std::string{unit} + ".firmwareVersions.fpga", 8452);
     }
-    before({QStringLiteral("invoke"), QStringLiteral("disconnectDevice()")});
+    // The hand answers a box as in its last action.
+    Action disconnecting{QStringLiteral("invoke"), QStringLiteral("disconnectDevice()")};
+    disconnecting.box = boxAnswer;
+    before(disconnecting);
     if (QWidget *const focused{test.window().focusWidget()}) {
         focused->clearFocus();
     }
     test.invoke("disconnectDevice");
     test.invoke("scanDevice");
     byTheBook = false;
-    QString wrong{after({QStringLiteral("invoke"), QStringLiteral("disconnectDevice()")})};
+    QString wrong{after(disconnecting)};
     if (!wrong.isEmpty()) {
         return wrong;
     }

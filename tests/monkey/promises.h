@@ -6,6 +6,7 @@
 #include "action.h"
 #include "asked.h"
 #include "deviceside.h"
+#include "loglines.h"
 #include "operatorwindow.h"
 #include "oracle.h"
 #include "panel.h"
@@ -33,17 +34,22 @@ public:
     QString connectsAgain();
 
 private:
+    void watchWindow();
     void watchLog();
+    /// Takes a picture of the window for the commands since the last one.
+    void lookAt();
     void followDevice();
-    QStringList knownValues(const Action &action) const;
+    LoggedTexts loggedTexts() const;
     QString checkCalls() const;
-    QString checkLog(const Action &action) const;
+    QString checkLog(const Action &action);
+    QString checkRecords(const Action &action) const;
+    QString checkView();
     QString checkAsked() const;
     QString checkFinishedEdit(const Action &action) const;
-    QString checkSent() const;
+    QString checkSent(const Action &action) const;
     QString compareWithOracle(const Action &action);
     QString compareAll(Oracle &oracle);
-    QStringList sentOperations() const;
+    QStringList sentCommands() const;
     bool isByTheBook(const Action &action) const;
 
     OperatorWindow &test;
@@ -52,13 +58,21 @@ private:
 
     // Of the action that is under way.
     Asked asked;
+    QString boxAnswer{Action{}.box};
     QString leftBox;     ///< The spin box that had the focus and sends when it is left.
     bool wasOpen{false}; ///< The device, before the action.
     QStringList shownBoxes;
     bool byTheBook{false}; ///< The oracle knows all that comes of the action.
     Panel shownBefore;
     Session sessionBefore;
-    std::vector<SentCommand> sentCommands;
+    std::vector<Picture> pictures;
+    QStringList portsBefore; ///< That could be chosen.
+    bool logWasCleared{false};
+    std::size_t clearedAt{0};       ///< In the journal.
     std::vector<std::size_t> scans; ///< Lengths of the journal when ports were offered.
-    QObject context;                ///< Of the connections.
+
+    // Of the log view after the last action.
+    int blocks{1};
+    int characters{1};
+    QObject context; ///< Of the connections.
 };

@@ -6,19 +6,36 @@
 #include "loglines.h"
 #include "misbehaviour.h"
 #include "reach.h"
+#include "sentby.h"
 #include "shortest.h"
 #include "testclass.h"
 #include "veltrix_simulator/simulator.h"
 
+#include <QByteArray>
 #include <QFile>
 #include <QIODevice>
+#include <QLatin1Char>
 #include <QObject>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <algorithm>
 #include <exception>
 #include <vector>
+
+namespace
+{
+
+/// What a window may repeat in its log.
+const LoggedTexts textsOfWindow{
+    {QStringLiteral("a port"), QStringLiteral("SIM1")},
+    {QStringLiteral("RAW"), QStringLiteral("BT656")},
+    {QStringLiteral("9Hz"), QStringLiteral("60Hz")},
+    {QStringLiteral("GREYSCALE")},
+};
+
+} // namespace
 
 class MonkeyListsTest : public QObject
 {
@@ -30,7 +47,11 @@ private slots:
     void whatWasReachedLeastIsTold();
     void everySeedMakesAScenario();
     void theSameSeedMakesTheSameScenario();
+    void linesOfTheProgramAreKnown_data();
     void linesOfTheProgramAreKnown();
+    void everyLineOfTheTourIsKnown();
+    void everyHandlerThatIsAskedExists();
+    void whatIsMoreThanAskedIsTold();
 };
 
 void MonkeyListsTest::whatIsWrittenIsReadBack()
@@ -116,20 +137,139 @@ void MonkeyListsTest::theSameSeedMakesTheSameScenario()
     QVERIFY(generatedScenario(4711) != generatedScenario(4712));
 }
 
+void MonkeyListsTest::linesOfTheProgramAreKnown_data()
+{
+    QTest::addColumn<QString>("record");
+    QTest::addColumn<bool>("known");
+    for (const char *const record : {
+             "target correctly changed",
+             "Set GAMMA value OK",
+             "Set GAMMA value KO",
+             "Set ROI 0 X1 value OK",
+             "Set ROI -1 Y2 value OK",
+             "Set ROI X1 value KO",
+             "Gamma value = 2.2",
+             "Gamma value = 6.1035e-05",
+             "Fusion ZOOM factor value = inf",
+             "CLHE value = 4.29497e+09",
+             "RISC-V version = 1.3.0 Beta2\nFPGA version = 2.1.0.4",
+             "RISC-V version = 2.1.4\nFPGA version = 3.0.6 MIPI 60Hz",
+             "Correction type = 0\nCorrection gain = 64\nFirst threshold = -30\nSecond threshold = 10",
+             "ROI0 exclusive Y2 value = 4294967295",
+             "Operating time = 73415 min",
+             "Color Lut = GREYSCALE",
+             "Color Lut = ",
+             "Video output = BT656",
+             "Frame rate = 60Hz",
+             "Polarity value = 1",
+             "MIPI output value = Disabled",
+             "BPR table correctly saved to bpr_SN2063.bin.",
+             "Unable to add pixel X:639 Y: 479.",
+             "ALTERNATIVE SERIAL PORT : a port",
+         }) {
+        QTest::newRow(QByteArray{record}.replace('\n', " / ").constData())
+            << QString::fromLatin1(record) << true;
+    }
+    for (const char *const record : {
+             "",
+             "OK",
+             "a port",
+             "GREYSCALE",
+             "60Hz",
+             "2.2",
+             "target wrongly changed",
+             "target correctly changed ",
+             "target correctly changed\n",
+             " target correctly changed",
+             "target correctly changedtarget correctly changed",
+             "Set GAMMA value",
+             "Set GAMMA value OK KO Disabled",
+             "Set GAMMA value OK OK",
+             "Set GAMMA value 2.2 OK",
+             "Set ROI 0 X1 value KO",
+             "Set ROI X1 value OK",
+             "Set ROI 0 Z1 value OK",
+             "Gamma value = much",
+             "Gamma value = ",
+             "Gamma value = 2.2 \x01",
+             "Gamma value = 2.2 2.2",
+             "Serial number = -1",
+             "Serial number = 1.5",
+             "RISC-V version = 2.1.4",
+             "FPGA version = 3.0.6 MIPI 60Hz",
+             "First threshold = -30",
+             "Operating time = 73415",
+             "Polarity value = Enabled",
+             "MIPI output value = 1",
+             "Color Lut = 60Hz",
+             "Frame rate = ",
+             "Video output = GREYSCALE",
+             "ALTERNATIVE SERIAL PORT : another port",
+             "BPR table correctly saved to bpr_SN2063.bin",
+             "Unable to connect to SIM1",
+             "BPR table not read correctly",
+             "ROI 0 X1 must be lower than ROI X2",
+             "Vignetting Correction: Activated",
+         }) {
+        QTest::newRow(QByteArray{record}.replace('\n', " / ").constData())
+            << QString::fromLatin1(record) << false;
+    }
+}
+
 void MonkeyListsTest::linesOfTheProgramAreKnown()
 {
-    const QStringList port{QStringLiteral("a port")};
-    for (const char *const line :
-         {"target correctly changed", "Set GAMMA value KO", "Gamma value = 2.2", "RISC-V version = 2.1.4",
-          "FPGA version = 3.0.6 MIPI 60Hz", "Color Lut = a port",
-          "BPR table correctly saved to bpr_SN2063.bin.", "First threshold = -30",
-          "ROI0 exclusive Y2 value = 4294967295", "Operating time = 73415 min"}) {
-        QVERIFY2(isLineOfTheProgram(QString::fromLatin1(line), port), line);
+    QFETCH(const QString, record);
+    QFETCH(const bool, known);
+    QCOMPARE(isRecordOfTheProgram(record, textsOfWindow), known);
+}
+
+void MonkeyListsTest::everyLineOfTheTourIsKnown()
+{
+    QFile file{QStringLiteral(TOUR_LOG)};
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QStringList lines{QString::fromUtf8(file.readAll()).trimmed().split(QLatin1Char{'\n'})};
+    QVERIFY(lines.size() > 200);
+    for (int place{0}; place < lines.size();) {
+        // The versions and the edge correction are written at once.
+        const int together{lines[place].startsWith(QStringLiteral("RISC-V"))            ? 2
+                           : lines[place].startsWith(QStringLiteral("Correction type")) ? 4
+                                                                                        : 1};
+        const QString record{lines.mid(place, together).join(QLatin1Char{'\n'})};
+        QVERIFY2(isRecordOfTheProgram(record, textsOfWindow), qPrintable(record));
+        QVERIFY2(!isRecordOfTheProgram(record + QStringLiteral(" OK"), textsOfWindow), qPrintable(record));
+        QVERIFY2(!isRecordOfTheProgram(record.chopped(1), textsOfWindow) ||
+                     record.at(record.size() - 2).isDigit(),
+                 qPrintable(record));
+        place += together;
     }
-    for (const char *const line : {"", "target wrongly changed", "Gamma value = much", "2.2", "a port",
-                                   "Gamma value = 2.2 \x01", "Color Lut = another port"}) {
-        QVERIFY2(!isLineOfTheProgram(QString::fromLatin1(line), port), line);
+}
+
+void MonkeyListsTest::everyHandlerThatIsAskedExists()
+{
+    const QStringList signatures{handlers()};
+    for (const QString &handler : sendingHandlers()) {
+        QVERIFY2(!signatures.filter(QRegularExpression{QStringLiteral("^%1\\(").arg(handler)}).isEmpty(),
+                 qPrintable(handler));
     }
+}
+
+void MonkeyListsTest::whatIsMoreThanAskedIsTold()
+{
+    Asked asked{askedFromHandler(QStringLiteral("readParamsExpert"), 0)};
+    const QString targets[]{QStringLiteral("setTarget(0)"), QStringLiteral("setTarget(1)"),
+                            QStringLiteral("setTarget(2)")};
+    QCOMPARE(asked.notAsked({targets[0], targets[1], targets[2]}), QString{});
+    QCOMPARE(asked.notAsked({targets[2], targets[2]}), targets[2]);
+    QCOMPARE(asked.notAsked({targets[1], targets[1], targets[1]}), targets[1]);
+    QCOMPARE(asked.notAsked({QStringLiteral("setGamma(65536)")}), QStringLiteral("setGamma(65536)"));
+    asked += askedFrom(QStringLiteral("gammaSlider"));
+    QCOMPARE(asked.notAsked({QStringLiteral("setGamma(65536)")}), QString{});
+    QCOMPARE(asked.notAsked({QStringLiteral("setGamma(1)"), QStringLiteral("setGamma(2)")}),
+             QStringLiteral("setGamma(2)"));
+    const Asked mode{askedFrom(QStringLiteral("BU_VISIBLE_MODE_PB"))};
+    QCOMPARE(mode.notAsked({QStringLiteral("setVideoMode(1)")}), QString{});
+    QCOMPARE(mode.notAsked({QStringLiteral("setVideoMode(2)")}), QStringLiteral("setVideoMode(2)"));
+    QVERIFY(askedFrom(QStringLiteral("AboutButton")).isEmpty());
 }
 
 PILOTEL_TEST_CLASS(MonkeyListsTest)
