@@ -180,7 +180,7 @@ QString Comparison::target() const
     const int page{shown.index(QStringLiteral("Principal_tab"))};
     const QString came{callIn(call)};
     if (!circumstances.asked.commands.contains(came)) {
-        const QString wrong{unlessEqual(QStringLiteral("setTarget(%1)").arg(page), came)};
+        QString wrong{unlessEqual(QStringLiteral("setTarget(%1)").arg(page), came)};
         if (!wrong.isEmpty()) {
             return wrong;
         }
@@ -370,7 +370,7 @@ QString wronglySent(const Picture &picture, const std::vector<Call> &journal,
 {
     for (std::size_t place{picture.begin}; place < picture.end; ++place) {
         if (isCompared(journal[place])) {
-            const QString wrong{Comparison{journal, place, picture, circumstances}.run()};
+            QString wrong{Comparison{journal, place, picture, circumstances}.run()};
             if (!wrong.isEmpty()) {
                 return wrong;
             }
@@ -395,11 +395,11 @@ QString wronglyDeclared(const std::vector<Call> &journal, const Panel &panel, co
             if (operationOf(call) != operation) {
                 continue;
             }
-            const QString wrong{unlessEqual(QStringLiteral("%1(%2, %3)")
-                                                .arg(operation)
-                                                .arg(count == 640 ? number : column)
-                                                .arg(count == 480 ? number : row),
-                                            callIn(call))};
+            QString wrong{unlessEqual(QStringLiteral("%1(%2, %3)")
+                                          .arg(operation)
+                                          .arg(count == 640 ? number : column)
+                                          .arg(count == 480 ? number : row),
+                                      callIn(call))};
             if (!wrong.isEmpty()) {
                 return wrong;
             }
