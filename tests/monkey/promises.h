@@ -45,6 +45,7 @@ private:
     QString checkRecords(const Action &action) const;
     QString checkView();
     QString checkAsked() const;
+    bool scriptRanInBox(const Action &action) const;
     QString checkFinishedEdit(const Action &action) const;
     QString checkSent(const Action &action) const;
     QString compareWithOracle(const Action &action);
