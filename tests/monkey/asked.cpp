@@ -92,10 +92,13 @@ Asked askedByKeyInList(const QWidget &list, const QString &key)
 
 Asked askedByKey(OperatorWindow &test, const QString &key, int presses)
 {
-    if (const QWidget *const list{QApplication::activePopupWidget()}) {
-        return askedByKeyInList(*list, key);
-    }
     const QWidget *const focused{test.window().focusWidget()};
+    if (const QWidget *const list{QApplication::activePopupWidget()}) {
+        // A script may have given the focus to a spin box meanwhile; the list takes it back when it closes.
+        Asked asked{askedByLeaving(focused)};
+        asked += askedByKeyInList(*list, key);
+        return asked;
+    }
     if (key == QStringLiteral("Ctrl+Tab")) {
         // To the next page.
         Asked asked{askedByLeaving(focused)};
@@ -111,7 +114,9 @@ Asked askedByTyping(OperatorWindow &test, const QString &text)
     const QWidget *const list{QApplication::activePopupWidget()};
     if (list != nullptr || qobject_cast<const QComboBox *>(focused) != nullptr) {
         // A space opens the list, a new line closes it, and each letter may choose while it is closed.
-        return times(askedFrom(list != nullptr ? list->parentWidget() : focused), text.size());
+        Asked asked{askedByLeaving(focused)};
+        asked += times(askedFrom(list != nullptr ? list->parentWidget() : focused), text.size());
+        return asked;
     }
     Asked asked;
     for (const QChar character : text) {
