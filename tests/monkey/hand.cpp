@@ -4,6 +4,7 @@
 #include "hand.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAbstractSlider>
 #include <QAbstractSpinBox>
 #include <QApplication>
@@ -160,6 +161,7 @@ bool Hand::useMouse(const Action &action)
     if (!place) {
         return false;
     }
+    moveInList();
     if (action.verb == QStringLiteral("click")) {
         test.clickAt(*place);
     } else if (action.verb == QStringLiteral("dblclick")) {
@@ -180,6 +182,24 @@ bool Hand::useMouse(const Action &action)
         return false;
     }
     return true;
+}
+
+/// A list that was just opened lets nobody choose by a click, until the mouse has moved in it or some time
+/// has passed. It moves from end to end, so that the time does not matter.
+void Hand::moveInList()
+{
+    const QWidget *const popup{QApplication::activePopupWidget()};
+    const auto *const list = popup != nullptr ? popup->findChild<QAbstractItemView *>() : nullptr;
+    if (list == nullptr) {
+        return;
+    }
+    const QWidget &items{*list->viewport()};
+    const QPoint corner{test.window().mapFromGlobal(items.mapToGlobal(QPoint{}))};
+    const QRect seen{QRect{corner, items.size()}.intersected(test.window().rect())};
+    if (!seen.isEmpty()) {
+        QTest::mouseMove(&test.native(), seen.topLeft());
+        QTest::mouseMove(&test.native(), seen.bottomRight());
+    }
 }
 
 bool Hand::useKeys(const Action &action)
@@ -300,6 +320,9 @@ bool Hand::work(const Action &action)
 {
     auto *const widget = test.window().findChild<QWidget *>(action.target);
     if (auto *const button = qobject_cast<QAbstractButton *>(widget)) {
+        if (!button->isEnabled()) {
+            return false;
+        }
         button->click();
     } else if (auto *const comboBox = qobject_cast<QComboBox *>(widget)) {
         comboBox->setCurrentIndex(static_cast<int>(action.x * comboBox->count()));

@@ -40,6 +40,7 @@ public:
 private:
     bool perform(const Action &action);
     bool useMouse(const Action &action);
+    void moveInList();
     bool useKeys(const Action &action);
     bool type(const QString &text);
     bool begin(const Action &action);

@@ -42,10 +42,12 @@ QStringList spinBoxesInView(const QWidget &window)
 Action Monkey::next(OperatorWindow &test)
 {
     Action action;
-    const bool connected{test.child<QWidget>("paramSection").isEnabled()};
+    const bool connected{isConnected(test.window())};
     const int dice{random.bounded(1000)};
     if (!connected) {
         planned.clear();
+    } else if (planned.empty() && oneIn(9)) {
+        planVisit(test);
     } else if (planned.empty() && oneIn(20)) {
         if (oneIn(2)) {
             planContradiction(test);
@@ -74,7 +76,7 @@ Action Monkey::next(OperatorWindow &test)
     } else if (dice < 180 && connected) {
         action = editing(test);
     } else if (dice < 600) {
-        action = mouseAction(test);
+        action = mouseAction(someControl(test));
     } else {
         action = keyAction();
     }
@@ -98,7 +100,7 @@ QString Monkey::someControl(OperatorWindow &test)
             names.append(name);
         }
     }
-    const QString chosen{seldomOneOf(names)};
+    const QString chosen{someOf(names)};
     const bool pages{test.window().findChild<QTabWidget *>(chosen) != nullptr};
     return pages ? chosen + QStringLiteral("/tabs") : chosen;
 }
@@ -129,10 +131,10 @@ QString Monkey::someBoxAnswer()
     return QStringLiteral("within ") + oneOf(oneIn(2) ? ofRegions : withoutNumbers);
 }
 
-Action Monkey::mouseAction(OperatorWindow &test)
+Action Monkey::mouseAction(const QString &target)
 {
     Action action;
-    action.target = someControl(test);
+    action.target = target;
     action.x = random.generateDouble();
     action.y = random.generateDouble();
     const int dice{random.bounded(20)};
@@ -223,7 +225,7 @@ Action Monkey::byName(OperatorWindow &test)
     const int dice{random.bounded(10)};
     if (dice < 5) {
         action.verb = QStringLiteral("invoke");
-        action.target = seldomOneOf(handlers());
+        action.target = someOf(handlers());
         action.text = action.target.contains(QStringLiteral("string")) ? oneOf(oddTexts()) : someNumber();
     } else if (dice < 6) {
         static const QStringList book{QStringLiteral("connectDevice()"), QStringLiteral("disconnectDevice()"),
@@ -234,7 +236,7 @@ Action Monkey::byName(OperatorWindow &test)
         action.target = oneOf(book);
     } else {
         action.verb = QStringLiteral("work");
-        action.target = seldomOneOf(namesOf(controlsOf(test.window())));
+        action.target = someOf(namesOf(controlsOf(test.window())));
         action.x = random.generateDouble();
         action.text = someNumber();
     }
@@ -273,6 +275,19 @@ Action Monkey::endingEdit(OperatorWindow &test, bool mayEndMore)
     const QStringList boxes{spinBoxesInView(test.window())};
     return {oneIn(2) ? QStringLiteral("click") : QStringLiteral("focus"),
             oneIn(2) && !boxes.isEmpty() ? oneOf(boxes) : someControl(test)};
+}
+
+void Monkey::planVisit(OperatorWindow &test)
+{
+    QStringList names;
+    for (const QWidget *const control : controlsOf(test.window())) {
+        if (isOnAPage(*control) && control->isEnabled()) {
+            names.append(control->objectName());
+        }
+    }
+    const QString control{turns.next(names)};
+    plan(QStringLiteral("page"), control);
+    planned.push_back(mouseAction(control));
 }
 
 void Monkey::planEdit(OperatorWindow &test)

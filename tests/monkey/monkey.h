@@ -14,28 +14,30 @@
 
 #include <deque>
 
-/// Chooses by its seed, by what the window shows, and by what was reached before.
+/// Chooses by its seed and by what the window shows, so that with the same seed it does the same again.
 class Monkey
 {
 public:
-    Monkey(quint32 seed, const Reach &itsReach) : random{seed}, reach{itsReach} {}
+    explicit Monkey(quint32 seed) : random{seed}, turns{seed} {}
 
     Action next(OperatorWindow &test);
 
 private:
     bool oneIn(int count) { return random.bounded(count) == 0; }
     const QString &oneOf(const QStringList &all) { return all.at(random.bounded(all.size())); }
-    /// Every other time one of those that were reached least.
-    QString seldomOneOf(const QStringList &all) { return oneOf(oneIn(2) ? reach.leastReached(all) : all); }
+    /// Every other time the one whose turn it is.
+    QString someOf(const QStringList &all) { return oneIn(2) ? turns.next(all) : oneOf(all); }
     QString someControl(OperatorWindow &test);
     QString someNumber();
     QString someBoxAnswer();
-    Action mouseAction(OperatorWindow &test);
+    Action mouseAction(const QString &target);
     Action keyAction();
     Action editing(OperatorWindow &test);
     Action connecting(OperatorWindow &test);
     Action byName(OperatorWindow &test);
 
+    /// Plans to turn to the page of the control whose turn it is, and to use the mouse there.
+    void planVisit(OperatorWindow &test);
     /// Plans an edit that something ends.
     void planEdit(OperatorWindow &test);
     /// Plans two edits of a region, with its first limit behind its second one.
@@ -45,6 +47,6 @@ private:
     Action endingEdit(OperatorWindow &test, bool mayEndMore);
 
     QRandomGenerator random;
-    const Reach &reach;
+    Turns turns;
     std::deque<Action> planned;
 };

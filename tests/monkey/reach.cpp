@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// How often the monkey reached each control and handler.
+// What of the window the monkey can reach, whose turn it is, and what it did reach.
 #include "reach.h"
 
 #include "mainwindow.h"
@@ -10,8 +10,10 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QMetaMethod>
+#include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QSlider>
+#include <QStackedWidget>
 #include <QTabWidget>
 #include <QTextEdit>
 
@@ -61,55 +63,106 @@ const QStringList &handlers()
     return signatures;
 }
 
+bool isOnAPage(const QWidget &control)
+{
+    for (const QWidget *part{&control}; !part->isWindow(); part = part->parentWidget()) {
+        const QWidget *const stack{part->parentWidget()};
+        const auto *const tabs = qobject_cast<const QTabWidget *>(stack->parentWidget());
+        if (tabs != nullptr && qobject_cast<const QStackedWidget *>(stack) != nullptr) {
+            // Pages that are not in view are hidden, and those that were taken out stay in the stack.
+            if (tabs->indexOf(const_cast<QWidget *>(part)) < 0) {
+                return false;
+            }
+        } else if (part->isHidden()) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool isConnected(const QWidget &window)
+{
+    const auto *const pages = window.findChild<QWidget *>(QStringLiteral("paramSection"));
+    return pages != nullptr && pages->isEnabled();
+}
+
+QString Turns::next(const QStringList &names)
+{
+    // Coprime to how many names there may be, and more than a session takes.
+    constexpr quint32 stride{37};
+    const auto count = static_cast<quint32>(names.size());
+    QString chosen;
+    int fewest{std::numeric_limits<int>::max()};
+    for (quint32 step{0}; step < count; ++step) {
+        const QString &name{names.at(static_cast<int>((quint64{seed} * stride + step) % count))};
+        if (times.value(name) < fewest) {
+            fewest = times.value(name);
+            chosen = name;
+        }
+    }
+    ++times[chosen];
+    return chosen;
+}
+
 Reach::Reach()
 {
     qApp->installEventFilter(this);
 }
 
-QStringList Reach::leastReached(const QStringList &names) const
+void Reach::learn(const QWidget &window)
 {
-    QStringList least;
-    int fewest{std::numeric_limits<int>::max()};
-    for (const QString &name : names) {
-        const int count{times.value(name)};
-        if (count < fewest) {
-            fewest = count;
-            least.clear();
-        }
-        if (count == fewest) {
-            least.append(name);
-        }
+    for (const QWidget *const control : controlsOf(window)) {
+        (isOnAPage(*control) ? onPages : onNone).append(control->objectName());
     }
-    return least;
+    onPages.removeDuplicates();
+    onNone.removeDuplicates();
 }
 
-QStringList Reach::leftOver(const QStringList &names) const
+Reach::Count Reach::hand() const
 {
-    QStringList left;
-    for (const QString &name : names) {
-        if (!times.contains(name)) {
-            left.append(name);
+    Count count{onPages.size(), {}};
+    for (const QString &name : onPages) {
+        if (!byHand.contains(name)) {
+            count.left.append(name);
         }
     }
-    return left;
+    return count;
+}
+
+Reach::Count Reach::script() const
+{
+    Count count{0, {}};
+    for (const QString &name : handlers() + onNone) {
+        if (!onPages.contains(name)) {
+            ++count.all;
+            if (!byName.contains(name)) {
+                count.left.append(name);
+            }
+        }
+    }
+    return count;
 }
 
 bool Reach::eventFilter(QObject *watched, QEvent *event)
 {
-    switch (event->type()) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::KeyPress:
-    case QEvent::Wheel:
-        break;
-    default:
+    if (!watched->isWidgetType()) {
+        return false;
+    }
+    const auto *const widget = static_cast<const QWidget *>(watched);
+    const bool pressed{event->type() == QEvent::MouseButtonPress ||
+                       event->type() == QEvent::MouseButtonDblClick};
+    // What a widget does not want goes on to those around it, which are not reached by that.
+    if (pressed ? widget->childAt(static_cast<const QMouseEvent *>(event)->pos()) != nullptr
+                : event->type() != QEvent::KeyPress || !widget->hasFocus()) {
         return false;
     }
     // Parts of a control, such as the line of a spin box, have no name or one of Qt's.
-    for (const QObject *part{watched}; part != nullptr && part->isWidgetType(); part = part->parent()) {
+    for (const QWidget *part{widget}; part != nullptr; part = part->parentWidget()) {
         const QString name{part->objectName()};
         if (!name.isEmpty() && !name.startsWith(QStringLiteral("qt_"))) {
-            ++times[name];
+            if (part->isEnabled() && part->isVisible()) {
+                byHand.insert(name);
+            }
             break;
         }
     }

@@ -6,12 +6,16 @@
 #include "calltexts.h"
 #include "misbehaviour.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QDir>
 #include <QFile>
+#include <QGuiApplication>
 #include <QIODevice>
 #include <QLatin1Char>
 #include <QTest>
 
+#include <limits>
 #include <vector>
 
 namespace
@@ -45,7 +49,12 @@ MonkeySession::MonkeySession(const QString &scenario, Reach &itsReach)
       }},
       drawing{isDrawn(scenario) ? OperatorWindow::Drawing::On : OperatorWindow::Drawing::Off}, reach{itsReach}
 {
+    // Nothing of an earlier session, and no matter how fast the machine is: letters that are typed into a
+    // list belong together.
+    QGuiApplication::clipboard()->clear();
+    QApplication::setKeyboardInputInterval(std::numeric_limits<int>::max());
     stage.emplace(prepare, drawing);
+    reach.learn(stage->test.window());
 }
 
 QString MonkeySession::endWindow()
@@ -64,9 +73,11 @@ QString MonkeySession::act(const Action &action)
 {
     stage->hand.comeBack();
     stage->promises.before(action);
-    if (stage->hand.act(action) &&
+    // Without a device most handlers return at once.
+    const bool counts{isConnected(stage->test.window())};
+    if (stage->hand.act(action) && counts &&
         (action.verb == QStringLiteral("invoke") || action.verb == QStringLiteral("work"))) {
-        reach.use(action.target);
+        reach.useByName(action.target);
     }
     QString wrong{stage->promises.after(action)};
     // Destroyed as it is, with the focus where it is, or closed before.

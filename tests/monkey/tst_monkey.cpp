@@ -3,10 +3,10 @@
 // A monkey at the real window, in scenarios that misbehave. It sits in a process of its own: what ends that
 // process, or holds it up, is a finding as well. A finding is shortened to what still shows it.
 //
-// PILOTEL_MONKEY_SECONDS, PILOTEL_MONKEY_SEED: how long, and where it begins.
+// PILOTEL_MONKEY_SECONDS, PILOTEL_MONKEY_ACTIONS, PILOTEL_MONKEY_SEED: how far it goes, and where it begins.
 // PILOTEL_MONKEY_REPLAY: a list of actions to go through instead.
 #include "action.h"
-#include "misbehaviour.h"
+#include "course.h"
 #include "monkey.h"
 #include "owndirectory.h"
 #include "reach.h"
@@ -21,6 +21,7 @@
 #include <QFileInfo>
 #include <QIODevice>
 #include <QLatin1Char>
+#include <QMap>
 #include <QObject>
 #include <QProcess>
 #include <QProcessEnvironment>
@@ -29,32 +30,27 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
 #include <limits>
-#include <optional>
 
 namespace
 {
 
-constexpr quint32 firstSeed{20261122};
-constexpr int actionsInASession{120};
-constexpr qint64 longestSession{10'000};
+/// A run of so many actions must have reached everything.
+constexpr quint32 longRun{20'000};
+/// In sessions of full length, as those of the two seeds before it are.
+constexpr quint32 repeatedSeed{20261124};
 /// In milliseconds; a process that does nothing for so long hangs.
 constexpr int longestPause{60'000};
 
-const char *const secondsVariable{"PILOTEL_MONKEY_SECONDS"};
-const char *const seedVariable{"PILOTEL_MONKEY_SEED"};
 const char *const replayVariable{"PILOTEL_MONKEY_REPLAY"};
 /// For the processes that the monkey sits in: the file that tells its parent what it does.
 const char *const diaryVariable{"PILOTEL_MONKEY_DIARY"};
 const QString findingMark{QStringLiteral("# finding: ")};
-const QString sessionMark{QStringLiteral("# session: ")};
-
-int numberFrom(const char *variable, int otherwise)
-{
-    bool given{false};
-    const int number{qEnvironmentVariableIntValue(variable, &given)};
-    return given ? number : otherwise;
-}
+const QString seedMark{QStringLiteral("# seed of the session: ")};
+/// How many actions the sessions before have had.
+const QString beforeMark{QStringLiteral("# actions before it: ")};
+const QString foundMark{QStringLiteral("# found after: ")};
 
 /// What the monkey does, line by line before it does it, so that it stands there when the process ends.
 class Diary
@@ -80,49 +76,43 @@ private:
     QFile file;
 };
 
-QString scenarioOf(quint32 seed, bool isLong)
-{
-    if (seed % 3 != 0) {
-        return QStringLiteral("generated %1").arg(seed);
-    }
-    QStringList names{shippedScenarios()};
-    if (!isLong) {
-        // A read takes seconds there.
-        names.removeAll(QStringLiteral("slow-link"));
-    }
-    return QStringLiteral("shipped ") + names.at(static_cast<int>(seed / 3) % names.size());
-}
-
 /// What a process of the monkey came to.
 struct Outcome
 {
     Story story;
-    QString session; ///< Where it was; empty for a list.
+    QString seed;    ///< Of the session that it was in; empty for a list.
+    int before{0};   ///< Actions of the sessions before.
     QString finding; ///< Empty when all was well.
     QString output;
 
     /// Findings of the same kind are taken for the same.
     QString kind() const { return finding.section(QLatin1Char{':'}, 0, 0); }
-    /// The finding, and where it came.
-    QString told() const
+    int ownActions() const { return static_cast<int>(story.actions.size()); }
+
+    /// What stands in the file of the finding behind the actions.
+    QStringList remarks() const
     {
-        return session.isEmpty() ? finding
-                                 : QStringLiteral("%1 (%2 and %3 in its own)")
-                                       .arg(finding, session)
-                                       .arg(story.actions.size());
+        QStringList lines{findingMark + finding};
+        if (!seed.isEmpty()) {
+            lines.append(seedMark + seed);
+            lines.append(foundMark + QStringLiteral("%1 actions, %2 of them in this session")
+                                         .arg(before + ownActions())
+                                         .arg(ownActions()));
+        }
+        return lines;
     }
 };
 
-/// Runs this program again: to be at the window for a time, or to go through a list.
-Outcome runMonkey(const QString &directory, const QString &listToReplay)
+/// Runs this program again with these variables: to be at the window for a time, or to go through a list.
+Outcome runMonkey(const QString &directory, const QMap<QString, QString> &variables)
 {
     const QString diary{directory + QStringLiteral("/diary")};
     QFile::remove(diary);
     QProcessEnvironment environment{QProcessEnvironment::systemEnvironment()};
     environment.insert(QString::fromLatin1(diaryVariable), diary);
     environment.remove(QString::fromLatin1(replayVariable));
-    if (!listToReplay.isEmpty()) {
-        environment.insert(QString::fromLatin1(replayVariable), listToReplay);
+    for (auto variable = variables.begin(); variable != variables.end(); ++variable) {
+        environment.insert(variable.key(), variable.value());
     }
     QProcess process;
     process.setProcessEnvironment(environment);
@@ -157,8 +147,10 @@ Outcome runMonkey(const QString &directory, const QString &listToReplay)
         for (const QString &line : QString::fromUtf8(file.readAll()).split(QLatin1Char{'\n'})) {
             if (line.startsWith(findingMark)) {
                 outcome.finding = line.mid(findingMark.size());
-            } else if (line.startsWith(sessionMark)) {
-                outcome.session = line.mid(sessionMark.size());
+            } else if (line.startsWith(seedMark)) {
+                outcome.seed = line.mid(seedMark.size());
+            } else if (line.startsWith(beforeMark)) {
+                outcome.before = line.midRef(beforeMark.size()).toInt();
             }
         }
     }
@@ -171,15 +163,26 @@ Outcome runMonkey(const QString &directory, const QString &listToReplay)
     return outcome;
 }
 
-void writeList(const QString &name, const Story &story, const QString &finding)
+void writeList(const QString &name, const Story &story, const QStringList &remarks)
 {
     QFile file{name};
     if (!file.open(QIODevice::WriteOnly)) {
         qFatal("cannot write %s", qPrintable(name));
     }
-    file.write(
-        (story.toLines().join(QLatin1Char{'\n'}) + QLatin1Char{'\n'} + findingMark + finding).toUtf8());
-    file.write("\n");
+    file.write((story.toLines() + remarks).join(QLatin1Char{'\n'}).toUtf8() + '\n');
+}
+
+/// `by hand 3 of 5 controls that a page shows (left: a b)`
+QString told(const QString &how, const Reach::Count &count, const QString &what)
+{
+    const QString figures{QStringLiteral("%1 %2 of %3 %4")
+                              .arg(how)
+                              .arg(count.all - count.left.size())
+                              .arg(count.all)
+                              .arg(what)};
+    return count.left.isEmpty()
+               ? figures
+               : figures + QStringLiteral(" (left: %1)").arg(count.left.join(QLatin1Char{' '}));
 }
 
 } // namespace
@@ -190,6 +193,7 @@ class MonkeyTest : public QObject
 
 private slots:
     void noPromiseIsBroken();
+    void aSessionIsRepeatedByItsSeed();
 
 private:
     static void sitAtTheWindow(Diary &diary);
@@ -215,57 +219,60 @@ void MonkeyTest::noPromiseIsBroken()
 
 void MonkeyTest::sitAtTheWindow(Diary &diary)
 {
-    const int seconds{numberFrom(secondsVariable, 20)};
-    const bool isLong{seconds > 60};
-    // Left to itself it does the same on every machine, unless one is too slow for it.
-    const int mostActs{qEnvironmentVariableIsSet(secondsVariable) ? std::numeric_limits<int>::max() : 400};
-    const auto seedOfRun = static_cast<quint32>(numberFrom(seedVariable, firstSeed));
-    const OwnDirectory directory;
+    QString wrong;
+    const Course course{Course::fromEnvironment(wrong)};
+    QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
     Reach reach;
-    QStringList all;
-    int acts{0};
+    quint32 acts{0};
+    quint32 actsToTheLast{0};
     int sessions{0};
+    int left{std::numeric_limits<int>::max()};
     QElapsedTimer sinceStart;
     sinceStart.start();
-    for (quint32 seed{seedOfRun}; sinceStart.elapsed() < seconds * qint64{1000} && acts < mostActs; ++seed) {
-        const QString scenario{scenarioOf(seed, isLong)};
+    const auto goesOn = [&] {
+        return acts < course.actions && sinceStart.elapsed() < qint64{1000} * course.seconds;
+    };
+    for (quint32 seed{course.seed}; goesOn(); ++seed) {
+        // No session finds a file of another one.
+        const OwnDirectory directory;
+        const QString scenario{scenarioOf(seed)};
         diary.begin(scenario);
-        diary.add(sessionMark +
-                  QStringLiteral("seed %1 of a run from seed %2, after %3 actions of earlier sessions")
-                      .arg(seed)
-                      .arg(seedOfRun)
-                      .arg(acts));
+        diary.add(seedMark + QString::number(seed));
+        diary.add(beforeMark + QString::number(acts));
         MonkeySession session{scenario, reach};
-        Monkey monkey{seed, reach};
-        QElapsedTimer inSession;
-        inSession.start();
-        all = namesOf(controlsOf(session.window().window())) + handlers();
-        for (int act{0}; act < actionsInASession && inSession.elapsed() < longestSession &&
-                         sinceStart.elapsed() < seconds * qint64{1000} && acts < mostActs;
-             ++act) {
+        Monkey monkey{seed};
+        for (int act{0}; act < actionsIn(scenario) && goesOn(); ++act) {
             const Action action{monkey.next(session.window())};
             diary.add(action.toLine());
-            const QString wrong{session.act(action)};
+            wrong = session.act(action);
             ++acts;
             if (!wrong.isEmpty()) {
                 diary.add(findingMark + wrong);
                 QFAIL(qPrintable(wrong));
             }
         }
-        const QString wrong{session.end()};
+        wrong = session.end();
         if (!wrong.isEmpty()) {
             diary.add(findingMark + wrong);
             QFAIL(qPrintable(wrong));
         }
         ++sessions;
+        const int nowLeft{reach.hand().left.size() + reach.script().left.size()};
+        if (nowLeft < left) {
+            left = nowLeft;
+            actsToTheLast = acts;
+        }
     }
-    const QStringList left{reach.leftOver(all)};
-    qInfo("%d actions in %d sessions, %.0f a second; %d of %d controls and handlers not reached%s%s", acts,
-          sessions, acts * 1000.0 / static_cast<double>(sinceStart.elapsed()), left.size(), all.size(),
-          left.isEmpty() ? "" : ": ", qPrintable(left.join(QLatin1Char{' '})));
+    qInfo("%u actions in %d sessions, %.0f a second; nothing new was reached after action %u", acts, sessions,
+          acts * 1000.0 / static_cast<double>(std::max<qint64>(sinceStart.elapsed(), 1)), actsToTheLast);
+    qInfo("reached %s, %s",
+          qPrintable(
+              told(QStringLiteral("by hand"), reach.hand(), QStringLiteral("controls that a page shows"))),
+          qPrintable(told(QStringLiteral("by name"), reach.script(),
+                          QStringLiteral("handlers and other controls, while connected"))));
     // A monkey that reaches nothing proves nothing.
-    QVERIFY(acts > 20);
-    QVERIFY2(!isLong || seconds < 300 || left.isEmpty(), qPrintable(left.join(QLatin1Char{' '})));
+    QVERIFY(acts > 0);
+    QVERIFY2(acts < longRun || left == 0, "a long run has to reach everything");
 }
 
 void MonkeyTest::replay(Diary &diary, const QString &list)
@@ -293,15 +300,21 @@ void MonkeyTest::replay(Diary &diary, const QString &list)
 
 void MonkeyTest::watch()
 {
+    QString wrong;
+    Course::fromEnvironment(wrong);
+    QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
     // Here, and so on the drive that the sources are on.
     const QTemporaryDir directory{QDir::currentPath() + QStringLiteral("/XXXXXX")};
     QVERIFY(directory.isValid());
+    const QString replayName{QString::fromLatin1(replayVariable)};
     const QString replayed{qEnvironmentVariable(replayVariable)};
-    const Outcome first{
-        runMonkey(directory.path(), replayed.isEmpty() ? QString{} : QFileInfo{replayed}.absoluteFilePath())};
+    const Outcome first{runMonkey(
+        directory.path(),
+        replayed.isEmpty() ? QMap<QString, QString>{}
+                           : QMap<QString, QString>{{replayName, QFileInfo{replayed}.absoluteFilePath()}})};
     if (first.finding.isEmpty()) {
         for (const QString &line : first.output.split(QLatin1Char{'\n'})) {
-            if (line.contains(QStringLiteral("actions in"))) {
+            if (line.contains(QStringLiteral("actions in")) || line.contains(QStringLiteral("reached by"))) {
                 qInfo("%s", qPrintable(line.section(QStringLiteral(") "), 1)));
             }
         }
@@ -313,24 +326,46 @@ void MonkeyTest::watch()
     Story story{first.story};
     int runs{0};
     const auto stillShows = [&](const std::vector<Action> &actions) {
-        writeList(list, {story.scenario, actions}, first.finding);
+        writeList(list, {story.scenario, actions}, {});
         ++runs;
-        return runMonkey(directory.path(), list).kind() == first.kind();
+        return runMonkey(directory.path(), {{replayName, list}}).kind() == first.kind();
     };
     // One that depends on the time of day is told as it was found.
     if (stillShows(story.actions)) {
         story.actions = shortestOf(story.actions, stillShows, [&] { return sinceStart.elapsed() < 150'000; });
     }
     const QString kept{QFileInfo{QStringLiteral("monkey-finding.txt")}.absoluteFilePath()};
-    writeList(kept, story, first.told());
+    writeList(kept, story, first.remarks());
     qInfo("%s", qPrintable(first.output.right(6000)));
     QFAIL(qPrintable(
         QStringLiteral("%1\n%2 of %3 actions still show it, found by %4 runs; they stand in %5:\n%6")
-            .arg(first.told())
+            .arg(first.remarks().join(QLatin1Char{'\n'}))
             .arg(story.actions.size())
-            .arg(first.story.actions.size())
+            .arg(first.ownActions())
             .arg(runs)
             .arg(kept, story.toLines().join(QLatin1Char{'\n'}))));
+}
+
+void MonkeyTest::aSessionIsRepeatedByItsSeed()
+{
+    const QTemporaryDir directory{QDir::currentPath() + QStringLiteral("/XXXXXX")};
+    QVERIFY(directory.isValid());
+    // The diary has the session that a run ended with.
+    const auto lastOf = [&](quint32 seed, int sessions) {
+        return runMonkey(directory.path(),
+                         {{QStringLiteral("PILOTEL_MONKEY_SEED"), QString::number(seed)},
+                          {QStringLiteral("PILOTEL_MONKEY_SECONDS"), QStringLiteral("1000")},
+                          {QStringLiteral("PILOTEL_MONKEY_ACTIONS"), QString::number(sessions * 120)}});
+    };
+    const Outcome alone{lastOf(repeatedSeed, 1)};
+    const Outcome afterOthers{lastOf(repeatedSeed - 2, 3)};
+    QCOMPARE(alone.finding, QString{});
+    QCOMPARE(afterOthers.finding, QString{});
+    QCOMPARE(alone.seed, QString::number(repeatedSeed));
+    QCOMPARE(afterOthers.seed, alone.seed);
+    QCOMPARE(afterOthers.before, 240);
+    QCOMPARE(alone.ownActions(), 120);
+    QCOMPARE(afterOthers.story.toLines(), alone.story.toLines());
 }
 
 PILOTEL_TEST_CLASS(MonkeyTest)

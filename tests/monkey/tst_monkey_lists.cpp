@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Pilotel Developers
 // SPDX-License-Identifier: MIT
-// What the monkey is made of: lists that can be read back and shortened, what was reached, scenarios that can
-// be played, lines of the log.
+// What the monkey is made of: lists that can be read back and shortened, turns, seeds, scenarios that can be
+// played, lines of the log.
 #include "action.h"
+#include "course.h"
 #include "loglines.h"
 #include "misbehaviour.h"
 #include "reach.h"
@@ -22,6 +23,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <optional>
 #include <vector>
 
 namespace
@@ -44,7 +46,11 @@ class MonkeyListsTest : public QObject
 private slots:
     void whatIsWrittenIsReadBack();
     void whatIsNotNeededIsLeftOut();
-    void whatWasReachedLeastIsTold();
+    void everyoneHasATurn();
+    void theSeedSaysWhoBegins();
+    void aSeedIsAWholeNumber_data();
+    void aSeedIsAWholeNumber();
+    void whatIsNoNumberIsTold();
     void everySeedMakesAScenario();
     void theSameSeedMakesTheSameScenario();
     void linesOfTheProgramAreKnown_data();
@@ -96,19 +102,76 @@ void MonkeyListsTest::whatIsNotNeededIsLeftOut()
     QVERIFY(nothing.empty());
 }
 
-void MonkeyListsTest::whatWasReachedLeastIsTold()
+void MonkeyListsTest::everyoneHasATurn()
 {
-    Reach reach;
-    const QStringList names{"scanDevice()", "gammaEdit", "clheEdit"};
-    QCOMPARE(reach.leastReached(names), names);
-    reach.use("scanDevice()");
-    reach.use("scanDevice()");
-    reach.use("clheEdit");
-    QCOMPARE(reach.leastReached(names), QStringList{"gammaEdit"});
-    QCOMPARE(reach.leftOver(names), QStringList{"gammaEdit"});
-    reach.use("gammaEdit");
-    QCOMPARE(reach.leastReached(names), (QStringList{"gammaEdit", "clheEdit"}));
-    QCOMPARE(reach.leftOver(names), QStringList{});
+    Turns turns{20261122};
+    QStringList names;
+    for (int number{0}; number < 50; ++number) {
+        names.append(QString::number(number));
+    }
+    QStringList taken;
+    for (int number{0}; number < 49; ++number) {
+        taken.append(turns.next(names));
+    }
+    QCOMPARE(taken.removeDuplicates(), 0);
+    // Whoever is not among the names waits.
+    const QString left{turns.next(names)};
+    QVERIFY(!taken.contains(left));
+    QCOMPARE(turns.next({left, QStringLiteral("gammaEdit")}), QStringLiteral("gammaEdit"));
+}
+
+void MonkeyListsTest::theSeedSaysWhoBegins()
+{
+    const QStringList names{handlers()};
+    QStringList first;
+    for (quint32 seed{0}; seed < static_cast<quint32>(names.size()); ++seed) {
+        const QString begins{Turns{seed}.next(names)};
+        QCOMPARE(Turns{seed}.next(names), begins);
+        first.append(begins);
+    }
+    // A run from seed to seed begins with each of them once.
+    first.sort();
+    QStringList all{names};
+    all.sort();
+    QCOMPARE(first, all);
+}
+
+void MonkeyListsTest::aSeedIsAWholeNumber_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("isNumber");
+    QTest::addColumn<quint32>("number");
+    QTest::newRow("zero") << "0" << true << quint32{0};
+    QTest::newRow("above the greatest int") << "2147483648" << true << quint32{2147483648};
+    QTest::newRow("the greatest") << "4294967295" << true << quint32{4294967295};
+    QTest::newRow("one more") << "4294967296" << false << quint32{0};
+    QTest::newRow("far more") << "99999999999999999999" << false << quint32{0};
+    for (const char *const text : {"", "-1", "+1", " 1", "1 ", "1e3", "0x10", "1.5", "monkey"}) {
+        QTest::addRow("'%s'", text) << text << false << quint32{0};
+    }
+}
+
+void MonkeyListsTest::aSeedIsAWholeNumber()
+{
+    QFETCH(const QString, text);
+    QFETCH(const bool, isNumber);
+    QFETCH(const quint32, number);
+    const std::optional<quint32> read{wholeNumberIn(text)};
+    QCOMPARE(read.has_value(), isNumber);
+    QCOMPARE(read.value_or(0), number);
+}
+
+void MonkeyListsTest::whatIsNoNumberIsTold()
+{
+    QString wrong;
+    QVERIFY(qputenv("PILOTEL_MONKEY_SEED", "4294967295"));
+    QCOMPARE(Course::fromEnvironment(wrong).seed, quint32{4294967295});
+    QCOMPARE(wrong, QString{});
+    QVERIFY(qputenv("PILOTEL_MONKEY_SEED", "monkey"));
+    Course::fromEnvironment(wrong);
+    QCOMPARE(wrong, QStringLiteral(
+                        "PILOTEL_MONKEY_SEED is \"monkey\", and not a whole number from 0 to 4294967295"));
+    QVERIFY(qunsetenv("PILOTEL_MONKEY_SEED"));
 }
 
 void MonkeyListsTest::everySeedMakesAScenario()
