@@ -70,10 +70,10 @@ Action Monkey::next(OperatorWindow &test)
         action = {QStringLiteral("away")};
     } else if (!connected && oneIn(2)) {
         action = connecting(test);
-    } else if (dice < (connected ? 100 : 350)) {
+    } else if (dice < (connected ? 150 : 350)) {
         // Without a device only scripts reach most of the handlers.
         action = byName(test);
-    } else if (dice < 180 && connected) {
+    } else if (dice < 230 && connected) {
         action = editing(test);
     } else if (dice < 600) {
         action = mouseAction(someControl(test));
@@ -221,25 +221,30 @@ Action Monkey::connecting(OperatorWindow &test)
 
 Action Monkey::byName(OperatorWindow &test)
 {
+    static const QStringList book{QStringLiteral("connectDevice()"), QStringLiteral("disconnectDevice()"),
+                                  QStringLiteral("readAllParameters()"), QStringLiteral("readParamsExpert()"),
+                                  QStringLiteral("ResetParamsUser()")};
+    QStringList onNoPage;
+    for (const QWidget *const control : controlsOf(test.window())) {
+        if (!isOnAPage(*control)) {
+            onNoPage.append(control->objectName());
+        }
+    }
     Action action;
     const int dice{random.bounded(10)};
-    if (dice < 5) {
-        action.verb = QStringLiteral("invoke");
-        action.target = someOf(handlers());
-        action.text = action.target.contains(QStringLiteral("string")) ? oneOf(oddTexts()) : someNumber();
-    } else if (dice < 6) {
-        static const QStringList book{QStringLiteral("connectDevice()"), QStringLiteral("disconnectDevice()"),
-                                      QStringLiteral("readAllParameters()"),
-                                      QStringLiteral("readParamsExpert()"),
-                                      QStringLiteral("ResetParamsUser()")};
-        action.verb = QStringLiteral("invoke");
+    if (dice < 6) {
+        // Whatever only a script reaches.
+        action.target = turns.next(handlers() + onNoPage);
+    } else if (dice < 8) {
+        action.target = oneOf(handlers());
+    } else if (dice < 9) {
         action.target = oneOf(book);
     } else {
-        action.verb = QStringLiteral("work");
-        action.target = someOf(namesOf(controlsOf(test.window())));
-        action.x = random.generateDouble();
-        action.text = someNumber();
+        action.target = oneOf(namesOf(controlsOf(test.window())));
     }
+    action.verb = handlers().contains(action.target) ? QStringLiteral("invoke") : QStringLiteral("work");
+    action.x = random.generateDouble();
+    action.text = action.target.contains(QStringLiteral("string")) ? oneOf(oddTexts()) : someNumber();
     return action;
 }
 
