@@ -112,7 +112,10 @@ Reach::Reach()
 void Reach::learn(const QWidget &window)
 {
     for (const QWidget *const control : controlsOf(window)) {
-        (isOnAPage(*control) ? onPages : onNone).append(control->objectName());
+        // The form disables that one, and nothing enables it.
+        if (control->objectName() != QStringLiteral("checkBox")) {
+            (isOnAPage(*control) ? onPages : onNone).append(control->objectName());
+        }
     }
     onPages.removeDuplicates();
     onNone.removeDuplicates();
