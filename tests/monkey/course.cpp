@@ -8,7 +8,7 @@
 #include <QRegularExpression>
 #include <QStringList>
 
-std::optional<quint32> wholeNumberIn(const QString &text)
+std::optional<quint32> plainNumberIn(const QString &text)
 {
     static const QRegularExpression digits{QStringLiteral("\\A[0-9]+\\z")};
     bool fits{false};
@@ -23,7 +23,7 @@ Course Course::fromEnvironment(QString &wrong)
             return otherwise;
         }
         const QString text{qEnvironmentVariable(variable)};
-        const std::optional<quint32> number{wholeNumberIn(text)};
+        const std::optional<quint32> number{plainNumberIn(text)};
         if (!number) {
             wrong = QStringLiteral("%1 is \"%2\", and not a whole number from 0 to 4294967295")
                         .arg(QString::fromLatin1(variable), text);

@@ -10,7 +10,7 @@
 #include <optional>
 
 /// The whole number that a text is, from 0 to 4294967295 in plain digits; nothing when it is none.
-std::optional<quint32> wholeNumberIn(const QString &text);
+std::optional<quint32> plainNumberIn(const QString &text);
 
 /// A run goes from seed to seed, a session for each. A session depends on its seed alone.
 struct Course

@@ -133,8 +133,9 @@ bool Hand::perform(const Action &action)
     }
     if (verb == QStringLiteral("focus")) {
         auto *const widget = test.window().findChild<QWidget *>(action.target);
+        // A list that is open keeps the focus.
         if (widget == nullptr || !widget->isVisible() || !widget->isEnabled() ||
-            widget->focusPolicy() == Qt::NoFocus) {
+            widget->focusPolicy() == Qt::NoFocus || QApplication::activePopupWidget() != nullptr) {
             return false;
         }
         widget->setFocus(Qt::TabFocusReason);

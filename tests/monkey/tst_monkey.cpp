@@ -217,7 +217,7 @@ QString playSession(Run &run, quint32 seed)
     for (int act{0}; act < actionsIn(scenario) && run.goesOn(); ++act) {
         const Action action{monkey.next(session.window())};
         run.diary.add(action.toLine());
-        const QString wrong{session.act(action)};
+        QString wrong{session.act(action)};
         ++run.acts;
         if (!wrong.isEmpty()) {
             return wrong;
@@ -235,7 +235,7 @@ QString playList(Diary &diary, const Story &story)
     MonkeySession session{story.scenario, reach};
     for (const Action &action : story.actions) {
         diary.add(action.toLine());
-        const QString wrong{session.act(action)};
+        QString wrong{session.act(action)};
         if (!wrong.isEmpty()) {
             return wrong;
         }

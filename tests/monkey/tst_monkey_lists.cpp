@@ -122,7 +122,7 @@ void MonkeyListsTest::everyoneHasATurn()
 
 void MonkeyListsTest::theSeedSaysWhoBegins()
 {
-    const QStringList names{handlers()};
+    const QStringList &names{handlers()};
     QStringList first;
     for (quint32 seed{0}; seed < static_cast<quint32>(names.size()); ++seed) {
         const QString begins{Turns{seed}.next(names)};
@@ -156,7 +156,7 @@ void MonkeyListsTest::aSeedIsAWholeNumber()
     QFETCH(const QString, text);
     QFETCH(const bool, isNumber);
     QFETCH(const quint32, number);
-    const std::optional<quint32> read{wholeNumberIn(text)};
+    const std::optional<quint32> read{plainNumberIn(text)};
     QCOMPARE(read.has_value(), isNumber);
     QCOMPARE(read.value_or(0), number);
 }
