@@ -37,7 +37,7 @@ namespace
 {
 
 /// A run of so many actions must have reached everything.
-constexpr quint32 longRun{20'000};
+constexpr quint32 longRun{30'000};
 /// In sessions of full length, as those of the two seeds before it are.
 constexpr quint32 repeatedSeed{20261124};
 /// In milliseconds; a process that does nothing for so long hangs.
