@@ -7,6 +7,7 @@
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
+#include <QEventLoop>
 #include <QList>
 #include <QMutex>
 #include <QMutexLocker>
@@ -76,11 +77,13 @@ QSet<QObject *> allObjects()
 struct Timers
 {
     QStringList names;
-    bool due{false}; ///< One of them waits for no time to pass.
+    bool soonOver{
+        false}; ///< One of them may run once only, such as that of Qt's lists that adjust their size.
 };
 
 Timers runningTimers()
 {
+    constexpr int soon{100}; // In milliseconds; the caret's takes 500.
     Timers running;
     for (QObject *const object : allObjects()) {
         // Of objects in other threads this knows none.
@@ -88,7 +91,7 @@ Timers runningTimers()
             // From half a minute after a painting on, Qt throws stored pictures away, some at a time.
             if (!object->inherits("QPMCache")) {
                 running.names.append(nameOf(*object));
-                running.due = running.due || timer.interval == 0;
+                running.soonOver = running.soonOver || timer.interval < soon;
             }
         }
     }
@@ -96,13 +99,13 @@ Timers runningTimers()
     return running;
 }
 
-/// Once everything that can be done without waiting has been done, painting included.
+/// Once everything has been done that was to be done soon, painting included.
 void tellTimers(const QString &state)
 {
     constexpr int roundsAtMost{100};
     Timers timers;
-    for (int round{0}; round == 0 || (timers.due && round < roundsAtMost); ++round) {
-        QCoreApplication::processEvents();
+    for (int round{0}; round == 0 || (timers.soonOver && round < roundsAtMost); ++round) {
+        QCoreApplication::processEvents(round == 0 ? QEventLoop::AllEvents : QEventLoop::WaitForMoreEvents);
         timers = runningTimers();
     }
     report("PILOTEL_TEST_REPORT",
