@@ -151,10 +151,9 @@ QByteArray Input::read()
 
 QByteArray Input::readLine(int mostBytes)
 {
-    int searched{0};
     int end{ahead.indexOf('\n')};
     while (end < 0 && ahead.size() < mostBytes) {
-        searched = ahead.size();
+        const int searched{ahead.size()};
         const QByteArray more{read()};
         if (more.isEmpty()) {
             return std::exchange(ahead, {});

@@ -267,11 +267,8 @@ Profile readProfile(const std::string &fileName, const std::vector<Setting> &tab
     Input input{fileName};
     constexpr int most{static_cast<int>(veltrix_simulator::largestScenario)};
     QByteArray text;
-    bool isWhole{false};
-    while (!isWhole && text.size() <= most) {
-        const QByteArray more{input.read()};
+    for (QByteArray more{input.read()}; !more.isEmpty() && text.size() <= most; more = input.read()) {
         text += more;
-        isWhole = more.isEmpty();
     }
     return parseProfile(Input::nameOf(fileName), {text.constData(), static_cast<std::size_t>(text.size())},
                         table);

@@ -27,7 +27,7 @@ constexpr UsedOn onBoth{UsedOn::Both};
 
 // 200 to 400 kelvin, beyond what either unit survives; a failed read leaves 0.
 const Allowed temperature{between(200'000, 400'000)};
-const Allowed word{between(0, highestWord)};
+const Allowed anyWord{between(0, highestWord)};
 // A failed read leaves 0, which no unit has for a number of its own.
 const Allowed notZero{between(1, highestWord)};
 const Allowed versionWord{between(0, 65535)};
@@ -57,7 +57,7 @@ Rows identity()
         moving(notExamined(record(
             "operatingInfo", onCamera, DEVICE_OPERATION(getOperatingInfo),
             {counted(field<&OperatingInfo::operatingMinutes>(
-                         "operatingMinutes", word, "How long the camera has run in its life", "minutes"),
+                         "operatingMinutes", anyWord, "How long the camera has run in its life", "minutes"),
                      hours),
              field<&OperatingInfo::startupCount>("startupCount", notZero, "How often the camera was started",
                                                  "starts")}))),
@@ -69,7 +69,7 @@ Rows identity()
                     counted(field<&Temperatures::fpgaMillikelvin>("fpgaMillikelvin", temperature,
                                                                   "Temperature of the FPGA", "mK"),
                             celsius)}))),
-        moving(number("bitStatus", onBlendUnit, DEVICE_OPERATION(getBitStatus), word,
+        moving(number("bitStatus", onBlendUnit, DEVICE_OPERATION(getBitStatus), anyWord,
                       "Result of the built-in test, one bit each")),
     };
 }

@@ -287,13 +287,13 @@ void CtlPlotTest::failsWithoutInputOrOutput()
 void CtlPlotTest::namesACurveWithoutAnAnswer()
 {
     const QRect legend{0, 640, 1200, 35};
-    const QImage with{picture(draw(fourCurves()).picture)};
-    const QImage without{
+    const QImage answered{picture(draw(fourCurves()).picture)};
+    const QImage unanswered{
         picture(draw(fourCurves("[null,null,null,null,null,null,null,null,null,null,null]")).picture)};
-    QCOMPARE(placesOf(without, colours[0], curvesOnly), QVector<QPoint>{});
-    QVERIFY(placesOf(without, colours[0], legend).size() >= 20);
+    QCOMPARE(placesOf(unanswered, colours[0], curvesOnly), QVector<QPoint>{});
+    QVERIFY(placesOf(unanswered, colours[0], legend).size() >= 20);
     // Its name says so.
-    QVERIFY(inked(without, legend).width() > inked(with, legend).width() + 50);
+    QVERIFY(inked(unanswered, legend).width() > inked(answered, legend).width() + 50);
 }
 
 void CtlPlotTest::drawsTheSameWhateverTheDesktopSays_data()
