@@ -31,7 +31,7 @@ namespace
 {
 
 constexpr int actionsInBatch{200};
-constexpr int batches{20};
+constexpr int commandBatches{20};
 /// More of them: each is over before the processor has got used to it.
 constexpr int runsOfSequence{100};
 constexpr double longest{std::numeric_limits<double>::max()};
@@ -181,7 +181,7 @@ private:
     }
     /// Microseconds of the processor for an action, in the quickest of several batches; the log is emptied,
     /// and what is left to the event loop is done, between them.
-    double microseconds(const Action &action, int actions, int batchCount = batches)
+    double microseconds(const Action &action, int actions, int batchCount = commandBatches)
     {
         double quickest{longest};
         for (int batch{0}; batch < batchCount; ++batch) {
@@ -198,7 +198,7 @@ private:
     }
     /// The same with nothing drawn: the pixels of the log are not moved up, nor is anything marked as to be
     /// painted.
-    double microsecondsUndrawn(const Action &action, int actions, int batchCount = batches)
+    double microsecondsUndrawn(const Action &action, int actions, int batchCount = commandBatches)
     {
         window.setUpdatesEnabled(false);
         const double quickest{microseconds(action, actions, batchCount)};

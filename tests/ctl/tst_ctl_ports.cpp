@@ -38,7 +38,7 @@ public:
     }
 };
 
-const QString without{"port = []\n"};
+const QString noPorts{"port = []\n"};
 const QString with{"[[port]]\nname = \"COM7\"\n[[port]]\nname = \"COM8\"\n"};
 
 } // namespace
@@ -48,9 +48,9 @@ void CtlPortsTest::listsThem_data()
     QTest::addColumn<QString>("ofHost");
     QTest::addColumn<QString>("scenario");
     QTest::addColumn<QStringList>("ports");
-    QTest::newRow("none") << "" << without << QStringList{};
+    QTest::newRow("none") << "" << noPorts << QStringList{};
     QTest::newRow("the library's") << "" << with << QStringList{"COM7", "COM8"};
-    QTest::newRow("the host's") << "ttyS0 ttyUSB0" << without << QStringList{"ttyS0", "ttyUSB0"};
+    QTest::newRow("the host's") << "ttyS0 ttyUSB0" << noPorts << QStringList{"ttyS0", "ttyUSB0"};
     QTest::newRow("both") << "ttyS0" << with << QStringList{"ttyS0", "COM7", "COM8"};
 }
 
@@ -76,10 +76,10 @@ void CtlPortsTest::choosesOne_data()
                         const QStringList &opened, const QString &errors, int status) {
         QTest::newRow(name) << QString{ofHost} << scenario << opened << errors << status;
     };
-    row("there is none", "", without, {}, noPort, 3);
-    row("there are several", "ttyS0 ttyUSB0", without, {},
+    row("there is none", "", noPorts, {}, noPort, 3);
+    row("there are several", "ttyS0 ttyUSB0", noPorts, {},
         "pilotel-ctl: There are several ports; name one with --port: ttyS0 ttyUSB0\n", 2);
-    row("the only one of the host", "ttyS0", without, {R"(openDevice("ttyS0"))"},
+    row("the only one of the host", "ttyS0", noPorts, {R"(openDevice("ttyS0"))"},
         "pilotel-ctl: No device opens on the port ttyS0. Is it the right one, and does no other program hold it?\n",
         3);
     row("the first one of the library", "", with, {R"(openDevice("COM7"))"}, {}, 0);

@@ -309,7 +309,7 @@ void MonkeyListsTest::everyLineOfTheTourIsKnown()
 
 void MonkeyListsTest::everyHandlerThatIsAskedExists()
 {
-    const QStringList signatures{handlers()};
+    const QStringList &signatures{handlers()};
     for (const QString &handler : sendingHandlers()) {
         QVERIFY2(!signatures.filter(QRegularExpression{QStringLiteral("^%1\\(").arg(handler)}).isEmpty(),
                  qPrintable(handler));
