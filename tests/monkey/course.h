@@ -16,7 +16,7 @@ std::optional<quint32> plainNumberIn(const QString &text);
 struct Course
 {
     quint32 seed{20261122};
-    quint32 actions{2400};                                ///< At most, of all sessions together.
+    quint32 actions{1800};                                ///< At most, of all sessions together.
     quint32 seconds{std::numeric_limits<quint32>::max()}; ///< At most.
 
     /// From PILOTEL_MONKEY_SEED, PILOTEL_MONKEY_ACTIONS and PILOTEL_MONKEY_SECONDS. Left to itself a run ends
